@@ -1,0 +1,25 @@
+# Puts the sounds and the manuals beside the executable, where the game looks for them.
+malvone_glob(sounds assets/sounds/*.wav assets/sounds/*.WAV)
+set(sounds_copied "")
+foreach(sound IN LISTS sounds)
+    cmake_path(GET sound FILENAME name)
+    add_custom_command(OUTPUT "${PROJECT_BINARY_DIR}/${name}"
+        COMMAND "${CMAKE_COMMAND}" -E copy "${sound}" "${PROJECT_BINARY_DIR}/${name}"
+        DEPENDS "${sound}" VERBATIM)
+    list(APPEND sounds_copied "${PROJECT_BINARY_DIR}/${name}")
+endforeach()
+add_custom_target(klaenge ALL DEPENDS ${sounds_copied})
+
+set(manual_builder "${PROJECT_SOURCE_DIR}/assets/manuals/bauen.py")
+if(EXISTS "${manual_builder}")
+    find_package(Python3 REQUIRED COMPONENTS Interpreter)
+    malvone_glob(manual_parts assets/manuals/* assets/pictures/*.svg)
+    list(FILTER manual_parts EXCLUDE REGEX "__pycache__")
+    set(manuals_stamp "${PROJECT_BINARY_DIR}/generated/handbuecher.stamp")
+    add_custom_command(OUTPUT "${manuals_stamp}"
+        COMMAND "${Python3_EXECUTABLE}" -B "${manual_builder}"
+                --pictures "${PROJECT_SOURCE_DIR}/assets/pictures" --out "${PROJECT_BINARY_DIR}"
+        COMMAND "${CMAKE_COMMAND}" -E touch "${manuals_stamp}"
+        DEPENDS ${manual_parts} COMMENT "Setting the manuals" VERBATIM)
+    add_custom_target(handbuecher ALL DEPENDS "${manuals_stamp}")
+endif()

@@ -1,0 +1,23 @@
+# Benchmarks, and the empty window that start-up times are compared with.
+find_package(benchmark REQUIRED)
+
+malvone_glob(bench_core_sources bench/core*.cpp)
+if(bench_core_sources AND TARGET malvone_core)
+    add_executable(bench_core ${bench_core_sources})
+    malvone_target(bench_core)
+    target_link_libraries(bench_core PRIVATE malvone_core benchmark::benchmark_main)
+endif()
+
+malvone_glob(bench_qt_sources bench/qt*.cpp)
+if(bench_qt_sources AND TARGET malvone_qt)
+    add_executable(bench_qt ${bench_qt_sources})
+    malvone_qt_program(bench_qt)
+    target_link_libraries(bench_qt PRIVATE benchmark::benchmark_main)
+endif()
+
+malvone_glob(empty_window bench/leer.cpp)
+if(empty_window)
+    add_executable(leeres_fenster ${empty_window})
+    malvone_target(leeres_fenster)
+    target_link_libraries(leeres_fenster PRIVATE Qt6::Widgets)
+endif()

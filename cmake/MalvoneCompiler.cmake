@@ -1,0 +1,45 @@
+# How every file of the game is compiled: language level, warnings, sanitizers, compiler cache.
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+
+find_program(MALVONE_CCACHE ccache)
+if(MALVONE_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
+    set(CMAKE_CXX_COMPILER_LAUNCHER "${MALVONE_CCACHE}")
+endif()
+
+add_library(malvone_flags INTERFACE)
+target_compile_options(malvone_flags INTERFACE
+    -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wdouble-promotion -Wshadow
+    -Wold-style-cast -Wcast-align -Wcast-qual -Wnon-virtual-dtor -Woverloaded-virtual
+    -Wextra-semi -Wformat=2 -Wundef -Wunused)
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    target_compile_options(malvone_flags INTERFACE
+        -Wduplicated-cond -Wduplicated-branches -Wlogical-op -Wmismatched-tags)
+    # Under the sanitizers GCC sees null pointers in the checks that it has put in itself.
+    if(NOT MALVONE_SANITIZE)
+        target_compile_options(malvone_flags INTERFACE -Wnull-dereference)
+    endif()
+endif()
+if(MALVONE_WERROR)
+    target_compile_options(malvone_flags INTERFACE -Werror)
+    if(MALVONE_SANITIZE AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+        # The sanitizers' own code hides initialisations from GCC.
+        target_compile_options(malvone_flags INTERFACE -Wno-error=maybe-uninitialized)
+    endif()
+endif()
+
+# Both compilers need the sanitizers in every object and at the link, so they are set globally.
+set(malvone_sanitizers "")
+if(MALVONE_SANITIZE)
+    list(APPEND malvone_sanitizers -fsanitize=address,undefined -fno-sanitize-recover=all)
+endif()
+if(MALVONE_FUZZ)
+    list(APPEND malvone_sanitizers -fsanitize=fuzzer-no-link)
+endif()
+if(malvone_sanitizers)
+    add_compile_options(${malvone_sanitizers} -fno-omit-frame-pointer)
+    add_link_options(${malvone_sanitizers})
+endif()
+add_link_options(-Wl,--as-needed)

@@ -1,0 +1,11 @@
+# Damaged data files: what reads them is fed with arbitrary bytes.
+if(NOT CMAKE_CXX_COMPILER_ID MATCHES "Clang")
+    message(FATAL_ERROR "MALVONE_FUZZ needs clang, which brings libFuzzer")
+endif()
+malvone_glob(fuzz_sources fuzz/*.cpp tests/fuzz/*.cpp)
+if(fuzz_sources AND TARGET malvone_core)
+    add_executable(fuzz_dateien ${fuzz_sources})
+    malvone_target(fuzz_dateien)
+    target_link_libraries(fuzz_dateien PRIVATE malvone_core)
+    target_link_options(fuzz_dateien PRIVATE -fsanitize=fuzzer)
+endif()

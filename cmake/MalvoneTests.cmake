@@ -1,0 +1,111 @@
+# The tests: GoogleTest programs, played games, and scripts that drive real windows.
+enable_testing()
+find_package(GTest REQUIRED)
+find_package(Python3 REQUIRED COMPONENTS Interpreter)
+include(GoogleTest)
+
+# Every test gets this environment, and so does the listing of the tests at build time.
+set(test_environment LC_ALL=C.UTF-8 PYTHONDONTWRITEBYTECODE=1
+    "MALVONE_BUILD=${PROJECT_BINARY_DIR}" "MALVONE_SOURCE=${PROJECT_SOURCE_DIR}")
+if(MALVONE_SANITIZE)
+    list(APPEND test_environment
+        "ASAN_OPTIONS=detect_leaks=1:detect_stack_use_after_return=1:strict_string_checks=1"
+        "LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tools/lsan.supp:print_suppressions=0"
+        "UBSAN_OPTIONS=print_stacktrace=1")
+endif()
+
+malvone_library(malvone_drehbuch tests/drehbuch)
+if(TARGET malvone_drehbuch)
+    target_link_libraries(malvone_drehbuch PUBLIC malvone_core)
+    add_executable(drehbuch tests/drehbuch/main.cpp)
+    malvone_target(drehbuch)
+    target_link_libraries(drehbuch PRIVATE malvone_drehbuch)
+endif()
+
+# What several test programs share. Nothing in it knows a binding.
+malvone_library(malvone_testhilfe tests/support)
+if(TARGET malvone_testhilfe)
+    target_link_libraries(malvone_testhilfe PUBLIC malvone_core GTest::gtest)
+endif()
+
+# malvone_tests(NAME LIBRARY... SOURCES PATTERN... [ENVIRONMENT VAR=VALUE...])
+# A test program of all sources that match; without any source there is no such program.
+function(malvone_tests NAME)
+    cmake_parse_arguments(ARG "" "" "SOURCES;ENVIRONMENT" ${ARGN})
+    malvone_glob(sources ${ARG_SOURCES})
+    if(NOT sources)
+        message(STATUS "${NAME}: no tests yet")
+        return()
+    endif()
+    add_executable(${NAME} ${sources})
+    malvone_target(${NAME})
+    if(TARGET malvone_testhilfe)
+        target_link_libraries(${NAME} PRIVATE malvone_testhilfe)
+    endif()
+    target_compile_definitions(${NAME} PRIVATE
+        MALVONE_SOURCE_DIR="${PROJECT_SOURCE_DIR}" MALVONE_BINARY_DIR="${PROJECT_BINARY_DIR}")
+    target_link_libraries(${NAME} PRIVATE ${ARG_UNPARSED_ARGUMENTS} GTest::gtest GTest::gtest_main)
+    set_target_properties(${NAME} PROPERTIES CROSSCOMPILING_EMULATOR
+        "${CMAKE_COMMAND};-E;env;${test_environment};${ARG_ENVIRONMENT}")
+    gtest_discover_tests(${NAME} WORKING_DIRECTORY "${PROJECT_SOURCE_DIR}"
+        TEST_PREFIX "${NAME}." DISCOVERY_TIMEOUT 120 PROPERTIES TIMEOUT 300)
+endfunction()
+
+if(TARGET malvone_core)
+    malvone_tests(core_tests malvone_core SOURCES
+        tests/layer/*Test.cpp tests/windows/*Test.cpp tests/board/*Test.cpp
+        tests/storage/*Test.cpp tests/game/*Test.cpp tests/ui/*Test.cpp)
+endif()
+if(TARGET malvone_drehbuch)
+    malvone_tests(drehbuch_tests malvone_drehbuch SOURCES tests/games/*Test.cpp)
+endif()
+if(TARGET malvone_klang)
+    malvone_tests(sound_tests malvone_klang SOURCES tests/sound/*Test.cpp)
+endif()
+if(TARGET malvone_qt)
+    malvone_tests(qt_tests malvone_qt malvone_bilder SOURCES tests/qt/*Test.cpp tests/qt/main.cpp
+        ENVIRONMENT QT_QPA_PLATFORM=offscreen)
+    if(TARGET qt_tests)
+        set_target_properties(qt_tests PROPERTIES AUTOMOC ON)
+    endif()
+endif()
+
+# Other programs in tests/sound are driven by the scripts there: one program to a file.
+malvone_glob(sound_programs tests/sound/*.cpp)
+list(FILTER sound_programs EXCLUDE REGEX "Test\\.cpp$")
+foreach(source IN LISTS sound_programs)
+    cmake_path(GET source STEM name)
+    add_executable(${name} ${source})
+    malvone_target(${name})
+    target_link_libraries(${name} PRIVATE malvone_klang)
+endforeach()
+
+# Played games: NAME.drehbuch is played, and what comes out must equal NAME.soll beside it.
+if(TARGET drehbuch)
+    malvone_glob(scripts tests/games/*.drehbuch)
+    foreach(script IN LISTS scripts)
+        cmake_path(GET script STEM name)
+        add_test(NAME games.${name}
+            COMMAND "${Python3_EXECUTABLE}" "${PROJECT_SOURCE_DIR}/tests/games/spielen.py"
+                    "$<TARGET_FILE:drehbuch>" "${script}"
+            WORKING_DIRECTORY "${PROJECT_SOURCE_DIR}")
+        set_tests_properties(games.${name} PROPERTIES
+            ENVIRONMENT "${test_environment}" LABELS games TIMEOUT 120)
+    endforeach()
+endif()
+
+# Scripts that drive real windows or a real sound server. Each starts the display and the server
+# that it needs by itself. Names with a leading underscore are modules, not tests.
+if(TARGET malvone)
+    malvone_glob(display_scripts tests/qt/*.py tests/sound/*_e2e.py)
+    list(FILTER display_scripts EXCLUDE REGEX "/_[^/]*$")
+    foreach(script IN LISTS display_scripts)
+        cmake_path(GET script STEM name)
+        cmake_path(GET script PARENT_PATH folder)
+        cmake_path(GET folder FILENAME folder)
+        add_test(NAME display.${folder}.${name} COMMAND "${Python3_EXECUTABLE}" "${script}"
+            WORKING_DIRECTORY "${PROJECT_SOURCE_DIR}")
+        set_tests_properties(display.${folder}.${name} PROPERTIES
+            ENVIRONMENT "${test_environment}" LABELS display TIMEOUT 300)
+    endforeach()
+endif()
