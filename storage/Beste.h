@@ -1,0 +1,23 @@
+// Beste.h: the state of the best list outside its window; it lives for one run of the program.
+#pragma once
+
+#include <cstdint>
+
+#include "ui/layer/Units.h"
+
+namespace malvone {
+
+struct Bestenstand
+{
+    Flag EintragModus = False;      // True: the window is opened, or open, for entering a name
+    std::int16_t EintragPlatz = 0;  // place 0 to 4 of the new entry; -1 while there is none
+    std::int32_t EndPunkte = 0;     // points of the finished game
+};
+
+extern Bestenstand Beste;
+
+inline constexpr int kPlaetze = 5;                      // place 0 is the best
+inline constexpr const char* kFreierPlatz = "Niemand";  // the name of a free place
+inline constexpr const char* kNeuerName = "Spieler";    // of an entry until a name is typed
+
+}  // namespace malvone

@@ -1,0 +1,26 @@
+// modBeste.h: the best list: its file, the insertion of a result, the decision at a game's end.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "storage/Beste.h"
+
+namespace malvone {
+
+std::string BesteDatei();
+// Writes the list of a first start. Fails in silence.
+void BesteVorgabe();
+// File to lists. After a failure, which the player is told, the lists hold what was read before it.
+void BesteLesen();
+// Lists to file, in one step. After a failure, which the player is told, the file is the old one.
+void BesteSpeichern();
+// Inserts Beste.EndPunkte at a place 0 to 4, lets the player type a name, then ends the game.
+void BesteEintragen(std::int16_t platz);
+// Decides whether the finished game comes into the list. Ends in frmTessel's ExternesEnde.
+void BestePruefen();
+
+// The points at a place; a place that is missing or holds no number counts as 0.
+std::int32_t PunkteDesPlatzes(int platz);
+
+}  // namespace malvone
