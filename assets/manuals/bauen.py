@@ -1,0 +1,168 @@
+#!/usr/bin/env python3
+"""Makes the three PDF manuals of the game from the HTML sources beside this script.
+
+    bauen.py --pictures DIR --out DIR
+
+DIR of --pictures holds the game's own SVG pictures; a source names them as "spiel/NAME.svg".
+Screenshots lie in "bilder" beside this script. The same input gives the same bytes; a date is
+written only where SOURCE_DATE_EPOCH sets one. Everything that WeasyPrint warns about stops the
+build, so no manual is shipped with a hole in it.
+"""
+
+import argparse
+import datetime
+import html
+import logging
+import os
+import re
+import shutil
+import sys
+from pathlib import Path
+from urllib.parse import unquote, urlparse
+
+SOURCES = Path(__file__).resolve().parent
+MANUALS = ("Malvone", "Meldefenster", "Bestespieler")
+FONT = "Liberation-Sans"
+
+
+def fail(text):
+    sys.exit(f"bauen.py: {text}")
+
+
+def import_weasyprint():
+    """Imports WeasyPrint, if need be with the interpreter that its own command uses."""
+    try:
+        import weasyprint
+        return weasyprint
+    except ImportError as error:
+        reason = str(error)
+    command = shutil.which("weasyprint")
+    if command and "MANUALS_RESTARTED" not in os.environ:
+        first_line = Path(command).read_bytes().split(b"\n", 1)[0].decode(errors="replace")
+        interpreter = first_line[2:].strip() if first_line.startswith("#!") else ""
+        if interpreter and " " not in interpreter and os.access(interpreter, os.X_OK):
+            os.environ["MANUALS_RESTARTED"] = "1"
+            os.execv(interpreter, [interpreter, *sys.argv])
+    fail("WeasyPrint is needed to make the manuals and was not found "
+         f"({reason}); install the package weasyprint")
+
+
+class Complaints(logging.Handler):
+    """Collects what WeasyPrint warns about."""
+
+    def __init__(self):
+        super().__init__(logging.WARNING)
+        self.texts = []
+
+    def emit(self, record):
+        self.texts.append(record.getMessage())
+
+
+BOARD_CELL = re.compile(r"[.#]|[1-4][ln]?")
+CELL_PICTURES = {"": "stein-{}", "l": "stein-{}-lacht", "n": "stein-{}-neutral"}
+
+
+def board(match):
+    """Turns <brett alt="..." groesse="...">rows</brett> into a drawn section of the board.
+
+    A cell is "." (empty) or a colour 1 to 4, followed by l (laughing) or n (neutral).
+    """
+    attributes = dict(re.findall(r'(\w+)="([^"]*)"', match[1]))
+    rows = [line.split() for line in match[2].strip().splitlines()]
+    if len({len(row) for row in rows}) != 1:
+        fail(f"the rows of a board are not equally long: {match[2].strip()!r}")
+    size = float(attributes.get("groesse", "7"))
+    cells = []
+    for top, row in enumerate(rows):
+        for left, cell in enumerate(row):
+            if not BOARD_CELL.fullmatch(cell):
+                fail(f"a board holds the unknown cell {cell!r}")
+            name = "kachel" if cell == "." else CELL_PICTURES[cell[1:]].format(cell[0])
+            cells.append(f'<img src="spiel/{name}.svg" alt="" style="left:{left * size:g}mm;'
+                         f'top:{top * size:g}mm;width:{size:g}mm;height:{size:g}mm">')
+    label = html.escape(attributes["alt"], quote=True)
+    return (f'<span class="brett" role="img" aria-label="{label}" '
+            f'style="width:{len(rows[0]) * size:g}mm;height:{len(rows) * size:g}mm">'
+            + "".join(cells) + "</span>")
+
+
+def read_source(name, created):
+    text = (SOURCES / f"{name}.html").read_text(encoding="utf-8")
+    text = re.sub(r"<brett\b([^>]*)>(.*?)</brett>", board, text, flags=re.DOTALL)
+    if created:
+        text = text.replace("</title>",
+                            f'</title>\n<meta name="dcterms.created" content="{created}">', 1)
+    return text
+
+
+def creation_date():
+    epoch = os.environ.get("SOURCE_DATE_EPOCH")
+    if not epoch:
+        return None
+    try:
+        moment = datetime.datetime.fromtimestamp(int(epoch), datetime.timezone.utc)
+    except (ValueError, OverflowError, OSError):
+        fail(f"SOURCE_DATE_EPOCH is no point in time: {epoch!r}")
+    return moment.strftime("%Y-%m-%dT%H:%M:%SZ")
+
+
+def fetcher(pictures):
+    """Reads local files only, and the game's pictures where a source says spiel/."""
+
+    def fetch(url, *_unused_limits, **_unused_options):
+        path = Path(unquote(urlparse(url).path))
+        if urlparse(url).scheme != "file":
+            raise ValueError("only local files may be used")
+        if path.parent == SOURCES / "spiel":
+            path = pictures / path.name
+        mime = {".svg": "image/svg+xml", ".png": "image/png", ".css": "text/css"}[path.suffix]
+        return {"string": path.read_bytes(), "mime_type": mime}
+
+    return fetch
+
+
+def finish(_document, pdf):
+    """Lets a viewer show the title in its frame, and makes sure of the fonts."""
+    import pydyf
+    pdf.catalog["ViewerPreferences"] = pydyf.Dictionary({"DisplayDocTitle": "true"})
+    for thing in pdf.objects:
+        if isinstance(thing, pydyf.Dictionary) and "FontDescriptor" == str(
+                thing.get("Type", ""))[1:]:
+            name = thing["FontName"]
+            name = name.decode() if isinstance(name, bytes) else str(name)
+            if FONT not in name:
+                fail(f"the font {name} was used in place of {FONT}; "
+                     "install the package fonts-liberation2")
+
+
+def make(weasyprint, name, pictures, out, complaints):
+    complaints.texts.clear()
+    document = weasyprint.HTML(string=read_source(name, creation_date()),
+                               base_url=(SOURCES / f"{name}.html").as_uri(),
+                               url_fetcher=fetcher(pictures)).render()
+    data = document.write_pdf(identifier=f"malvone-{name}".encode(), finisher=finish)
+    if complaints.texts:
+        fail(f"{name}.html:\n  " + "\n  ".join(complaints.texts))
+    (out / f"{name}.pdf").write_bytes(data)
+
+
+def main():
+    parser = argparse.ArgumentParser(description="Makes the PDF manuals of the game.")
+    parser.add_argument("--pictures", type=Path, required=True,
+                        help="folder of the game's SVG pictures")
+    parser.add_argument("--out", type=Path, required=True, help="folder for the PDF files")
+    arguments = parser.parse_args()
+    pictures = arguments.pictures.resolve()
+    if not pictures.is_dir():
+        fail(f"there is no picture folder {pictures}")
+    weasyprint = import_weasyprint()
+    complaints = Complaints()
+    logger = logging.getLogger("weasyprint")
+    logger.handlers = [complaints]
+    arguments.out.mkdir(parents=True, exist_ok=True)
+    for name in MANUALS:
+        make(weasyprint, name, pictures, arguments.out, complaints)
+
+
+if __name__ == "__main__":
+    main()
