@@ -18,9 +18,10 @@ WORTHOEHE = 10
 
 # Kinds of pills: rim, body from top to bottom, colour of the word, badge and its sign.
 PILLEN = {
-    "ruhe": ("#33476B", "#A3B4CF", "#7388AC", "#5A7097", NACHT, "#22365F", LICHT),
+    "ruhe": ("#33476B", "#AFBED7", "#8296BA", "#667CA4", NACHT, "#22365F", LICHT),
     "gedrueckt": ("#0B5A17", "#2FBF3F", "#45E356", "#7CF58A", "#04330B", "#0A5C17", LICHT),
     "befehl": ("#0E2257", "#5C86DB", "#3562C0", "#234A9E", LICHT, GOLD, NACHT),
+    "befehl-dunkel": ("#A9C4EE", "#5C86DB", "#3562C0", "#234A9E", LICHT, GOLD, NACHT),
     "anzeige": ("#4A5C80", "#F4F7FB", "#D3DCEA", "#B3C1D7", NACHT, None, None),
 }
 
@@ -95,8 +96,8 @@ ZEICHEN = {
 
 def tafelgrund(blatt, x, y, breite, hoehe):
     """The black well of a counter panel; its black is that of the digits."""
-    blatt.rechteck(x - 1, y - 1, breite + 2, hoehe + 2, blatt.linear((0, "#5B6B88"), (1, LICHT)), rx=5)
-    blatt.rechteck(x, y, breite, hoehe, "#000", rx=4)
+    blatt.rechteck(x - 1, y - 1, breite + 2, hoehe + 2, "#7182A0", rx=7)
+    blatt.rechteck(x, y, breite, hoehe, "#000", rx=6)
 
 
 def scheibe(blatt, cx, cy, r, hell, farbe, dunkel, rand, randbreite, glanz=0.75):
@@ -129,12 +130,11 @@ def kacheln(felder, kante):
     return "".join(f"M{zahl(x)} {zahl(y)}h{kante}v{kante}h-{kante}z" for x, y in felder)
 
 
-def schachbrett(blatt, breite, hoehe, kante):
-    """Dark blue checker over the whole sheet, lit from above."""
-    blatt.rechteck(0, 0, breite, hoehe, blatt.linear((0, "#23408C"), (0.22, TIEFBLAU), (1, NACHT)))
-    felder = [(x, y) for y in range(0, hoehe, kante) for x in range(0, breite, kante)
-              if (x + y) // kante % 2]
-    blatt.pfad(kacheln(felder, kante), LICHT, opacity=0.055)
+def schachbrett(blatt, kante, farbe, **mehr):
+    """Every second square of a checker over the whole sheet: one dashed line per row."""
+    zeilen = "".join(f"M{zeile % 2 * kante} {y + kante // 2}H{blatt.breite}"
+                     for zeile, y in enumerate(range(0, blatt.hoehe, kante)))
+    blatt.pfad(zeilen, stroke=farbe, stroke_width=kante, stroke_dasharray=f"{kante} {kante}", **mehr)
 
 
 def emblem(blatt, cx, cy, r):

@@ -12,7 +12,7 @@ from random import Random
 from blatt import Blatt, zahl
 from formen import (GOLD, HIMMEL, LICHT, NACHT, SCHATTEN, TIEFBLAU, WORTHOEHE, emblem, gesicht,
                     kacheln, marke, pille, schachbrett, scheibe, tafelgrund, wort)
-from schrift import wortbreite
+from wolken import hoehenlinie, huegelfeld
 
 ORDNER = Path(__file__).resolve().parent
 
@@ -20,10 +20,10 @@ ORDNER = Path(__file__).resolve().parent
 # lightness as well as in hue, so that the four stay apart without colour vision
 # (farbabstand.py measures it).
 STEINE = {
-    1: ("#FFB53C", "#F19D0E", "#C96F00", "#5A2400", 2.5),
+    1: ("#FFB030", "#F19D0E", "#C06600", "#4A1C00", 2.5),
     2: ("#C4F7A6", "#93E56C", "#5DBB3E", "#1E5B1E", 2),
-    3: ("#FFFFA0", "#F3F30C", "#E2D000", "#7A6A00", 1.5),
-    4: ("#63DFFF", "#0CC5F3", "#0593CC", "#053A66", 2),
+    3: ("#FFFFB0", "#F5F51A", "#EDDC00", "#867200", 1.5),
+    4: ("#58DAFF", "#0CC5F3", "#0484C0", "#04305A", 2),
 }
 
 # Segments of a digit, from the top clockwise, the middle one last; and which are lit.
@@ -33,14 +33,15 @@ ZIFFERN = {
     "6": "acdefg", "7": "abc", "8": "abcdefg", "9": "abcdfg", "leer": "",
 }
 
-# Counter panels: word, and in pixels of the panel left end, top and right end of the pill and
-# first column, last column and top of the digits. The panels lie two pixels apart in the
-# column of the main window; the pills are drawn so that their ends lie one under the other.
+# Counter panels: word, left end of the panel in the main window, and in pixels of the panel the
+# first column, the last column and the top of its digits. The panels do not lie exactly one
+# under the other; their pills and wells are drawn so that they do.
 TAFELN = {
-    "punkte": ("Punkte", 8, 1, 187, 108, 178, 6),
-    "levelpunkte": ("Levelpunkte", 10, 1, 189, 122, 178, 6),
-    "level": ("Level", 12, 3, 191, 148, 176, 8),
+    "punkte": ("Punkte", 10, 108, 178, 6),
+    "levelpunkte": ("Levelpunkte", 8, 122, 178, 6),
+    "level": ("Level", 6, 148, 176, 8),
 }
+SPALTE_LINKS, SPALTE_RECHTS, BRUNNEN_RECHTS = 18, 197, 190
 
 # The edge of the ornament: start on the top border, then cubic curves down the picture.
 BOGEN_TESSEL = (242, ((234, 44, 202, 62, 142, 66), (84, 70, 62, 96, 58, 160),
@@ -72,7 +73,7 @@ def ziffer(blatt, an):
         formen[name] = f"M{zahl(x + .4)} {zahl(y)}l1.5-1.5h3.2l1.5 1.5-1.5 1.5h-3.2z"
     for name, x, y in (("f", 3.5, 4.5), ("b", 10.5, 4.5), ("e", 3.5, 14.5), ("c", 10.5, 14.5)):
         formen[name] = f"M{zahl(x)} {zahl(y + .4)}l1.5 1.5v6.2l-1.5 1.5-1.5-1.5v-6.2z"
-    for segmente, farbe in ((set(SEGMENTE) - set(an), "#0B400F"), (set(an), "#3CFF4A")):
+    for segmente, farbe in ((set(SEGMENTE) - set(an), "#0E4A14"), (set(an), "#3CFF4A")):
         if segmente:
             blatt.pfad("".join(formen[s] for s in SEGMENTE if s in segmente), farbe)
 
@@ -96,29 +97,39 @@ def knopf(blatt, links, rechts, text, zeichen, gedrueckt):
     marke(blatt, rechts - 20, 20 + tiefe, 13, "gedrueckt" if gedrueckt else "ruhe", zeichen)
 
 
-def tafel(blatt, text, links, oben, rechts, erste, letzte, ziffern_oben):
-    pille(blatt, links, oben, rechts - links, 38, "anzeige")
+def tafel(blatt, text, lage, erste, letzte, ziffern_oben):
+    links, oben = SPALTE_LINKS - lage, ziffern_oben - 5
+    pille(blatt, links, oben, SPALTE_RECHTS - SPALTE_LINKS, 38, "anzeige")
     wort(blatt, text, links + 14, oben + 24, NACHT)
-    tafelgrund(blatt, erste - 3, ziffern_oben - 3, letzte - erste + 6, 34)
+    luft = BRUNNEN_RECHTS - lage - letzte
+    tafelgrund(blatt, erste - luft, ziffern_oben - 2, letzte - erste + 2 * luft, 32)
 
 
-def befehl(blatt, x, y, breite, hoehe, text, zeichen=None):
+def befehl(blatt, x, y, breite, hoehe, text, zeichen=None, art="befehl"):
     """A pill to click on: its word in the middle of what the badge leaves free."""
-    pille(blatt, x, y, breite, hoehe, "befehl")
-    radius = hoehe / 2 - 6
+    pille(blatt, x, y, breite, hoehe, art)
+    radius = hoehe / 2 - 5
     frei = breite - (hoehe if zeichen else 0)
     wort(blatt, text, x + frei / 2 + (4 if zeichen else 0), y + (hoehe + WORTHOEHE) // 2, LICHT, mitte=True)
     if zeichen:
         marke(blatt, x + breite - hoehe / 2, y + hoehe / 2, radius, "befehl", zeichen)
 
 
+def gefasst(blatt, x, y, breite, hoehe, text, zeichen):
+    """A pill to click on in a setting four pixels wide."""
+    blatt.rechteck(x, y, breite, hoehe, "#6F89B4", rx=hoehe / 2)
+    blatt.rechteck(x + 1, y + 1, breite - 2, hoehe - 2, blatt.linear((0, "#9DB4D9"), (1, "#EAF1FB")),
+                   rx=hoehe / 2 - 1)
+    befehl(blatt, x + 4, y + 3, breite - 8, hoehe - 7, text, zeichen)
+
+
 def angebot(blatt, text, zeichen):
-    befehl(blatt, 0, 1, 191, 38, text, zeichen)
+    gefasst(blatt, 0, 0, 191, 41, text, zeichen)
 
 
 def felder(blatt):
-    befehl(blatt, 10, 2, 189, 40, "Neues Spiel", "spielen")
-    befehl(blatt, 10, 52, 129, 40, "Beenden", "kreuz")
+    gefasst(blatt, 10, 2, 189, 41, "Neues Spiel", "spielen")
+    gefasst(blatt, 10, 52, 129, 41, "Beenden", "kreuz")
 
 
 # --- backgrounds --------------------------------------------------------------------------------
@@ -176,8 +187,7 @@ def grund_beste(blatt):
 def rahmen(blatt):
     """Quiet tiling; the lines around the shown part and around the stones make the frame."""
     blatt.rechteck(0, 0, 866, 580, "#9DB0CB")
-    hell = [(x, y) for y in range(0, 580, 8) for x in range(y // 8 % 2 * 8, 866, 16)]
-    blatt.pfad(kacheln(hell, 8), "#93A7C4")
+    schachbrett(blatt, 8, "#93A7C4")
     blatt.pfad("M0 0h463v337h-463zM1 1v335h461v-335z", "#3F5378", fill_rule="evenodd")
     blatt.pfad("M1 1h461v1h-460v334h-1z", LICHT, opacity=0.6)
     blatt.pfad("M462 2v334h-460v-1h459v-333z", NACHT, opacity=0.25)
@@ -186,25 +196,34 @@ def rahmen(blatt):
 
 
 def hintergrund(blatt):
-    """Mottled grey: flat clouds of little contrast over a few soft ones; stretching does no harm."""
-    zufall = Random(14)
-    blatt.rechteck(0, 0, 643, 647, "#BDBDBD")
-    for farbe, anzahl in ((LICHT, 9), ("#000", 9)):
-        weich = blatt.radial((0, farbe, 0.09 if farbe == LICHT else 0.07), (1, farbe, 0))
-        for _ in range(anzahl):
-            blatt.ellipse(zufall.randrange(643), zufall.randrange(647), zufall.randrange(50, 110),
-                          zufall.randrange(40, 90), weich)
+    """Mottled grey: hills of a random field, filled from one contour line to the next.
+
+    From line to line the grey grows by one level only, so no edge is seen and the whole looks
+    soft at any stretching, and the flat opaque fills cost less than gradients.
+    """
+    spalten, zeilen, weite = 33, 33, 21
+    feld = huegelfeld(Random(14), spalten, zeilen, weite, 150)
+    dunkel, hell = 0xB7, 0xC3
+    hoehen = sorted(feld.values())
+    blatt.rechteck(0, 0, 643, 647, f"#{dunkel:02X}{dunkel:02X}{dunkel:02X}")
+    for grau in range(dunkel + 1, hell + 1):
+        anteil = (grau - dunkel) / (hell - dunkel + 1)
+        tief, hoch = hoehen[len(hoehen) // 25], hoehen[-len(hoehen) // 25]
+        blatt.pfad(hoehenlinie(feld, spalten, zeilen, weite, tief + anteil * (hoch - tief)),
+                   f"#{grau:02X}{grau:02X}{grau:02X}")
 
 
 def meldung(blatt, breite, hoehe, *pillen):
     """Ground of a message window, whose shown part is breite x hoehe."""
-    schachbrett(blatt, blatt.breite, blatt.hoehe, 14)
+    blatt.rechteck(0, 0, blatt.breite, blatt.hoehe,
+                   blatt.linear((0, "#23408C"), (0.22, TIEFBLAU), (1, NACHT)))
+    schachbrett(blatt, 14, LICHT, opacity=0.055)
     blatt.rechteck(0, 0, breite, 24, blatt.linear((0, LICHT, 0.16), (1, LICHT, 0.02)))
     blatt.pfad(f"M0 0h{breite}v{hoehe}h-{breite}zM1 1v{hoehe - 2}h{breite - 2}v-{hoehe - 2}z", HIMMEL,
                fill_rule="evenodd")
     emblem(blatt, 30, 26, 17)
     for x, y, pillenbreite, text in pillen:
-        befehl(blatt, x, y, pillenbreite, 27, text)
+        befehl(blatt, x, y, pillenbreite, 27, text, art="befehl-dunkel")
 
 
 def schliessen(blatt):
