@@ -4,7 +4,8 @@
     bauen.py --pictures DIR --out DIR
 
 DIR of --pictures holds the game's own SVG pictures; a source names them as "spiel/NAME.svg".
-Screenshots lie in "bilder" beside this script. The same input gives the same bytes; a date is
+They are drawn as fine pixels by rsvg-convert, because PDF viewers differ in how they draw shaded
+shapes: many show torn rims and lines where there are none. Screenshots lie in "bilder" beside this script. The same input gives the same bytes; a date is
 written only where SOURCE_DATE_EPOCH sets one. Everything that WeasyPrint warns about stops the
 build, so no manual is shipped with a hole in it.
 """
@@ -16,6 +17,7 @@ import logging
 import os
 import re
 import shutil
+import subprocess
 import sys
 from pathlib import Path
 from urllib.parse import unquote, urlparse
@@ -23,6 +25,7 @@ from urllib.parse import unquote, urlparse
 SOURCES = Path(__file__).resolve().parent
 MANUALS = ("Malvone", "Meldefenster", "Bestespieler")
 FONT = "Liberation-Sans"
+PICTURE_ZOOM = 6  # A stone of 32 pixels printed 7.6 mm wide gets 640 dots per inch.
 
 
 def fail(text):
@@ -106,6 +109,17 @@ def creation_date():
     return moment.strftime("%Y-%m-%dT%H:%M:%SZ")
 
 
+def drawn(picture):
+    """The PNG bytes of an SVG picture."""
+    if not picture.is_file():
+        raise ValueError(f"there is no picture {picture}")
+    run = subprocess.run(["rsvg-convert", "--zoom", str(PICTURE_ZOOM), picture],
+                         capture_output=True, check=False)
+    if run.returncode != 0 or run.stderr:
+        raise ValueError(run.stderr.decode(errors="replace").strip() or "rsvg-convert failed")
+    return run.stdout
+
+
 def fetcher(pictures):
     """Reads local files only, and the game's pictures where a source says spiel/."""
 
@@ -114,22 +128,23 @@ def fetcher(pictures):
         if urlparse(url).scheme != "file":
             raise ValueError("only local files may be used")
         if path.parent == SOURCES / "spiel":
-            path = pictures / path.name
-        mime = {".svg": "image/svg+xml", ".png": "image/png", ".css": "text/css"}[path.suffix]
+            return {"string": drawn(pictures / path.name), "mime_type": "image/png"}
+        mime = {".png": "image/png", ".css": "text/css"}[path.suffix]
         return {"string": path.read_bytes(), "mime_type": mime}
 
     return fetch
 
 
 def finish(_document, pdf):
-    """Lets a viewer show the title in its frame, and makes sure of the fonts."""
+    """Lets a viewer show the title in its frame, packs the streams, makes sure of the fonts."""
     import pydyf
     pdf.catalog["ViewerPreferences"] = pydyf.Dictionary({"DisplayDocTitle": "true"})
     for thing in pdf.objects:
-        if isinstance(thing, pydyf.Dictionary) and "FontDescriptor" == str(
-                thing.get("Type", ""))[1:]:
+        if isinstance(thing, pydyf.Stream) and "Filter" not in thing.extra:
+            thing.compress = True
+        if isinstance(thing, pydyf.Dictionary) and thing.get("Type") == "/FontDescriptor":
             name = thing["FontName"]
-            name = name.decode() if isinstance(name, bytes) else str(name)
+            name = name.decode() if isinstance(name, bytes) else name
             if FONT not in name:
                 fail(f"the font {name} was used in place of {FONT}; "
                      "install the package fonts-liberation2")
@@ -140,7 +155,7 @@ def make(weasyprint, name, pictures, out, complaints):
     document = weasyprint.HTML(string=read_source(name, creation_date()),
                                base_url=(SOURCES / f"{name}.html").as_uri(),
                                url_fetcher=fetcher(pictures)).render()
-    data = document.write_pdf(identifier=f"malvone-{name}".encode(), finisher=finish)
+    data = document.write_pdf(finisher=finish)
     if complaints.texts:
         fail(f"{name}.html:\n  " + "\n  ".join(complaints.texts))
     (out / f"{name}.pdf").write_bytes(data)
@@ -156,9 +171,11 @@ def main():
     if not pictures.is_dir():
         fail(f"there is no picture folder {pictures}")
     weasyprint = import_weasyprint()
+    if not shutil.which("rsvg-convert"):
+        fail("rsvg-convert is needed to draw the pictures and was not found; "
+             "install the package librsvg2-bin")
     complaints = Complaints()
-    logger = logging.getLogger("weasyprint")
-    logger.handlers = [complaints]
+    logging.getLogger("weasyprint").handlers = [complaints]
     arguments.out.mkdir(parents=True, exist_ok=True)
     for name in MANUALS:
         make(weasyprint, name, pictures, arguments.out, complaints)
