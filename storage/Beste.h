@@ -16,7 +16,6 @@ struct Bestenstand
 
 extern Bestenstand Beste;
 
-inline constexpr int kPlaetze = 5;                      // place 0 is the best
 inline constexpr const char* kFreierPlatz = "Niemand";  // the name of a free place
 inline constexpr const char* kNeuerName = "Spieler";    // of an entry until a name is typed
 

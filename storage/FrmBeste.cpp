@@ -1,0 +1,195 @@
+// FrmBeste.cpp: what the window of the best players does. It holds the list in memory, shows it,
+// and takes the name of a new entry.
+#include "ui/windows/FrmBeste.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "storage/Datenordner.h"
+#include "storage/Meldungstext.h"
+#include "storage/modBeste.h"
+#include "ui/Handbuch.h"
+#include "ui/layer/App.h"
+#include "ui/layer/CodePage.h"
+#include "ui/layer/Keys.h"
+#include "ui/windows/FrmDigital.h"
+
+namespace malvone {
+
+namespace {
+
+constexpr Meldungstext kAlleLoeschen = {
+    "\r\nSind Sie sicher,\r\ndass Sie alle Einträge löschen möchten?",
+    "\r\n»Einträge löschen« bestätigen"};
+
+constexpr std::int32_t kGroesste = 9999999;  // the greatest number that has room in a row
+
+constexpr Twips kNamenLeft = 1300;
+constexpr Twips kNamenTop = 750;
+constexpr Twips kZeilenabstand = 90;
+
+}  // namespace
+
+void FrmBeste::Form_Load()
+{
+    cmdTessel.Visible = true;
+    shpTessel.Visible = true;
+    ZeilenAnordnen();
+    for (int stelle = 0; stelle < kPlaetze * kZiffernJePlatz; ++stelle) {
+        imgDiggi(stelle).Picture = frmDigital->imgDiggi(kZifferLeer).Picture;
+    }
+    BesteLesen();
+}
+
+void FrmBeste::ZeilenAnordnen()
+{
+    txtSpieler(0).Move(kNamenLeft, kNamenTop);
+    Twips top = kNamenTop;
+    for (int i = 1; i < kPlaetze; ++i) {
+        const TextBox& darueber = txtSpieler(i - 1);
+        top = std::nearbyint(top + txtSpieler(0).Height + kZeilenabstand);
+        txtSpieler(i).Move(kNamenLeft, top, darueber.Width, darueber.Height);
+    }
+    for (int platz = 0; platz < kPlaetze; ++platz) {
+        const int einer = platz * kZiffernJePlatz;
+        if (platz > 0) {
+            const Image& darueber = imgDiggi(einer - kZiffernJePlatz);
+            imgDiggi(einer).Move(darueber.Left, darueber.Top + darueber.Height + kZeilenabstand);
+        }
+        for (int stelle = einer + 1; stelle < einer + kZiffernJePlatz; ++stelle) {
+            const Image& rechts = imgDiggi(stelle - 1);
+            imgDiggi(stelle).Move(rechts.Left - imgDiggi(stelle).Width, rechts.Top);
+        }
+    }
+}
+
+void FrmBeste::Form_Activate()
+{
+    lblTessel.Visible = false;
+    if (Beste.EintragModus == False) {
+        for (int platz = 0; platz < lstName.ListCount(); ++platz) {
+            if (lstName.List(platz) != kFreierPlatz) {
+                lblTessel.Visible = true;
+            }
+        }
+    }
+    for (int platz = 0; platz < kPlaetze; ++platz) {
+        txtSpieler(platz).Text = lstName.List(platz);
+        txtSpieler(platz + kPlaetze).Text = lstPunkte.List(platz);
+    }
+    FelderSperren();
+    if (Beste.EintragModus == True) {
+        cmdTessel.Visible = false;
+        shpTessel.Visible = false;
+        TextBox& name = txtSpieler(Beste.EintragPlatz);
+        name.Locked = false;
+        name.TabStop = true;
+        name.SelStart = 0;
+        name.SelLength = static_cast<std::int32_t>(CharacterCount(name.Text.Get()));
+        name.SetFocus();
+    }
+    PunkteAnzeigen();
+}
+
+void FrmBeste::FelderSperren()
+{
+    for (int i = 0; i < 2 * kPlaetze; ++i) {
+        txtSpieler(i).TabStop = false;
+        txtSpieler(i).Locked = true;
+    }
+}
+
+void FrmBeste::PunkteAnzeigen()
+{
+    for (int platz = 0; platz < kPlaetze; ++platz) {
+        const int einer = platz * kZiffernJePlatz;
+        for (int stelle = einer; stelle < einer + kZiffernJePlatz; ++stelle) {
+            imgDiggi(stelle).Picture = frmDigital->imgDiggi(kZifferLeer).Picture;
+        }
+        // By design (leere-ziffer): one would expect a 0 here. A row whose points are 0 stays dark,
+        // unlike the displays of the main window. Test: BesteFenster.ARowShowsItsPoints
+        const std::int32_t punkte = PunkteDesPlatzes(platz);
+        if (punkte == 0) {
+            continue;
+        }
+        // By design (siebte-stelle): one would expect seven digits to be seen. The first of them
+        // lies in a place that is never visible. More than seven digits have no room: nines in
+        // every place say "at least". Test: BesteFenster.ARowShowsItsPoints
+        const std::string text =
+            punkte > kGroesste ? std::string(kZiffernJePlatz, '9') : lstPunkte.List(platz);
+        const int laenge = static_cast<int>(std::min<std::size_t>(text.size(), kZiffernJePlatz));
+        for (int k = 0; k < laenge; ++k) {
+            const char zeichen = text[text.size() - 1 - static_cast<std::size_t>(k)];
+            if (zeichen >= '0' && zeichen <= '9') {
+                imgDiggi(einer + k).Picture = frmDigital->imgDiggi(zeichen - '0').Picture;
+            }
+        }
+    }
+}
+
+void FrmBeste::cmdEnde_Click()
+{
+    lstName.Clear();
+    lstPunkte.Clear();
+    for (int platz = 0; platz < kPlaetze; ++platz) {
+        lstName.AddItem(txtSpieler(platz).Text);
+        lstPunkte.AddItem(txtSpieler(platz + kPlaetze).Text);
+    }
+    if (Beste.EintragModus == True) {
+        TextBox& name = txtSpieler(Beste.EintragPlatz);
+        // By design (blanker-name): one would expect a name of blanks to count as empty. It is
+        // saved as typed. Test: BesteFenster.OnlyAnEmptyNameBecomesSpieler
+        if (name.Text.Get().empty()) {
+            name.Text = kNeuerName;
+            lstName.SetList(Beste.EintragPlatz, kNeuerName);
+        }
+        BesteSpeichern();
+    }
+    Visible = false;
+}
+
+void FrmBeste::cmdTessel_Click()
+{
+    Beste.EintragModus = False;
+    bool alleFrei = true;
+    for (int platz = 0; platz < kPlaetze; ++platz) {
+        alleFrei = alleFrei && txtSpieler(platz).Text.Get() == kFreierPlatz;
+    }
+    // By design (niemand-ist-frei): one would expect an entry of a player who calls himself
+    // "Niemand" to be worth a wipe. His name counts as a free place.
+    // Test: BesteFenster.AListOfNobodyIsNeverWiped
+    if (!alleFrei && FrageStellen(kAlleLoeschen)) {
+        if (ExistiertDatei(BesteDatei())) {
+            App.System().DeleteFileA(BesteDatei());
+        }
+        BesteVorgabe();
+        BesteLesen();
+        cmdTessel.Visible = false;
+        shpTessel.Visible = false;
+    }
+    // By design (fenster-geht-zu): one would expect the answer no to lead back to the list. The
+    // window closes whatever the answer was. Test:
+    // BesteFenster.TheWipeClosesTheWindowWhateverTheAnswer
+    Visible = false;
+}
+
+void FrmBeste::lblTessel_Click()
+{
+    cmdTessel_Click();
+}
+
+void FrmBeste::Form_KeyDown(std::int16_t& KeyCode, std::int16_t /*Shift*/)
+{
+    if (KeyCode == kKeyF1) {
+        HandbuchOeffnen("Bestespieler.pdf");
+    }
+}
+
+void FrmBeste::Form_Unload()
+{
+    // By design (verlorener-eintrag): one would expect an entry to be saved by the title bar's
+    // close box too. Only cmdEnde saves. Test: BesteFenster.TheTitleBarLosesTheEntry
+    Visible = false;
+}
+
+}  // namespace malvone

@@ -1,0 +1,155 @@
+// modBeste.cpp: "malvone.txt", five names and then five points, and the way into it. While the
+// program runs the list lives in lstName and lstPunkte of frmBeste.
+#include "storage/modBeste.h"
+
+#include <vector>
+
+#include "game/Spielstand.h"
+#include "storage/Datenordner.h"
+#include "storage/Meldungstext.h"
+#include "storage/Zahlen.h"
+#include "ui/layer/App.h"
+#include "ui/windows/FrmBeste.h"
+#include "ui/windows/FrmTessel.h"
+
+namespace malvone {
+
+Bestenstand Beste;
+
+namespace {
+
+constexpr Meldungstext kNichtLesbar = {
+    "\r\nDie Daten für »Beste Spieler«\r\nkonnten nicht gelesen werden!",
+    "\r\nFehlernummer: "};  // the number follows
+constexpr Meldungstext kNichtGespeichert = {
+    "\r\nDie Werte für »Beste Spieler«\r\nkonnten nicht gespeichert werden.",
+    "\r\n\r\nFehler beim Speichern"};
+constexpr Meldungstext kKeinEintrag = {
+    "Ein Eintrag in die Liste der »Besten Spieler«\r\nist leider nicht möglich!",
+    "\r\nMehr Erfolg beim nächsten Spiel."};
+constexpr Meldungstext kNeueBestmarke = {
+    "Sehr gut!!\r\nSie haben eine neue Bestmarke erreicht.",
+    "Möchten Sie sich in die Liste der »Besten Spieler« eintragen?"};
+
+constexpr int kErsterVorgabewert = 5000;
+constexpr int kVorgabeschritt = 300;
+
+constexpr Twips kVersatz = 100;  // of the window for the entry, up and left of the main window
+
+// All names, then all points: the fields of a place are five lines apart.
+constexpr std::size_t kZeilen = 2 * static_cast<std::size_t>(kPlaetze);
+
+struct Eintrag
+{
+    std::string Name;
+    std::string Punkte;
+};
+
+void ListenLeeren()
+{
+    frmBeste->lstName.Clear();
+    frmBeste->lstPunkte.Clear();
+}
+
+}  // namespace
+
+std::string BesteDatei()
+{
+    // By design (wurzel-der-platte): one would expect DatenPfad. The list takes the data folder
+    // directly, so without one it lies in the root of the drive, while the snapshot goes to the
+    // program's folder. Test: Datenordner.WithoutAWindowsFolderTheTwoFilesGoDifferentWays
+    return MitBackslash(Daten.DatenOrdner) + "malvone.txt";
+}
+
+void BesteVorgabe()
+{
+    std::vector<std::string> zeilen(kPlaetze, kFreierPlatz);
+    for (int platz = 0; platz < kPlaetze; ++platz) {
+        zeilen.push_back(std::to_string(kErsterVorgabewert - platz * kVorgabeschritt));
+    }
+    // By design (stille-vorgabe): one would expect a message when this fails. There is none; the
+    // window of the best players tells it when it reads the list.
+    // Test: BestePlatz.ADefaultListThatCannotBeWrittenIsSilent
+    static_cast<void>(App.System().ReplaceTextLines(BesteDatei(), zeilen));
+}
+
+void BesteLesen()
+{
+    ListenLeeren();
+    const ReadLines gelesen = App.System().ReadTextLines(BesteDatei(), kZeilen);
+    for (std::size_t zeile = 0; zeile < gelesen.Lines.size(); ++zeile) {
+        ListBox& liste = zeile < kPlaetze ? frmBeste->lstName : frmBeste->lstPunkte;
+        liste.AddItem(gelesen.Lines[zeile]);
+    }
+    if (gelesen.Fault != FileFault::None) {
+        const auto nummer = static_cast<std::int32_t>(gelesen.Fault);
+        MeldungZeigen(kNichtLesbar.Meldung,
+                      std::string(kNichtLesbar.Titel) + std::to_string(nummer));
+    }
+}
+
+void BesteSpeichern()
+{
+    std::vector<std::string> zeilen(kZeilen);
+    for (int platz = 0; platz < kPlaetze; ++platz) {  // a missing item is an empty line
+        zeilen[static_cast<std::size_t>(platz)] = frmBeste->lstName.List(platz);
+        zeilen[static_cast<std::size_t>(platz + kPlaetze)] = frmBeste->lstPunkte.List(platz);
+    }
+    if (App.System().ReplaceTextLines(BesteDatei(), zeilen) != FileFault::None) {
+        MeldungZeigen(kNichtGespeichert);
+    }
+}
+
+void BesteEintragen(std::int16_t platz)
+{
+    std::vector<Eintrag> eintraege;
+    for (int i = 0; i < kPlaetze; ++i) {
+        eintraege.push_back({frmBeste->lstName.List(i), frmBeste->lstPunkte.List(i)});
+    }
+    eintraege.insert(eintraege.begin() + platz, {kNeuerName, std::to_string(Beste.EndPunkte)});
+    eintraege.pop_back();
+    ListenLeeren();
+    for (const Eintrag& eintrag : eintraege) {
+        frmBeste->lstPunkte.AddItem(eintrag.Punkte);
+        frmBeste->lstName.AddItem(eintrag.Name);
+    }
+    frmBeste->Move(frmTessel->Left - kVersatz, frmTessel->Top - kVersatz);
+    frmBeste->Show(ShowMode::Modal);
+    frmTessel->ExternesEnde();
+}
+
+std::int32_t PunkteDesPlatzes(int platz)
+{
+    // By design (keine-zahl-ist-null): one would expect a damaged list to be refused. A place whose
+    // points are missing or no number counts as 0, so that any result above 0 takes it.
+    // Test: BestePruefen.APlaceWithoutANumberCountsAsNothing
+    return Zahl32(frmBeste->lstPunkte.List(platz)).value_or(0);
+}
+
+void BestePruefen()
+{
+    Beste.EintragModus = False;
+    Beste.EintragPlatz = -1;
+    Beste.EndPunkte = Stand.PunkteGesamt;
+    for (std::int16_t platz = 0; platz < kPlaetze; ++platz) {
+        // By design (der-aeltere-zuerst): one would expect the newer of two equal results to take
+        // the place. Only a greater one does. Test: BestePruefen.OnlyAGreaterResultTakesAPlace
+        if (Beste.EndPunkte > PunkteDesPlatzes(platz)) {
+            Beste.EintragPlatz = platz;
+            break;
+        }
+    }
+    if (Beste.EintragPlatz == -1) {
+        MeldungZeigen(kKeinEintrag);
+        frmTessel->ExternesEnde();
+        return;
+    }
+    if (!FrageStellen(kNeueBestmarke)) {
+        frmTessel->ExternesEnde();
+        return;
+    }
+    Beste.EintragModus = True;
+    BesteEintragen(Beste.EintragPlatz);
+}
+
+}  // namespace malvone

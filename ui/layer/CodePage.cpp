@@ -1,0 +1,160 @@
+// CodePage.cpp: turns texts between UTF-8 and Windows-1252, and counts their characters.
+#include "ui/layer/CodePage.h"
+
+#include <algorithm>
+#include <array>
+
+namespace malvone {
+
+namespace {
+
+// The characters of the bytes 128 to 159; all other bytes are the characters of the same number.
+// The five bytes without a character stand for themselves.
+constexpr std::uint8_t kFirstSpecial = 0x80;
+constexpr std::array<char32_t, 32> kSpecial = {
+    0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
+    0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
+    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
+
+constexpr char32_t kNoCharacter = 0xFFFFFFFF;  // a byte that is no UTF-8
+
+struct Decoded
+{
+    char32_t Character;
+    std::size_t Length;  // in bytes, 1 for a byte that is no UTF-8
+};
+
+constexpr std::uint8_t Byte(char c)
+{
+    return static_cast<std::uint8_t>(c);
+}
+
+// The first character of a text that is not empty. Over-long forms, surrogates and numbers beyond
+// the last character are no UTF-8.
+Decoded Decode(std::string_view text)
+{
+    struct Form
+    {
+        std::uint8_t Mask;
+        std::uint8_t Lead;
+        char32_t Smallest;
+    };
+    constexpr std::array<Form, 4> kForms = {
+        {{0x80, 0x00, 0x0}, {0xE0, 0xC0, 0x80}, {0xF0, 0xE0, 0x800}, {0xF8, 0xF0, 0x10000}}};
+    const std::uint8_t lead = Byte(text[0]);
+    for (std::size_t extra = 0; extra < kForms.size(); ++extra) {
+        const Form& form = kForms[extra];
+        if ((lead & form.Mask) != form.Lead || text.size() <= extra) {
+            continue;
+        }
+        char32_t character = lead & static_cast<std::uint8_t>(~form.Mask);
+        for (std::size_t i = 1; i <= extra; ++i) {
+            if ((Byte(text[i]) & 0xC0U) != 0x80U) {
+                return {kNoCharacter, 1};
+            }
+            character = (character << 6U) | (Byte(text[i]) & 0x3FU);
+        }
+        const bool surrogate = character >= 0xD800 && character <= 0xDFFF;
+        if (character < form.Smallest || character > 0x10FFFF || surrogate) {
+            return {kNoCharacter, 1};
+        }
+        return {character, extra + 1};
+    }
+    return {kNoCharacter, 1};
+}
+
+void AppendUtf8(std::string& text, char32_t character)
+{
+    const auto put = [&text](char32_t byte) { text += static_cast<char>(byte); };
+    if (character < 0x80) {
+        put(character);
+    } else if (character < 0x800) {
+        put(0xC0U | (character >> 6U));
+        put(0x80U | (character & 0x3FU));
+    } else {  // the code page holds nothing beyond three bytes
+        put(0xE0U | (character >> 12U));
+        put(0x80U | ((character >> 6U) & 0x3FU));
+        put(0x80U | (character & 0x3FU));
+    }
+}
+
+// The byte of a character, "?" where the code page lacks it.
+char ToByte(char32_t character)
+{
+    const bool same = character < kFirstSpecial || (character >= 0xA0 && character <= 0xFF);
+    if (same) {
+        return static_cast<char>(character);
+    }
+    const auto* const found = std::find(kSpecial.begin(), kSpecial.end(), character);
+    return found == kSpecial.end() ? '?'
+                                   : static_cast<char>(kFirstSpecial + (found - kSpecial.begin()));
+}
+
+constexpr bool IsControl(char32_t character)
+{
+    return character < 0x20 || (character >= 0x7F && character < 0xA0);
+}
+
+}  // namespace
+
+std::string FromWindows1252(std::string_view bytes)
+{
+    std::string text;
+    text.reserve(bytes.size());
+    for (const char c : bytes) {
+        const std::uint8_t byte = Byte(c);
+        const bool special = byte >= kFirstSpecial && byte < kFirstSpecial + kSpecial.size();
+        AppendUtf8(text, special ? kSpecial[byte - kFirstSpecial] : byte);
+    }
+    return text;
+}
+
+std::string ToWindows1252(std::string_view utf8)
+{
+    std::string bytes;
+    bytes.reserve(utf8.size());
+    while (!utf8.empty()) {
+        const Decoded next = Decode(utf8);
+        bytes += ToByte(next.Character);
+        utf8.remove_prefix(next.Length);
+    }
+    return bytes;
+}
+
+std::string KeepTypable(std::string_view utf8)
+{
+    std::string kept;
+    while (!utf8.empty()) {
+        const Decoded next = Decode(utf8);
+        const bool held = next.Character == U'?' || ToByte(next.Character) != '?';
+        if (held && !IsControl(next.Character)) {
+            kept += utf8.substr(0, next.Length);
+        }
+        utf8.remove_prefix(next.Length);
+    }
+    return kept;
+}
+
+std::size_t CharacterCount(std::string_view utf8)
+{
+    std::size_t count = 0;
+    for (; !utf8.empty(); ++count) {
+        utf8.remove_prefix(Decode(utf8).Length);
+    }
+    return count;
+}
+
+std::string_view Characters(std::string_view utf8, std::size_t first, std::size_t count)
+{
+    const auto skip = [](std::string_view text, std::size_t characters) {
+        std::size_t bytes = 0;
+        for (; characters > 0 && bytes < text.size(); --characters) {
+            bytes += Decode(text.substr(bytes)).Length;
+        }
+        return bytes;
+    };
+    utf8.remove_prefix(skip(utf8, first));
+    return utf8.substr(0, skip(utf8, count));
+}
+
+}  // namespace malvone

@@ -1,0 +1,80 @@
+// Files.h: the platform's services around files and folders, the same below all bindings. What
+// plays sounds and opens documents is left to those who derive from it.
+#pragma once
+
+#include <sys/types.h>
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "ui/layer/Platform.h"
+
+namespace malvone {
+
+// The folder that stands for the root of the drive where nothing else is wished: $XDG_DATA_HOME if
+// it is absolute, else .local/share in the home folder, which is $HOME, or without it the one of
+// the user's account. Nothing where the home folder does not exist.
+std::optional<std::filesystem::path> DefaultDataRoot();
+
+// After the end of the program nothing is written, deleted or made any more.
+class FilePlatform : public Platform
+{
+public:
+    // Without a root there is no Windows folder, and no file can be kept.
+    FilePlatform(std::optional<std::filesystem::path> root, std::filesystem::path programFolder);
+
+    // Where a path of the game lies on this system; nothing for a path that leads nowhere.
+    std::optional<std::filesystem::path> Translate(std::string_view path) const;
+
+    std::string GetWindowsDirectoryA() override;
+    // A root that is missing is made on the way, with all folders above it.
+    bool CreateDirectoryA(const std::string& path) override;
+    // A root that is missing counts as an empty folder, as the root of a drive is always there.
+    std::int32_t OpenFileExist(const std::string& path) override;
+    void DeleteFileA(const std::string& path) override;
+
+    // A line of more than 64 KiB ends the reading with OtherDevice: no file of the game has one,
+    // and a file of any size takes no more memory than the lines that are wanted. Only a regular
+    // file is read; anything else is PathAccess, and a pipe holds nobody up.
+    ReadLines ReadTextLines(const std::string& path, std::size_t count) override;
+    // What is written this way is not worth waiting for the disk.
+    FileFault WriteTextLines(const std::string& path,
+                             const std::vector<std::string>& lines) override;
+    // The new file is complete on the disk before it gets the name of the old one, whose
+    // permissions it takes over. A link is followed, and a file that may not be written stays as it
+    // is. The new file is written under the name of the old one and ".neu" behind it; what a run
+    // that was killed has left there is overwritten, and two runs never write the same one.
+    FileFault ReplaceTextLines(const std::string& path,
+                               const std::vector<std::string>& lines) override;
+
+    std::uint64_t ClockNs() override;
+
+protected:
+    // The system's calls that can fail half-way, to be put out of order by tests. They answer as
+    // the system does: a negative number and errno.
+    virtual int Open(const char* path, int flags, mode_t mode);
+    virtual ssize_t Write(int file, const char* bytes, std::size_t count);
+    virtual int Sync(int file);
+    virtual int Close(int file);
+    virtual int Rename(const char* from, const char* to);
+
+private:
+    class Handle;
+    struct Replacement;
+
+    std::optional<std::filesystem::path> root_;
+    std::filesystem::path programFolder_;
+
+    // Where a file is to be written; the root is made if the file lies directly in it.
+    std::optional<std::filesystem::path> PlaceToWrite(const std::string& path) const;
+    Handle OpenNew(const Replacement& replacement, const std::filesystem::path& name);
+    FileFault LookAtOld(Replacement& replacement);
+    FileFault Fill(const Replacement& replacement, int file, std::string_view content);
+    FileFault WriteAll(int file, std::string_view content);
+    void SyncFolder(const std::filesystem::path& folder);
+};
+
+}  // namespace malvone
