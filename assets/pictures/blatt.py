@@ -37,7 +37,7 @@ class Blatt:
 
     def _verlauf(self, art, stufen, attribute):
         stops = "".join(
-            f'<stop offset="{zahl(lage)}" stop-color="{farbe}"{_attribute({"stop_opacity": deckung})}/>'
+            f"<stop{_attribute({'offset': lage, 'stop_color': farbe, 'stop_opacity': deckung})}/>"
             for lage, farbe, deckung in ((*stufe, None)[:3] for stufe in stufen)
         )
         inhalt = f"{art}{_attribute(attribute)}>{stops}</{art}>"
@@ -46,7 +46,10 @@ class Blatt:
         return f"url(#{self._verlaeufe[inhalt]})"
 
     def linear(self, *stufen, quer=False):
-        """A paint from top to bottom, or from left to right if `quer`; steps are (place, colour, opacity)."""
+        """A paint from top to bottom, or from left to right if `quer`.
+
+        The steps are (place, colour) or (place, colour, opacity).
+        """
         ende = {"x2": 1, "y2": 0} if quer else {"x2": 0, "y2": 1}
         return self._verlauf("linearGradient", stufen, {"x1": 0, "y1": 0, **ende})
 
@@ -55,7 +58,8 @@ class Blatt:
         return self._verlauf("radialGradient", stufen, {"cx": cx, "cy": cy, "r": r})
 
     def rechteck(self, x, y, breite, hoehe, fill, rx=None, **mehr):
-        self._form("rect", {"x": x, "y": y, "width": breite, "height": hoehe, "rx": rx, "ry": rx}, fill, mehr)
+        masse = {"x": x, "y": y, "width": breite, "height": hoehe, "rx": rx, "ry": rx}
+        self._form("rect", masse, fill, mehr)
 
     def kreis(self, cx, cy, r, fill, **mehr):
         self._form("circle", {"cx": cx, "cy": cy, "r": r}, fill, mehr)
@@ -71,7 +75,7 @@ class Blatt:
 
     def svg(self):
         verlaeufe = "".join(
-            f'<{inhalt.replace("Gradient", f"""Gradient id="{name}" """.rstrip(), 1)}\n'
+            "<" + inhalt.replace("Gradient", f'Gradient id="{name}"', 1) + "\n"
             for inhalt, name in self._verlaeufe.items()
         )
         kopf = (

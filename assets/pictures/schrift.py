@@ -21,7 +21,7 @@ def _schrift():
 
 
 class _PfadStift(BasePen):
-    """Writes the outline of a letter as relative-free SVG path, moved and scaled."""
+    """Writes the outline of a letter as an SVG path, moved and scaled."""
 
     def __init__(self, glyphen, x, grundlinie, faktor):
         super().__init__(glyphen)

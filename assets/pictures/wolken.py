@@ -8,7 +8,7 @@ from blatt import zahl
 def huegelfeld(zufall, spalten, zeilen, weite, huegel):
     """Heights at the points of a grid: hills and hollows, `weite` pixels between two points."""
     liste = [(zufall.uniform(-60, spalten * weite + 60), zufall.uniform(-60, zeilen * weite + 60),
-              zufall.uniform(22, 46), 1 if nummer % 2 else -1) for nummer in range(huegel)]
+              zufall.uniform(18, 36), 1 if nummer % 2 else -1) for nummer in range(huegel)]
     # The hills are a little taller than wide, since most screens stretch the picture in width.
     return {(i, j): sum(seite * exp(-((i * weite - x) ** 2 + ((j * weite - y) / 1.3) ** 2) / (2 * r * r))
                         for x, y, r, seite in liste)

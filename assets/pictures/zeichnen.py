@@ -20,9 +20,9 @@ ORDNER = Path(__file__).resolve().parent
 # lightness as well as in hue, so that the four stay apart without colour vision
 # (farbabstand.py measures it).
 STEINE = {
-    1: ("#FFB030", "#F19D0E", "#C06600", "#4A1C00", 2.5),
-    2: ("#C4F7A6", "#93E56C", "#5DBB3E", "#1E5B1E", 2),
-    3: ("#FFFFB0", "#F5F51A", "#EDDC00", "#867200", 1.5),
+    1: ("#FFAE2A", "#F19D0E", "#B45C00", "#421800", 3),
+    2: ("#C0F6A2", "#93E56C", "#57B63A", "#1A521C", 2),
+    3: ("#FFFFA8", "#F6F618", "#EFE000", "#867200", 1.5),
     4: ("#58DAFF", "#0CC5F3", "#0484C0", "#04305A", 2),
 }
 
@@ -44,7 +44,7 @@ TAFELN = {
 SPALTE_LINKS, SPALTE_RECHTS, BRUNNEN_RECHTS = 18, 197, 190
 
 # The edge of the ornament: start on the top border, then cubic curves down the picture.
-BOGEN_TESSEL = (242, ((234, 44, 202, 62, 142, 66), (84, 70, 62, 96, 58, 160),
+BOGEN_TESSEL = (236, ((228, 44, 200, 62, 142, 66), (84, 70, 62, 96, 58, 160),
                       (52, 270, 62, 330, 56, 420), (48, 560, 36, 640, 54, 800)))
 BOGEN_BESTE = (66, ((60, 40, 50, 60, 48, 110), (46, 190, 54, 240, 48, 300), (42, 360, 40, 400, 50, 450)))
 
@@ -198,19 +198,19 @@ def rahmen(blatt):
 def hintergrund(blatt):
     """Mottled grey: hills of a random field, filled from one contour line to the next.
 
-    From line to line the grey grows by one level only, so no edge is seen and the whole looks
-    soft at any stretching, and the flat opaque fills cost less than gradients.
+    From line to line the grey grows so little that no edge is seen: the whole looks soft at any
+    stretching, and flat opaque fills cost less than gradients.
     """
-    spalten, zeilen, weite = 33, 33, 21
-    feld = huegelfeld(Random(14), spalten, zeilen, weite, 150)
-    dunkel, hell = 0xB7, 0xC3
+    spalten, zeilen, weite = 34, 34, 20
+    feld = huegelfeld(Random(14), spalten, zeilen, weite, 220)
+    grau = ["#" + 3 * f"{wert:02X}" for wert in range(0xB8, 0xC3)]
+    # The rare deepest and highest places share the first and the last grey.
     hoehen = sorted(feld.values())
-    blatt.rechteck(0, 0, 643, 647, f"#{dunkel:02X}{dunkel:02X}{dunkel:02X}")
-    for grau in range(dunkel + 1, hell + 1):
-        anteil = (grau - dunkel) / (hell - dunkel + 1)
-        tief, hoch = hoehen[len(hoehen) // 25], hoehen[-len(hoehen) // 25]
-        blatt.pfad(hoehenlinie(feld, spalten, zeilen, weite, tief + anteil * (hoch - tief)),
-                   f"#{grau:02X}{grau:02X}{grau:02X}")
+    tief, hoch = hoehen[len(hoehen) // 25], hoehen[-len(hoehen) // 25]
+    blatt.rechteck(0, 0, 643, 647, grau[0])
+    for nummer, farbe in enumerate(grau[1:]):
+        schwelle = tief + (hoch - tief) * (nummer + 0.5) / (len(grau) - 1)
+        blatt.pfad(hoehenlinie(feld, spalten, zeilen, weite, schwelle), farbe)
 
 
 def meldung(blatt, breite, hoehe, *pillen):
