@@ -1,0 +1,128 @@
+// App.cpp: the program from its beginning to its end, modal loops, and events from outside.
+#include "ui/layer/App.h"
+
+#include <algorithm>
+#include <cassert>
+
+#include "Version.h"
+
+namespace malvone {
+
+Application App;
+
+Application::Application() : Major(kVersionMajor), Minor(kVersionMinor), Revision(kVersionRevision)
+{}
+
+Application::~Application() = default;
+
+void Application::Begin(Binding& binding, Platform& platform)
+{
+    Finish();
+    binding_ = &binding;
+    platform_ = &platform;
+    ended_ = false;
+}
+
+void Application::Finish()
+{
+    ended_ = true;  // what the windows' destructors change is told to nobody
+    modals_.clear();
+    gone_.clear();
+    for (InstanceBase* const instance : InstanceBase::All()) {
+        instance->Release();
+    }
+}
+
+void Application::Ende()
+{
+    if (ended_) {
+        return;
+    }
+    ended_ = true;
+    binding_->Ended();
+}
+
+bool Application::TakesInput(const Window& window) const
+{
+    return !ended_ && window.Shown() && (TopModal() == nullptr || TopModal() == &window);
+}
+
+void Application::RunModal(Window& window)
+{
+    // A press that has opened this window finds its release elsewhere, or nowhere.
+    for (InstanceBase* const instance : InstanceBase::All()) {
+        if (Window* const other = instance->Current()) {
+            other->Pressed = nullptr;
+        }
+    }
+    while (!ModalOver(window)) {
+        binding_->RunModal(window);
+    }
+    std::erase(modals_, &window);
+    window.modal_ = false;
+}
+
+bool ModalOver(const Window& window)
+{
+    return App.Ended() || !window.Shown();
+}
+
+EventScope::EventScope()
+{
+    ++App.depth_;
+}
+
+EventScope::~EventScope()
+{
+    --App.depth_;
+    if (App.depth_ == 0 && !App.gone_.empty()) {
+        App.gone_.clear();
+    }
+}
+
+bool RaiseTimer(Timer& timer)
+{
+    if (App.Ended() || !timer.Owner().Shown() || !timer.Running()) {
+        return false;
+    }
+    const EventScope scope;
+    timer.Tick.Raise(timer.Index());
+    return true;
+}
+
+bool RaiseMenuClick(MenuEntry& entry)
+{
+    return RaiseClick(entry);
+}
+
+bool RaiseClick(Control& control)
+{
+    if (!App.TakesInput(control.Owner()) || !control.Reachable()) {
+        return false;
+    }
+    const EventScope scope;
+    control.RaiseClick();
+    return true;
+}
+
+bool RaiseActivate(Window& window)
+{
+    if (!App.TakesInput(window)) {
+        return false;
+    }
+    const EventScope scope;
+    window.Form_Activate();
+    return true;
+}
+
+bool RaiseClose(Window& window)
+{
+    if (!App.TakesInput(window)) {
+        return false;
+    }
+    const EventScope scope;
+    window.Close();
+    return true;
+}
+
+}  // namespace malvone

@@ -1,0 +1,100 @@
+// App.h: the program and the screen as objects, and the events that bindings hand to windows.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "ui/layer/Binding.h"
+#include "ui/layer/Platform.h"
+#include "ui/layer/Window.h"
+
+namespace malvone {
+
+class Application
+{
+public:
+    // The folder of the program file.
+    std::string Path = kProgramFolder;
+    const std::int16_t Major;
+    const std::int16_t Minor;
+    const std::int16_t Revision;
+
+    Application();
+    ~Application();
+    Application(const Application&) = delete;
+    Application& operator=(const Application&) = delete;
+
+    // Ties the program to a binding and a platform, which have to outlive Finish. All windows are
+    // unloaded and nothing has ended.
+    void Begin(Binding& binding, Platform& platform);
+    // Destroys all windows without any event. For the end of the process, and between two runs in
+    // one process.
+    void Finish();
+
+    // The program is over: all loops return, nothing is shown, loaded or written any more, and
+    // handlers that still run change nothing that anybody sees.
+    void Ende();
+    bool Ended() const { return ended_; }
+
+    Binding& Screen() const { return *binding_; }
+    Platform& System() const { return *platform_; }
+
+    // The topmost modal window, null where none is up.
+    Window* TopModal() const { return modals_.empty() ? nullptr : modals_.back(); }
+    // Whether a window takes input at present: it is shown and no other window is modal above it.
+    bool TakesInput(const Window& window) const;
+
+private:
+    friend class Window;
+    friend class InstanceBase;
+    friend class EventScope;
+
+    Binding* binding_ = nullptr;
+    Platform* platform_ = nullptr;
+    bool ended_ = false;
+    int depth_ = 0;
+    std::vector<Window*> modals_;
+    std::vector<std::unique_ptr<Window>> gone_;
+
+    void RunModal(Window& window);
+};
+
+extern Application App;
+
+// The screen as the game asks for it, in twips.
+struct ScreenObject
+{
+    struct Extent
+    {
+        Twips (Binding::*Ask)();
+        operator Twips() const
+        {
+            return (App.Screen().*Ask)();
+        }  // NOLINT(google-explicit-constructor)
+    };
+    Extent Width{&Binding::ScreenWidth};
+    Extent Height{&Binding::ScreenHeight};
+};
+inline const ScreenObject Screen;
+
+// Stands around everything that runs handlers, Main too: windows that were unloaded meanwhile are
+// destroyed when the outermost scope is left.
+class EventScope
+{
+public:
+    EventScope();
+    ~EventScope();
+    EventScope(const EventScope&) = delete;
+    EventScope& operator=(const EventScope&) = delete;
+};
+
+// Events from outside. Each returns false, and does nothing, where its target takes no input.
+bool RaiseTimer(Timer& timer);
+bool RaiseMenuClick(MenuEntry& entry);
+bool RaiseClick(Control& control);
+bool RaiseActivate(Window& window);
+bool RaiseClose(Window& window);
+
+}  // namespace malvone

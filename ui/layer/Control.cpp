@@ -1,0 +1,86 @@
+// Control.cpp: places, reach and change of controls.
+#include "ui/layer/Control.h"
+
+#include <charconv>
+#include <utility>
+
+#include "ui/layer/Controls.h"
+#include "ui/layer/Window.h"
+
+namespace malvone {
+
+Control::Control(const Seat& seat)
+    : events_(seat.Shared ? seat.Shared : std::make_shared<Events>()), Click(events_->Click),
+      MouseDown(events_->MouseDown), MouseUp(events_->MouseUp), MouseMove(events_->MouseMove),
+      owner_(seat.Owner), name_(seat.Name), container_(seat.Container), index_(seat.Index)
+{
+    owner_.Add(*this);
+}
+
+Control::~Control() = default;
+
+std::string Control::FullName() const
+{
+    std::string name(name_);
+    return index_ < 0 ? name : name + "(" + std::to_string(index_) + ")";
+}
+
+bool Control::Reachable() const
+{
+    return Visible && Enabled && (container_ == nullptr || container_->Reachable());
+}
+
+TagText::TagText(std::string text) : text_(std::move(text))
+{
+    const char* const end = text_.data() + text_.size();
+    std::int32_t number = 0;
+    const auto [stop, fault] = std::from_chars(text_.data(), end, number);
+    if (fault == std::errc() && stop == end) {
+        number_ = number;
+    }
+}
+
+TagText::TagText(const char* text) : TagText(std::string(text)) {}
+
+TagText::TagText(std::int32_t number) : text_(std::to_string(number)), number_(number) {}
+
+void Visual::Move(Twips left, Twips top)
+{
+    Left = left;
+    Top = top;
+}
+
+void Visual::Move(Twips left, Twips top, Twips width, Twips height)
+{
+    Move(left, top);
+    Width = width;
+    Height = height;
+}
+
+Twips Visual::WindowLeft() const
+{
+    return Left + (Container() == nullptr ? 0 : Container()->WindowLeft());
+}
+
+Twips Visual::WindowTop() const
+{
+    return Top + (Container() == nullptr ? 0 : Container()->WindowTop());
+}
+
+bool Visual::Covers(Twips x, Twips y) const
+{
+    const Twips left = WindowLeft();
+    const Twips top = WindowTop();
+    return x >= left && x < left + Width && y >= top && y < top + Height;
+}
+
+void Visual::CopyFrom(const Visual& other)
+{
+    Move(other.Left, other.Top, other.Width, other.Height);
+    Enabled = other.Enabled.Get();
+    ToolTipText = other.ToolTipText.Get();
+    MousePointer = other.MousePointer.Get();
+    Tag = other.Tag.Get();
+}
+
+}  // namespace malvone

@@ -1,0 +1,124 @@
+// Keys.cpp: the stations of a key on its way through a window.
+#include "ui/layer/Keys.h"
+
+#include <algorithm>
+#include <vector>
+
+#include "ui/layer/App.h"
+
+namespace malvone {
+namespace {
+
+std::vector<CommandButton*> ReachableButtons(const Window& window)
+{
+    std::vector<CommandButton*> buttons;
+    for (Visual* const visual : window.FrontToBack()) {
+        auto* const button = dynamic_cast<CommandButton*>(visual);
+        if (button != nullptr && button->Reachable()) {
+            buttons.push_back(button);
+        }
+    }
+    return buttons;
+}
+
+bool TakenByShortcut(const Window& window, Key key)
+{
+    for (MenuEntry* const entry : window.MenuEntries()) {
+        if (entry->Shortcut == key && entry->Reachable()) {
+            entry->RaiseClick();
+            return true;
+        }
+    }
+    return false;
+}
+
+bool TakenByAccessKey(const Window& window, Key key)
+{
+    if (key.Shift != kAltKey) {
+        return false;
+    }
+    for (CommandButton* const button : ReachableButtons(window)) {
+        if (AccessKey(button->Caption.Get()) == key.Code) {
+            button->RaiseClick();
+            return true;
+        }
+    }
+    return false;
+}
+
+bool TakenByDefaultButton(const Window& window, Key key)
+{
+    if (key != Key{kKeyEnter, 0}) {
+        return false;
+    }
+    for (CommandButton* const button : ReachableButtons(window)) {
+        if (button->Default) {
+            button->RaiseClick();
+            return true;
+        }
+    }
+    return false;
+}
+
+bool TakenByFocusedButton(const Window& window, Key key)
+{
+    auto* const button = dynamic_cast<CommandButton*>(window.Focus());
+    if (key != Key{kKeySpace, 0} || button == nullptr || !button->Reachable()) {
+        return false;
+    }
+    button->RaiseClick();
+    return true;
+}
+
+// Tab goes to what the player can see: a button beyond the window's edge is no stop, or the focus
+// would vanish there.
+bool IsTabStop(const Window& window, const Visual& visual)
+{
+    return visual.TakesFocus() && visual.TabStop && visual.Reachable() &&
+           visual.WindowLeft() < window.ClientWidth && visual.WindowTop() < window.ClientHeight;
+}
+
+bool TakenByTab(Window& window, Key key)
+{
+    if (key.Code != kKeyTab || (key.Shift & ~kShiftKey) != 0) {
+        return false;
+    }
+    std::vector<Visual*> stops;
+    for (Visual* const visual : window.FrontToBack()) {
+        if (IsTabStop(window, *visual)) {
+            stops.push_back(visual);
+        }
+    }
+    if (stops.empty()) {
+        return true;
+    }
+    std::stable_sort(stops.begin(), stops.end(),
+                     [](const Visual* a, const Visual* b) { return a->TabIndex < b->TabIndex; });
+    if (key.Shift == kShiftKey) {
+        std::reverse(stops.begin(), stops.end());
+    }
+    const auto here = std::find(stops.begin(), stops.end(), window.Focus());
+    const bool last = here == stops.end() || here + 1 == stops.end();
+    window.SetFocus(last ? stops.front() : *(here + 1));
+    return true;
+}
+
+}  // namespace
+
+bool RouteKey(Window& window, Key key)
+{
+    if (!App.TakesInput(window)) {
+        return false;
+    }
+    const EventScope scope;
+    std::int16_t code = key.Code;
+    window.Form_KeyDown(code, key.Shift);
+    if (code == 0 || !App.TakesInput(window)) {
+        return true;
+    }
+    return TakenByShortcut(window, key) || TakenByAccessKey(window, key) ||
+           TakenByDefaultButton(window, key) || TakenByFocusedButton(window, key) ||
+           TakenByTab(window, key);
+}
+
+}  // namespace malvone

@@ -1,0 +1,39 @@
+// Picture.h: a picture as a name with a size; what file lies behind it is the binding's business.
+#pragma once
+
+#include <string_view>
+
+namespace malvone {
+
+// One entry of the picture bank. The name is that of the control in whose definition the picture
+// stands, such as "frmBilder.imgPfeil(1)"; the size is in pixels at scale 1.
+struct PictureInfo
+{
+    std::string_view Name;
+    int Width = 0;
+    int Height = 0;
+};
+
+// What a control shows: an entry of the bank, or nothing. Copies show the same image.
+class Picture
+{
+public:
+    constexpr Picture() = default;
+    // The entry has to outlive every copy; the bank is constant data.
+    constexpr explicit Picture(const PictureInfo& info) : info_(&info) {}
+
+    constexpr bool Empty() const { return info_ == nullptr; }
+    constexpr std::string_view Name() const { return Empty() ? std::string_view() : info_->Name; }
+    constexpr int Width() const { return Empty() ? 0 : info_->Width; }
+    constexpr int Height() const { return Empty() ? 0 : info_->Height; }
+
+    friend constexpr bool operator==(const Picture& a, const Picture& b)
+    {
+        return a.info_ == b.info_ || a.Name() == b.Name();
+    }
+
+private:
+    const PictureInfo* info_ = nullptr;
+};
+
+}  // namespace malvone

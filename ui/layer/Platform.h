@@ -1,0 +1,77 @@
+// Platform.h: what the game asks of the system under it, by the names that the game uses.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace malvone {
+
+// What went wrong with a file, in the numbers that the player is told.
+enum class FileFault : std::int32_t {
+    None = 0,
+    NotFound = 53,
+    OtherDevice = 57,   // full disk, input/output error
+    PastEnd = 62,       // the file ended before the wanted line
+    NoPermission = 70,  // read-only file or folder
+    PathAccess = 75,    // a folder in the place of a file, a file in the place of a folder
+};
+
+struct ReadLines
+{
+    FileFault Fault = FileFault::None;
+    std::vector<std::string> Lines;  // UTF-8, without line ends; what was read up to the fault
+};
+
+// Answers of OpenFile with OF_EXIST.
+inline constexpr std::int32_t kFileExists = 0;
+inline constexpr std::int32_t kFileNotFound = 2;   // a free name in an existing folder
+inline constexpr std::int32_t kPathNotFound = 3;   // the folder is missing
+inline constexpr std::int32_t kAccessRefused = 5;  // it exists and cannot be opened: a folder
+
+// Paths are written as the game writes them, with drive letter and backslashes:
+//   "C:\..." and "\..."  the root of the current drive, in which the data folder lies
+//   "P:\..."             the program's folder, in which sounds and manuals lie
+class Platform
+{
+public:
+    virtual ~Platform() = default;
+    Platform() = default;
+    Platform(const Platform&) = delete;
+    Platform& operator=(const Platform&) = delete;
+
+    // The system's folder, beginning with drive letter and colon; empty when it cannot be found.
+    virtual std::string GetWindowsDirectoryA() = 0;
+    // Makes one folder level. False: it could not be made.
+    virtual bool CreateDirectoryA(const std::string& path) = 0;
+    // Tests for a file or folder: one of the four answers above.
+    virtual std::int32_t OpenFileExist(const std::string& path) = 0;
+    // Removes a file; nobody looks at the outcome.
+    virtual void DeleteFileA(const std::string& path) = 0;
+
+    // Reads the first `count` lines of a text file (Windows-1252; lines end with CR LF, LF or CR).
+    // Fewer lines than that are PastEnd.
+    virtual ReadLines ReadTextLines(const std::string& path, std::size_t count) = 0;
+    // Writes a new file line by line, each ended by CR LF. A fault may leave a part of it behind.
+    virtual FileFault WriteTextLines(const std::string& path,
+                                     const std::vector<std::string>& lines) = 0;
+    // The same in one step: a complete new file takes the place of the old one, or the old one
+    // stays as it was.
+    virtual FileFault ReplaceTextLines(const std::string& path,
+                                       const std::vector<std::string>& lines) = 0;
+
+    // Hands a wave file to the player and returns at once; the empty path is silence.
+    virtual void sndPlaySoundA(const std::string& path) = 0;
+    virtual std::int32_t waveOutGetNumDevs() = 0;
+    // Opens a document in the system's viewer; nobody looks at the outcome.
+    virtual void ShellExecuteA(const std::string& path) = 0;
+
+    // Nanoseconds of the system's clock. It may stand still between two calls.
+    virtual std::uint64_t ClockNs() = 0;
+};
+
+// The folder of the program file, as the game writes it.
+inline constexpr const char* kProgramFolder = "P:\\";
+
+}  // namespace malvone

@@ -1,0 +1,18 @@
+// PointerRouting.h: the one way that pointer events take from a window's surface to a control.
+#pragma once
+
+#include "ui/layer/Window.h"
+
+namespace malvone {
+
+// The topmost visible control under a place of the client area, in twips; null: the window itself.
+Visual* ControlAt(const Window& window, Twips x, Twips y);
+
+// X and Y of the mouse are those in the client area. A press keeps the pointer: all moves, the
+// release and, for the left button and while the pointer is still inside, the click go to the
+// pressed control. Windows that take no input at present get nothing.
+void PointerPressed(Window& window, const Mouse& mouse);
+void PointerMoved(Window& window, const Mouse& mouse);
+void PointerReleased(Window& window, const Mouse& mouse);
+
+}  // namespace malvone

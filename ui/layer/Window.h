@@ -1,0 +1,198 @@
+// Window.h: a window with its controls, its life and its events.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "ui/layer/ControlArray.h"
+#include "ui/layer/Controls.h"
+#include "ui/layer/Menu.h"
+#include "ui/layer/Picture.h"
+
+namespace malvone {
+
+class InstanceBase;
+
+enum class ShowMode { Modeless = 0, Modal = 1 };
+
+enum class Border { None, FixedSingle, Sizable };
+
+// Why a window is to close. No handler of the game looks at it.
+enum class UnloadMode : std::int16_t { TitleBar = 0, Code = 1, Session = 2 };
+
+// A window's Visible: reading tells whether it is shown, setting it shows or hides the window.
+class VisibleProperty
+{
+public:
+    explicit VisibleProperty(Window& window) : window_(window) {}
+    VisibleProperty& operator=(bool visible);
+    operator bool() const;  // NOLINT(google-explicit-constructor)
+
+private:
+    Window& window_;
+};
+
+// A window's handlers have the names of the events; a class of floor 2 overrides those it answers.
+class Window : public PropertyOwner
+{
+public:
+    virtual ~Window();
+
+    std::string_view Name() const { return name_; }
+
+    // The outer frame's corner on the screen; Width and Height count frame and menu bar where the
+    // binding knows them. Until a binding has told otherwise they are those of the client area.
+    Property<Twips> Left{*this, Change::Geometry, 0};
+    Property<Twips> Top{*this, Change::Geometry, 0};
+    Property<Twips> Width{*this, Change::Geometry, 0};
+    Property<Twips> Height{*this, Change::Geometry, 0};
+    TextProperty Caption{*this, Change::Text};
+    Property<malvone::Picture> Picture{*this, Change::Picture};
+    Property<malvone::Picture> Icon{*this, Change::Picture};
+    Property<Colour> BackColor{*this, Change::Look, Rgb(0xFFFFFF)};
+    VisibleProperty Visible{*this};
+
+    // Fixed by the design.
+    Twips ClientWidth = 0;
+    Twips ClientHeight = 0;
+    Border BorderStyle = Border::None;
+    bool ShowInTaskbar = true;
+    bool MinButton = false;
+    bool MaxButton = false;
+    bool KeyPreview = true;
+
+    void Move(Twips left, Twips top);
+    void Move(Twips left, Twips top, Twips width, Twips height);
+
+    // Shows the window and tells it that it is active. A modal Show returns when the window has
+    // been hidden or unloaded, or when the program is over.
+    void Show(ShowMode mode = ShowMode::Modeless);
+    void Hide();
+    // Asks Form_QueryUnload, then Form_Unload, then takes the window away. False: it was refused.
+    bool Unload(UnloadMode mode = UnloadMode::Code);
+    // What the close box of the title bar does.
+    bool Close() { return Unload(UnloadMode::TitleBar); }
+
+    bool Shown() const { return shown_; }
+    bool Modal() const { return modal_; }
+
+    // All controls, menu entries and timers too, in the order of their declaration; elements of
+    // control arrays made at run time stand at the end.
+    const std::vector<Control*>& Controls() const { return controls_; }
+    // Everything that has a place, from front to back: the children of a container before it.
+    const std::vector<Visual*>& FrontToBack() const;
+    std::vector<MenuEntry*> MenuEntries() const;
+    // The control of a name such as "imgFeld(17)" or "lblNeu"; null where there is none.
+    Control* Find(std::string_view fullName) const;
+
+    // The control with the focus, null where none has it.
+    Visual* Focus() const { return focus_; }
+    void SetFocus(Visual* control);
+
+    // The control that holds the pointer between press and release; routing keeps it.
+    Visual* Pressed = nullptr;
+
+    virtual void Form_Load() {}
+    virtual void Form_Activate() {}
+    // A handler that sets KeyCode to 0 has taken the key.
+    virtual void Form_KeyDown(std::int16_t& KeyCode, std::int16_t Shift);
+    // A handler that sets Cancel to anything but 0 refuses the closing.
+    virtual void Form_QueryUnload(std::int16_t& Cancel, UnloadMode mode);
+    virtual void Form_Unload() {}
+    virtual void Form_MouseMove(const Mouse& mouse);
+
+    void Changed(Change what) override;
+
+protected:
+    // Sizes are those of the client area.
+    Window(std::string_view name, Twips clientWidth, Twips clientHeight);
+
+    // The seat of a control of this window. Controls are declared from front to back.
+    Seat Named(std::string_view name, PictureBox* container = nullptr)
+    {
+        return Seat{*this, name, container, -1, nullptr};
+    }
+
+private:
+    friend class Application;
+    friend class Control;
+    friend class InstanceBase;
+
+    std::string_view name_;
+    InstanceBase* instance_ = nullptr;
+    std::vector<Control*> controls_;
+    mutable std::vector<Visual*> frontToBack_;
+    Visual* focus_ = nullptr;
+    bool shown_ = false;
+    bool modal_ = false;
+
+    void Add(Control& control);
+    Visual* InitialFocus() const;
+};
+
+// The name under which the game knows a window. It loads on use: the first touch makes the window
+// in its designed state and runs its Form_Load; after Unload the next touch begins anew.
+class InstanceBase
+{
+public:
+    std::string_view Name() const { return name_; }
+    bool Loaded() const { return Current() != nullptr; }
+    virtual Window* Current() const = 0;  // null while it is not loaded
+    virtual Window& Touch() = 0;
+
+    // All instances of the program, by name.
+    static const std::vector<InstanceBase*>& All();
+    static InstanceBase* Find(std::string_view name);
+
+protected:
+    explicit InstanceBase(std::string_view name);
+    virtual ~InstanceBase() = default;
+    InstanceBase(const InstanceBase&) = delete;
+    InstanceBase& operator=(const InstanceBase&) = delete;
+
+    void Announce(Window& window);
+
+private:
+    friend class Window;
+    friend class Application;
+    virtual std::unique_ptr<Window> Release() = 0;
+
+    std::string_view name_;
+};
+
+template<class T>
+class Instance final : public InstanceBase
+{
+public:
+    explicit Instance(std::string_view name) : InstanceBase(name) {}
+
+    T* operator->() { return &Get(); }
+    T& operator*() { return Get(); }
+    T& Get()
+    {
+        if (!window_) {
+            window_ = std::make_unique<T>();
+            Announce(*window_);
+        }
+        return *window_;
+    }
+
+    Window* Current() const override { return window_.get(); }
+    Window& Touch() override { return Get(); }
+
+private:
+    std::unique_ptr<Window> Release() override { return std::move(window_); }
+
+    std::unique_ptr<T> window_;
+};
+
+// Loads a window without showing it.
+inline void Load(InstanceBase& instance)
+{
+    instance.Touch();
+}
+
+}  // namespace malvone
