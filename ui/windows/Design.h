@@ -1,0 +1,88 @@
+// Design.h: the rows of the tables in which the windows' constructors write their design down.
+#pragma once
+
+#include <span>
+#include <string_view>
+
+#include "ui/layer/Window.h"
+
+namespace malvone::design {
+
+// Left, Top, Width, Height in twips, from the corner of the container or of the client area.
+struct Place
+{
+    Visual& control;
+    Twips left;
+    Twips top;
+    Twips width;
+    Twips height;
+};
+
+// A label's words and look; colours as #RRGGBB.
+struct LabelLook
+{
+    Label& label;
+    std::string_view caption;
+    Font font;
+    std::uint32_t foreColor;
+    Alignment alignment;
+};
+
+// The tool tip of a control, and whether the pointer becomes a hand over it.
+struct Tip
+{
+    Visual& control;
+    Pointer pointer;
+    std::string_view text;
+};
+
+// The picture that a control shows from the start, by its name in the bank.
+struct Shows
+{
+    Image& image;
+    std::string_view picture;
+};
+
+struct Entry
+{
+    MenuEntry& entry;
+    std::string_view caption;
+    Key shortcut;
+};
+
+inline void Apply(std::span<const Place> rows)
+{
+    for (const Place& row : rows) {
+        row.control.Move(row.left, row.top, row.width, row.height);
+    }
+}
+
+inline void Apply(std::span<const LabelLook> rows)
+{
+    for (const LabelLook& row : rows) {
+        row.label.Caption = std::string(row.caption);
+        row.label.TextFont = row.font;
+        row.label.ForeColor = Rgb(row.foreColor);
+        row.label.Align = row.alignment;
+    }
+}
+
+inline void Apply(std::span<const Tip> rows)
+{
+    for (const Tip& row : rows) {
+        row.control.MousePointer = row.pointer;
+        row.control.ToolTipText = std::string(row.text);
+    }
+}
+
+void Apply(std::span<const Shows> rows);
+
+inline void Apply(std::span<const Entry> rows)
+{
+    for (const Entry& row : rows) {
+        row.entry.Caption = std::string(row.caption);
+        row.entry.Shortcut = row.shortcut;
+    }
+}
+
+}  // namespace malvone::design

@@ -1,0 +1,30 @@
+// FrmBilder.h: the hidden bank of pictures, read through its controls only.
+#pragma once
+
+#include "ui/layer/Window.h"
+
+namespace malvone {
+
+class FrmBilder final : public Window
+{
+public:
+    FrmBilder();
+
+    // Index 0 to 4 is the value of a cell.
+    ControlArray<Image> imgBild{Named("imgBild"), IndexRange{0, 4}};          // the normal look
+    ControlArray<Image> imgVorschau{Named("imgVorschau"), IndexRange{0, 4}};  // stones of a group
+    ControlArray<Image> imgNeutral{Named("imgNeutral"), IndexRange{0, 4}};    // a lone stone
+    Image imgGrund{Named("imgGrund")};                                        // the empty cell
+
+    // The two looks of the arrow; 2 has no picture and wipes an arrow.
+    ControlArray<Image> imgPfeil{Named("imgPfeil"), IndexRange{0, 2}};
+
+    Image cmdHilfeAuswahl{Named("cmdHilfeAuswahl")};
+    Image cmdHilfeGruen{Named("cmdHilfeGruen")};
+    Image cmdBeschreibungenAuswahl{Named("cmdBeschreibungenAuswahl")};
+    Image cmdBeschreibungenFruen{Named("cmdBeschreibungenFruen")};
+};
+
+extern Instance<FrmBilder> frmBilder;
+
+}  // namespace malvone

@@ -1,0 +1,17 @@
+// Pictures.h: the bank of pictures: every picture of the program by name, with its size in pixels.
+#pragma once
+
+#include <span>
+#include <string_view>
+
+#include "ui/layer/Picture.h"
+
+namespace malvone {
+
+// All pictures of the program, for tests and bindings that walk over them.
+std::span<const PictureInfo> AllPictures();
+
+// The picture of a name; an unknown name is a mistake in the program and stops a debug build.
+Picture PictureNamed(std::string_view name);
+
+}  // namespace malvone
