@@ -1,0 +1,46 @@
+// Zellen.h: how the cells of the board are numbered, and the marks that they carry.
+#pragma once
+
+#include <array>
+
+#include "ui/layer/Units.h"
+
+namespace malvone {
+
+// Cells are numbered 1 to 140 down each column, then on to the top of the next column to the right.
+inline constexpr int kSpalten = 14;
+inline constexpr int kReihen = 10;
+inline constexpr int kZellen = kSpalten * kReihen;
+
+inline constexpr std::int16_t kFarben = 4;  // values 1 to 4 are stones, 0 is an empty cell
+
+constexpr int Spalte(int zelle)  // 0 to 13
+{
+    return (zelle - 1) / kReihen;
+}
+constexpr int Reihe(int zelle)  // 0 to 9, 0 at the top
+{
+    return (zelle - 1) % kReihen;
+}
+constexpr int ObersteZelle(int spalte)
+{
+    return spalte * kReihen + 1;
+}
+constexpr int UntersteZelle(int spalte)
+{
+    return spalte * kReihen + kReihen;
+}
+
+// Marks sit on cell numbers, not on stones: when stones fall, no mark moves with them.
+struct Zelle
+{
+    Flag Markiert = False;     // belongs to the group that is marked at present
+    Flag Vorschau = False;     // shows a preview picture; its plain picture must be given back
+    Flag ObererRand = False;   // top cell of its column
+    Flag UntererRand = False;  // bottom cell of its column
+};
+
+// Index 1 to 140; the record 0 belongs to no cell.
+extern std::array<Zelle, kZellen + 1> Zellen;
+
+}  // namespace malvone

@@ -1,0 +1,59 @@
+// Zug.cpp: the pointer on the board: what the main window does when it moves and when it presses.
+#include "board/AllesnachLinks.h"
+#include "board/FillFeld.h"
+#include "board/Sicherheit.h"
+#include "board/SteuereBilder.h"
+#include "board/Zellen.h"
+#include "game/Spielstand.h"
+#include "ui/windows/FrmTessel.h"
+
+namespace malvone {
+
+void FrmTessel::imgFeld_MouseMove(std::int16_t Index)
+{
+    if (Zellwert(Index) == 0) {
+        return;
+    }
+    MarkierungenLoeschen();
+    VorschauZuruecknehmen();
+    Zellen[static_cast<std::size_t>(Index)].Markiert = True;
+    const auto farbe = static_cast<std::int16_t>(Zellwert(Index));
+    StartSpalteMarkieren(Index);
+    NachRechtsAusbreiten(farbe);
+    NachLinksAusbreiten(farbe);
+    SicherheitZellenlauf(farbe);
+    GruppeVorschauen(farbe);
+}
+
+// The click acts on the marks of the last pointer event, not on the clicked cell as such: that is
+// only tested for being a stone.
+void FrmTessel::imgFeld_MouseDown(std::int16_t Index, const Mouse& mouse)
+{
+    if (Zellwert(Index) == 0 || mouse.Button != kLeftButton) {
+        return;
+    }
+    GruppeVorschauen(0);
+    Stand.MarkiertZahl = 0;
+    ZugAusfuehren();
+    SteineFallenLassen();
+    BelegteFelderZaehlen();
+    if (Stand.BelegtZahl == 0) {
+        LeeresFeldBelohnen();
+        return;
+    }
+    SpaltenSchliessen();
+    Flag zug = False;
+    ZugVorhanden(zug);
+    if (zug == False) {
+        LevelAuswerten();
+    }
+}
+
+// The pointer is on the margin round the stones.
+void FrmTessel::Picture1_MouseMove()
+{
+    VorschauZuruecknehmen();
+    lblSumme.Caption = "";
+}
+
+}  // namespace malvone

@@ -1,0 +1,66 @@
+// iniTessel.cpp: the cells of the board, made once, and their filling.
+#include "board/iniTessel.h"
+
+#include "board/SteuereBilder.h"
+#include "board/Zellen.h"
+#include "board/Zufallszahl.h"
+#include "game/Spielstand.h"
+#include "storage/Spielstanddatei.h"
+#include "ui/windows/FrmBilder.h"
+#include "ui/windows/FrmTessel.h"
+
+namespace malvone {
+namespace {
+
+constexpr Twips kRand = 100;    // from the corner of Picture1 to the first cell
+constexpr Twips kRaster = 480;  // a picture's 32 pixels, so that the cells lie edge to edge
+
+void ZelleAnlegen(int zelle)
+{
+    Image& feld = frmTessel->imgFeld.Load(zelle);
+    feld.Visible = true;
+    Zellen[static_cast<std::size_t>(zelle)] = Zelle();
+    feld.Picture = frmBilder->imgGrund.Picture;
+    feld.Tag = "0";
+}
+
+void RaenderSetzen()
+{
+    for (int spalte = 0; spalte < kSpalten; ++spalte) {
+        Zellen[static_cast<std::size_t>(ObersteZelle(spalte))].ObererRand = True;
+        Zellen[static_cast<std::size_t>(UntersteZelle(spalte))].UntererRand = True;
+    }
+}
+
+}  // namespace
+
+void FeldAnlegen()
+{
+    for (int i = 1; i <= kZellen; ++i) {
+        ZelleAnlegen(i);
+    }
+    for (int i = 1; i <= kZellen; ++i) {
+        frmTessel->imgFeld(i).Left = kRand + kRaster * static_cast<Twips>(Spalte(i));
+        frmTessel->imgFeld(i).Top = kRand + kRaster * static_cast<Twips>(Reihe(i));
+    }
+    frmTessel->imgFeld(0).Visible = false;
+    frmTessel->imgFeld(0).Enabled = false;
+    RaenderSetzen();
+}
+
+void FeldFuellen()
+{
+    ++Stand.RundenZahl;
+    for (int i = 1; i <= kZellen; ++i) {
+        frmTessel->imgFeld(i).Tag = TagText(ZufallsFarbe());
+        Zellen[static_cast<std::size_t>(i)].Vorschau = False;
+        BildZeigen(i);
+    }
+    Stand.LevelPunkte = 0;
+    frmTessel->cmdSchalt(1).Visible = false;
+    frmTessel->mnuTessel(2).Enabled = false;
+    StandSpeichern();
+    MarkierungenLoeschen();
+}
+
+}  // namespace malvone
