@@ -1,0 +1,149 @@
+// Befehle.cpp: the commands of the main window outside the board, but for the new game.
+#include "board/SteuereBilder.h"
+#include "board/iniTessel.h"
+#include "game/NeuesSpiel.h"
+#include "game/Spielstand.h"
+#include "storage/Beste.h"
+#include "storage/Spielstanddatei.h"
+#include "ui/Anzeigen.h"
+#include "ui/Klaenge.h"
+#include "ui/Meldungen.h"
+#include "ui/layer/App.h"
+#include "ui/windows/FrmBeste.h"
+#include "ui/windows/FrmBilder.h"
+#include "ui/windows/FrmTessel.h"
+
+namespace malvone {
+namespace {
+
+// The buttons of cmdSchalt and what they do. Index 2, the manual, does nothing.
+constexpr std::int16_t kSchaltWeiter = 0;
+constexpr std::int16_t kSchaltWiederholen = 1;
+constexpr std::int16_t kSchaltEnde = 3;
+
+constexpr std::int16_t kMenuNeu = 1;
+constexpr std::int16_t kMenuWiederholen = 2;
+constexpr std::int16_t kMenuEnde = 4;
+
+constexpr std::int16_t kMenuHilfe = 1;
+constexpr std::int16_t kMenuInfo = 2;
+constexpr std::int16_t kMenuBeste = 4;
+
+constexpr Twips kBesteVersatz = -500;
+
+void BesteAnsehen()
+{
+    Beste.EintragModus = False;
+    frmBeste->Move(frmTessel->Left + kBesteVersatz, frmTessel->Top + kBesteVersatz);
+    frmBeste->Show(ShowMode::Modal);
+}
+
+}  // namespace
+
+void FrmTessel::cmdSchalt_Click(std::int16_t Index)
+{
+    switch (Index) {
+    case kSchaltWeiter:
+        Stand.KeinSpielBegonnen = false;
+        FeldFuellen();
+        SoundSpielen(kTonBeginn);
+        break;
+    // By design (wiederholung-zaehlt): one would expect the level to keep its number and its
+    // points to go. By menu or keyboard the number rises by one and all points stay; only the
+    // picture gives them back. Test: Befehle.RepeatByMenuRaisesTheLevel
+    case kSchaltWiederholen:
+        StandLaden();
+        SoundSpielen(kTonBeginn);
+        break;
+    case kSchaltEnde: Unload(); break;
+    default: break;
+    }
+}
+
+void FrmTessel::imgNaechsterLevel_Click()
+{
+    PfeileAus();
+    AngebotAus();
+    lblMeldung.Caption = "";
+    Stand.PunkteLevelStart = Stand.PunkteGesamt;
+    Stand.LevelPunkte = 0;
+    Stand.LevelWiederholt = 0;
+    // By design (level-anzeige-spaeter): one would expect the new number at once. The displays are
+    // painted before it rises and show it with the first removal of the level.
+    // Test: Befehle.LevelDisplayLagsUntilTheFirstRemoval
+    AnzeigenAktualisieren();
+    cmdSchalt_Click(kSchaltWeiter);
+}
+
+// Points and level go back before it is known whether the snapshot can be read: reading it raises
+// the level again, and a failure leaves both as they are now.
+void FrmTessel::imgWiederholen_Click()
+{
+    PfeileAus();
+    AngebotAus();
+    Stand.PunkteGesamt = Stand.PunkteLevelStart;
+    Stand.LevelPunkte = 0;
+    --Stand.RundenZahl;
+    Stand.LevelWiederholt = 1;
+    lblSumme.Caption = "";
+    lblMeldung.Caption = "";
+    AnzeigenAktualisieren();
+    StandLaden();
+}
+
+void FrmTessel::ExternesEnde()
+{
+    if (FrageStellen("\r\nDas aktuelle Spiel ist beendet.\r\n"
+                     "Möchten Sie ein neues Spiel beginnen?\"",
+                     "\r\n»Neues Spiel« bestätigen")) {
+        imgNext.Picture = frmBilder->imgPfeil(2).Picture;
+        imgNaechsterLevel.Visible = false;
+        Beste.EndPunkte = 0;
+        SpielZuruecksetzen();
+        FeldFuellen();
+        AnzeigenAktualisieren();
+        lblMeldung.Caption = "";
+        Stand.PunkteLevelStart = 0;
+        Stand.LevelWiederholt = 0;
+        return;
+    }
+    App.Ende();
+}
+
+void FrmTessel::mnuTessel_Click(std::int16_t Index)
+{
+    switch (Index) {
+    case kMenuNeu: lblNeu_Click(); break;
+    case kMenuWiederholen: cmdSchalt_Click(kSchaltWiederholen); break;
+    case kMenuEnde: cmdSchalt_Click(kSchaltEnde); break;
+    default: break;
+    }
+}
+
+void FrmTessel::mnuInfo_Click(std::int16_t Index)
+{
+    switch (Index) {
+    case kMenuHilfe: lblHilfe_Click(); break;
+    case kMenuInfo: lblInfo_Click(); break;
+    case kMenuBeste: BesteAnsehen(); break;
+    default: break;
+    }
+}
+
+void FrmTessel::lblEnde_Click()
+{
+    Unload();
+}
+
+// F1 is also the shortcut of a menu entry: who has opened the manual takes the key, so that it is
+// opened once.
+void FrmTessel::Form_KeyDown(std::int16_t& KeyCode, std::int16_t Shift)
+{
+    (void)Shift;
+    if (KeyCode == kKeyF1) {
+        KeyCode = 0;
+        lblHilfe_Click();
+    }
+}
+
+}  // namespace malvone

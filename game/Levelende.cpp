@@ -1,0 +1,74 @@
+// Levelende.cpp: what follows when a move has left an empty board, or none that can be played on.
+#include <string>
+
+#include "board/SteuereBilder.h"
+#include "board/Zellen.h"
+#include "board/iniTessel.h"
+#include "game/Spielstand.h"
+#include "storage/modBeste.h"
+#include "ui/Klaenge.h"
+#include "ui/Meldungen.h"
+#include "ui/windows/FrmBilder.h"
+#include "ui/windows/FrmTessel.h"
+
+namespace malvone {
+namespace {
+
+constexpr std::int32_t kBonus = 1000;
+constexpr std::int16_t kLetzterLevel = 5;
+
+std::string RestText(std::int16_t belegt)
+{
+    return belegt == 1 ? "Es ist noch ein Feld belegt."
+                       : "Es sind noch " + std::to_string(belegt) + " Felder belegt.";
+}
+
+}  // namespace
+
+void FrmTessel::BelegteFelderZaehlen()
+{
+    Stand.BelegtZahl = 0;
+    for (int i = 1; i <= kZellen; ++i) {
+        if (Zellwert(i) != 0) {
+            ++Stand.BelegtZahl;
+        }
+    }
+}
+
+// By design (bonus-spaeter): one would expect the displays to count the bonus at once. They change
+// with the first removal of the new level. Test: Levelende.BonusShowsWithTheNextRemoval
+void FrmTessel::LeeresFeldBelohnen()
+{
+    lblSumme.Caption = "";
+    SoundSpielen(kTonErfolg);
+    MeldungZeigen("\r\nSehr gut!!!\r\nSie haben alle Spielsteine entfernt!",
+                  "\r\nSie erhalten 1000 Bonuspunkte");
+    Stand.PunkteGesamt += kBonus;
+    FeldFuellen();
+}
+
+void FrmTessel::LevelAuswerten()
+{
+    MeldungZeigen("\r\nEs ist kein weiterer Zug mehr möglich.\r\n" + RestText(Stand.BelegtZahl),
+                  "\r\nSie erhalten keine Bonuspunkte in diesem Level.", Versatz{-1000, -1000});
+    // By design (level-sechs): one would expect every level from 5 on to end the game. Only level 5
+    // does; who empties it plays on without an end. Test: Levelende.OnlyLevelFiveEndsTheGame
+    if (Stand.RundenZahl == kLetzterLevel) {
+        BestePruefen();
+        lblSumme.Caption = "";
+        return;
+    }
+    lblSumme.Caption = "";
+    const bool volles = Stand.LevelWiederholt == 0;
+    imgNaechsterLevel.Visible = true;
+    imgWiederholen.Visible = volles;
+    imgNochEinmal.Visible = volles;
+    imgNext.Picture = frmBilder->imgPfeil(1).Picture;
+    lblMeldung.Caption = volles ? "Klicken Sie auf \r\n»Nächster Level« oder »Wiederholen«."
+                                : "Klicken Sie auf \r\n»Nächster Level«";
+    FeldLeeren();
+    cmdSchalt(1).Visible = true;
+    mnuTessel(2).Enabled = true;
+}
+
+}  // namespace malvone

@@ -1,0 +1,116 @@
+// Main.cpp: how the program comes up.
+#include "game/Main.h"
+
+#include <string>
+
+#include "board/Zellen.h"
+#include "board/iniTessel.h"
+#include "game/NeuesSpiel.h"
+#include "game/Spielstand.h"
+#include "storage/Beste.h"
+#include "storage/Datenordner.h"
+#include "storage/Meldungstext.h"
+#include "storage/modBeste.h"
+#include "ui/Anzeigen.h"
+#include "ui/Klaenge.h"
+#include "ui/Meldungen.h"
+#include "ui/layer/App.h"
+#include "ui/windows/FrmBilder.h"
+#include "ui/windows/FrmHintergrund.h"
+#include "ui/windows/FrmTessel.h"
+
+namespace malvone {
+namespace {
+
+constexpr int kBlinkenMs = 300;
+
+constexpr Meldungstext kPlatteFehlt = {"\r\nDie Festplatte auf Ihrem System wurde nicht erkannt!",
+                                       "\r\nEin Speichern von Daten ist leider nicht möglich"};
+
+// The data folder lies in the root of the drive that holds the Windows folder.
+void DatenordnerWaehlen()
+{
+    const std::string windows = WindowsOrdner();
+    if (windows.empty()) {
+        SoundDirekt(kTonBeginn);
+        MeldungZeigen(kPlatteFehlt);
+        return;
+    }
+    Daten.DatenOrdnerOk = True;
+    Daten.DatenOrdner = MitBackslash(windows.substr(0, 2)) + kDatenOrdnerName;
+    if (!ExistiertDatei(Daten.DatenOrdner)) {
+        OrdnerAnlegen(Daten.DatenOrdner);
+    }
+}
+
+void BestenlisteVorbereiten()
+{
+    if (!ExistiertDatei(BesteDatei())) {
+        BesteVorgabe();
+    }
+}
+
+void ErsteHinweise()
+{
+    frmTessel->lblMeldung.Caption = "Klicken Sie auf »Neues Spiel«.";
+    frmTessel->lblSumme.Caption = "";
+    frmTessel->lblNeu.Caption = "";
+    frmTessel->imgNaechsterLevel.Visible = false;
+    frmTessel->imgWiederholen.Visible = false;
+    frmTessel->imgNochEinmal.Visible = false;
+}
+
+void SoundMenuEinrichten()
+{
+    if (SoundKarteVorhanden()) {
+        frmTessel->mnuSoundan.Checked = true;
+    } else {
+        frmTessel->mnuSound.Enabled = false;
+    }
+}
+
+}  // namespace
+
+void ZustandNeu()
+{
+    Stand = {};
+    Beste = {};
+    Daten = {};
+    Zellen = {};
+    SoundDateien = {};
+    MsgAntwort = 0;
+}
+
+void Main()
+{
+    Daten.DatenOrdnerOk = False;
+    SoundListeAnlegen();
+    DatenordnerWaehlen();
+    BestenlisteVorbereiten();
+    Load(frmTessel);
+    AnzeigenAktualisieren();
+    ErsteHinweise();
+    FeldAnlegen();
+    SoundMenuEinrichten();
+    Stand.KeinSpielBegonnen = true;
+    SpielZuruecksetzen();
+    Load(frmHintergrund);
+    frmHintergrund->Visible = true;
+    frmTessel->Show();
+}
+
+void FrmTessel::Form_Load()
+{
+    Move((Screen.Width - Width) / 2, (Screen.Height - Height) / 2);
+    cmdSchalt(1).Visible = false;
+    mnuTessel(2).Enabled = false;
+    lblSumme.ForeColor = 0x00C00000;
+    Timer1.Enabled = true;
+    Timer1.Interval = kBlinkenMs;
+    imgNext.Picture = frmBilder->imgPfeil(2).Picture;
+    Caption = TitelMitVersion();
+    SoundDirekt(kTonErfolg);
+    imgNochEinmal.Visible = false;
+}
+
+}  // namespace malvone

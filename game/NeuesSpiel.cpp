@@ -1,0 +1,83 @@
+// NeuesSpiel.cpp: the click on the field for a new game, and the arrow that points to it.
+#include "game/NeuesSpiel.h"
+
+#include "board/iniTessel.h"
+#include "game/Spielstand.h"
+#include "ui/Anzeigen.h"
+#include "ui/Klaenge.h"
+#include "ui/Meldungen.h"
+#include "ui/windows/FrmBilder.h"
+#include "ui/windows/FrmTessel.h"
+
+namespace malvone {
+namespace {
+
+constexpr int kOhnePfeil = 2;  // the entry of imgPfeil without a picture
+
+}  // namespace
+
+void SpielZuruecksetzen()
+{
+    Stand.ZugPunkte = 0;
+    Stand.PunkteGesamt = 0;
+    Stand.RundenZahl = 0;
+    Stand.MarkiertZahl = 0;
+    frmTessel->cmdSchalt(0).Caption = "Spiel begi&nnen";
+    frmTessel->cmdSchalt(0).ToolTipText = "Klicken Sie hier, um das Spiel zu beginnen";
+}
+
+// Nothing turns the timer on again.
+void FrmTessel::PfeileAus()
+{
+    Timer1.Enabled = false;
+    Timer1.Interval = 0;
+    imgStart.Picture = frmBilder->imgPfeil(kOhnePfeil).Picture;
+    imgNext.Picture = frmBilder->imgPfeil(kOhnePfeil).Picture;
+}
+
+void FrmTessel::AngebotAus()
+{
+    imgWiederholen.Visible = false;
+    imgNaechsterLevel.Visible = false;
+    imgNochEinmal.Visible = false;
+}
+
+// By design (frage-nimmt-angebot): one would expect the answer no to leave everything as it was.
+// The offer of the next level is gone from the window before the question is asked, and stays gone;
+// menu and keyboard still lead on. Test: NeuesSpiel.AnswerNoTakesTheOfferAway
+void FrmTessel::lblNeu_Click()
+{
+    PfeileAus();
+    AngebotAus();
+    if (!Stand.KeinSpielBegonnen) {
+        SoundSpielen(kTonFrage);
+        if (!FrageStellen("\r\nSind Sie sicher,\r\ndass Sie das aktuelle Spiel beenden möchten?",
+                          "Wenn Sie sich für »Ja« entscheiden, beginnen Sie ein neues Spiel.\r\n"
+                          "Mit »0« Punkten im ersten Level.\r\n»Neues Spiel« bestätigen")) {
+            return;
+        }
+    }
+    SpielZuruecksetzen();
+    FeldFuellen();
+    Stand.KeinSpielBegonnen = false;
+    AnzeigenAktualisieren();
+    lblMeldung.Caption = "";
+    Stand.PunkteLevelStart = 0;
+    Stand.LevelWiederholt = 0;
+}
+
+void FrmTessel::Timer1_Timer()
+{
+    PfeilBlinken();
+}
+
+void FrmTessel::PfeilBlinken()
+{
+    ++PfeilPhase;
+    if (PfeilPhase == 2) {
+        PfeilPhase = 0;
+    }
+    imgStart.Picture = frmBilder->imgPfeil(PfeilPhase).Picture;
+}
+
+}  // namespace malvone

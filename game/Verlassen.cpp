@@ -1,0 +1,26 @@
+// Verlassen.cpp: the question before the main window closes, and the end of the program.
+#include "ui/Klaenge.h"
+#include "ui/Meldungen.h"
+#include "ui/layer/App.h"
+#include "ui/windows/FrmTessel.h"
+
+namespace malvone {
+
+// Whoever closes the window, and for whatever reason: the question is the same.
+void FrmTessel::Form_QueryUnload(std::int16_t& Cancel, UnloadMode mode)
+{
+    (void)mode;
+    SoundSpielen(kTonBeginn);
+    if (!FrageStellen("\r\nSind Sie sicher,\r\ndass Sie das Spiel beenden möchten?\"",
+                      "\r\n»Beenden« bestätigen")) {
+        Cancel = 1;
+    }
+}
+
+// The end takes all windows with it.
+void FrmTessel::Form_Unload()
+{
+    App.Ende();
+}
+
+}  // namespace malvone

@@ -1,0 +1,65 @@
+// Klaenge.cpp: the list of sounds, the sound menu and the test for a device.
+#include "ui/Klaenge.h"
+
+#include <cstddef>
+
+#include "ui/Handbuch.h"
+#include "ui/layer/App.h"
+#include "ui/windows/FrmTessel.h"
+
+namespace malvone {
+
+std::array<std::string, kToene> SoundDateien;
+
+namespace {
+
+constexpr const char* kDateien[kToene] = {
+    "TADA.WAV", "WHOOSH.WAV", "CHIMES.WAV", "FRAGE.WAV", "FEHLER.WAV", "BLIP.WAV", "ding.wav",
+};
+
+}  // namespace
+
+void SoundListeAnlegen()
+{
+    for (std::size_t i = 0; i < SoundDateien.size(); ++i) {
+        SoundDateien[i] = ProgrammOrdner() + kDateien[i];
+    }
+    for (std::string& datei : SoundDateien) {
+        if (App.System().OpenFileExist(datei) != kFileExists) {
+            datei.clear();
+        }
+    }
+}
+
+bool SoundKarteVorhanden()
+{
+    return App.System().waveOutGetNumDevs() != 0;
+}
+
+void SoundSpielen(int index)
+{
+    if (frmTessel->mnuSoundan.Checked) {
+        SoundDirekt(index);
+    }
+}
+
+void SoundDirekt(int index)
+{
+    if (!App.Ended()) {
+        App.System().sndPlaySoundA(SoundDateien[static_cast<std::size_t>(index)]);
+    }
+}
+
+void FrmTessel::mnuSoundan_Click()
+{
+    mnuSoundan.Checked = true;
+    mnuSoundaus.Checked = false;
+}
+
+void FrmTessel::mnuSoundaus_Click()
+{
+    mnuSoundaus.Checked = true;
+    mnuSoundan.Checked = false;
+}
+
+}  // namespace malvone

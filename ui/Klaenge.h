@@ -1,0 +1,33 @@
+// Klaenge.h: which sounds the game has, and when it plays them.
+#pragma once
+
+#include <array>
+#include <string>
+
+namespace malvone {
+
+// The sounds by their index in the list.
+inline constexpr int kTonErfolg = 0;    // TADA.WAV
+inline constexpr int kTonEntfernt = 1;  // WHOOSH.WAV
+inline constexpr int kTonBeginn = 2;    // CHIMES.WAV
+inline constexpr int kTonFrage = 3;     // FRAGE.WAV
+inline constexpr int kTonFehler = 4;    // FEHLER.WAV
+inline constexpr int kTonPiep = 5;      // BLIP.WAV, which no event plays
+inline constexpr int kTonHinweis = 6;   // ding.wav
+inline constexpr int kToene = 7;
+
+// The full paths of the sounds, as the game writes paths; empty where the file is missing.
+extern std::array<std::string, kToene> SoundDateien;
+
+// Fills the list. A missing file empties its entry and is told to nobody.
+void SoundListeAnlegen();
+
+// Whether the system has a device that plays waves.
+bool SoundKarteVorhanden();
+
+// Plays the sound of an index, 0 to 6, if sound is switched on in the menu.
+void SoundSpielen(int index);
+// Plays it whatever the menu says.
+void SoundDirekt(int index);
+
+}  // namespace malvone

@@ -1,0 +1,38 @@
+// Meldungen.h: the one recipe by which the game tells the player something or asks a question.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "ui/layer/Window.h"
+
+namespace malvone {
+
+inline constexpr std::int16_t kAntwortJa = 1;
+inline constexpr std::int16_t kAntwortNein = 2;
+inline constexpr std::int16_t kAntwortGeschlossen = 3;  // closed without an answer
+
+// The last answer of frmMsgJa, 0 before the first. Nobody resets it: a window that the system
+// closes leaves the answer of the question before.
+extern std::int16_t MsgAntwort;
+
+// Where a message opens, from the corner of frmTessel, in twips; without one it opens centred.
+struct Versatz
+{
+    Twips Links;
+    Twips Oben;
+};
+
+// Shows frmMsgOk with two texts and returns when it has closed. Lines are parted by CR LF; a text
+// that begins with CR LF begins on the second line.
+void MeldungZeigen(std::string_view meldung, std::string_view titel);
+void MeldungZeigen(std::string_view meldung, std::string_view titel, Versatz versatz);
+
+// Shows frmMsgJa, centred. True only where the answer is exactly yes.
+bool FrageStellen(std::string_view meldung, std::string_view titel);
+
+// The program's name and version as the windows show them.
+std::string TitelMitVersion();
+
+}  // namespace malvone
