@@ -1,7 +1,7 @@
 // A player for trials by ear and by machine: plays wave files as the game does.
-//   spieler [--bibliothek NAME] {FILE | MILLISECONDS | leer} ...
-// A number pauses, "leer" plays the empty path. Prints the devices counted and how long the game
-// would have been held up.
+//   spieler [--bibliothek NAME] {FILE | MILLISECONDS | leer | zaehlen} ...
+// A number pauses, "leer" plays the empty path, "zaehlen" counts the devices. Prints how long the
+// game would have been held up: by each kind of call, the longest.
 #include "ui/sound/Klang.h"
 
 #include <algorithm>
@@ -11,12 +11,11 @@
 #include <thread>
 #include <vector>
 
-namespace
-{
+namespace {
 
 using Uhr = std::chrono::steady_clock;
 
-template <typename Tun>
+template<typename Tun>
 double Gemessen(Tun tun)
 {
     const auto beginn = Uhr::now();
@@ -40,19 +39,21 @@ int main(int argc, char** argv)
         liste.erase(liste.begin(), liste.begin() + 2);
     }
     malvone::Klang klang(bibliothek);
-    const double start = Gemessen([&] { klang.Vorbereiten(); });
-    std::int32_t geraete = 0;
-    const double zaehlen = Gemessen([&] { geraete = klang.GeraeteZahl(); });
-    std::printf("Geraete %d\nVorbereiten %.2f ms\nGeraeteZahl %.2f ms\n", geraete, start, zaehlen);
+    std::printf("Vorbereiten %.2f ms\n", Gemessen([&] { klang.Vorbereiten(); }));
     double spielen = 0;
     for (const std::string& wort : liste) {
-        if (IstZahl(wort)) {
+        if (wort == "zaehlen") {
+            std::int32_t geraete = 0;
+            const double dauerMs = Gemessen([&] { geraete = klang.GeraeteZahl(); });
+            std::printf("Geraete %d\nZaehlen %.2f ms\n", geraete, dauerMs);
+        } else if (IstZahl(wort)) {
             std::this_thread::sleep_for(std::chrono::milliseconds(std::stoi(wort)));
         } else {
-            spielen = std::max(spielen, Gemessen([&] { klang.Spielen(wort == "leer" ? "" : wort); }));
+            const std::string pfad = wort == "leer" ? "" : wort;
+            spielen = std::max(spielen, Gemessen([&] { klang.Spielen(pfad); }));
         }
     }
-    const double beenden = Gemessen([&] { klang.Beenden(); });
-    std::printf("Spielen %.2f ms\nBeenden %.2f ms\n", spielen, beenden);
+    std::printf("Spielen %.2f ms\n", spielen);
+    std::printf("Beenden %.2f ms\n", Gemessen([&] { klang.Beenden(); }));
     return 0;
 }

@@ -3,8 +3,7 @@
 
 #include <utility>
 
-namespace malvone
-{
+namespace malvone {
 
 void Briefkasten::Einwerfen(std::string pfad)
 {

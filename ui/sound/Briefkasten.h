@@ -10,13 +10,13 @@
 #include <optional>
 #include <string>
 
-namespace malvone
-{
+namespace malvone {
 
 class Briefkasten
 {
 public:
-    struct Post {
+    struct Post
+    {
         bool Ende = false;
         std::optional<std::string> Pfad;  // the last one thrown in since the box was emptied
     };

@@ -9,10 +9,8 @@
 #include <system_error>
 #include <utility>
 
-namespace malvone
-{
-namespace
-{
+namespace malvone {
+namespace {
 
 constexpr std::chrono::milliseconds kGeduld{100};  // the longest that the game is ever held up
 

@@ -8,8 +8,7 @@
 #include <string>
 #include <thread>
 
-namespace malvone
-{
+namespace malvone {
 
 class Briefkasten;
 

@@ -3,12 +3,10 @@
 
 #include <dlfcn.h>
 
-namespace malvone
-{
-namespace
-{
+namespace malvone {
+namespace {
 
-template <typename Funktion>
+template<typename Funktion>
 bool Suchen(void* bibliothek, const char* name, Funktion& funktion)
 {
     funktion = reinterpret_cast<Funktion>(::dlsym(bibliothek, name));

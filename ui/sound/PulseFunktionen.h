@@ -1,13 +1,12 @@
-// The functions of libpulse that the game calls, looked up at run time: the library is never linked,
-// so the program starts without it, and as fast as if there were none.
+// The functions of libpulse that the game calls, looked up at run time: the library is never
+// linked, so the program starts without it, and as fast as if there were none.
 #pragma once
 
 #include <pulse/pulseaudio.h>
 
 #include <string>
 
-namespace malvone
-{
+namespace malvone {
 
 // clang-format off
 #define MALVONE_PULSE_FUNKTIONEN(JEDE) \
@@ -35,7 +34,8 @@ namespace malvone
     JEDE(pa_stream_unref)
 // clang-format on
 
-struct PulseFunktionen {
+struct PulseFunktionen
+{
 #define MALVONE_ZEIGER(name) decltype(&::name) name = nullptr;
     MALVONE_PULSE_FUNKTIONEN(MALVONE_ZEIGER)
 #undef MALVONE_ZEIGER

@@ -6,10 +6,8 @@
 #include <string_view>
 #include <utility>
 
-namespace malvone
-{
-namespace
-{
+namespace malvone {
+namespace {
 
 constexpr std::chrono::milliseconds kAntwortFrist{300};
 constexpr std::int64_t kNachschubMs = 20;  // how often a sounding wave is asked for more, at most
@@ -26,8 +24,7 @@ std::uint32_t BytesFuer(const Welle& welle, std::int64_t ms)
 
 PulseSpieler::PulseSpieler(Briefkasten& kasten, const PulseFunktionen& pulse)
     : Kasten(kasten), Pulse(pulse)
-{
-}
+{}
 
 void PulseSpieler::Laufen()
 {

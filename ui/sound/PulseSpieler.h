@@ -13,8 +13,7 @@
 #include <optional>
 #include <string>
 
-namespace malvone
-{
+namespace malvone {
 
 class PulseSpieler
 {

@@ -8,10 +8,8 @@
 #include <fstream>
 #include <string_view>
 
-namespace malvone
-{
-namespace
-{
+namespace malvone {
+namespace {
 
 using Bytes = std::span<const std::uint8_t>;
 

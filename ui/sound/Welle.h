@@ -7,11 +7,11 @@
 #include <string>
 #include <vector>
 
-namespace malvone
-{
+namespace malvone {
 
 // A wave as it is handed to a sound server. Daten holds whole frames and is never empty.
-struct Welle {
+struct Welle
+{
     std::uint32_t Rate = 0;  // frames per second
     std::uint8_t Kanaele = 0;
     std::uint8_t Bits = 0;  // 8: unsigned; 16: signed, little endian
