@@ -13,13 +13,23 @@ add_custom_target(klaenge ALL DEPENDS ${sounds_copied})
 set(manual_builder "${PROJECT_SOURCE_DIR}/assets/manuals/bauen.py")
 if(EXISTS "${manual_builder}")
     find_package(Python3 REQUIRED COMPONENTS Interpreter)
-    malvone_glob(manual_parts assets/manuals/* assets/pictures/*.svg)
-    list(FILTER manual_parts EXCLUDE REGEX "__pycache__")
+    malvone_glob(manual_parts assets/manuals/*.* assets/manuals/bilder/* assets/pictures/*.svg)
     set(manuals_stamp "${PROJECT_BINARY_DIR}/generated/handbuecher.stamp")
-    add_custom_command(OUTPUT "${manuals_stamp}"
+    # Each manual is one .html file there; the builder makes a PDF of the same name from it.
+    malvone_glob(manual_files assets/manuals/*.html)
+    list(TRANSFORM manual_files REPLACE ".*/([^/]+)\\.html$" "${PROJECT_BINARY_DIR}/\\1.pdf")
+    add_custom_command(OUTPUT "${manuals_stamp}" BYPRODUCTS ${manual_files}
         COMMAND "${Python3_EXECUTABLE}" -B "${manual_builder}"
                 --pictures "${PROJECT_SOURCE_DIR}/assets/pictures" --out "${PROJECT_BINARY_DIR}"
         COMMAND "${CMAKE_COMMAND}" -E touch "${manuals_stamp}"
         DEPENDS ${manual_parts} COMMENT "Setting the manuals" VERBATIM)
     add_custom_target(handbuecher ALL DEPENDS "${manuals_stamp}")
+endif()
+
+# What ./play builds: the game and all that it needs beside it.
+if(TARGET malvone)
+    add_custom_target(spiel DEPENDS malvone klaenge)
+    if(TARGET handbuecher)
+        add_dependencies(spiel handbuecher)
+    endif()
 endif()

@@ -94,18 +94,34 @@ if(TARGET drehbuch)
     endforeach()
 endif()
 
-# Scripts that drive real windows or a real sound server. Each starts the display and the server
-# that it needs by itself. Names with a leading underscore are modules, not tests.
-if(TARGET malvone)
-    malvone_glob(display_scripts tests/qt/*.py tests/sound/*_e2e.py)
-    list(FILTER display_scripts EXCLUDE REGEX "/_[^/]*$")
-    foreach(script IN LISTS display_scripts)
+# Adds one test for each script that matches; names with a leading underscore are modules.
+function(malvone_script_tests LABEL)
+    malvone_glob(scripts ${ARGN})
+    list(FILTER scripts EXCLUDE REGEX "/_[^/]*$")
+    foreach(script IN LISTS scripts)
         cmake_path(GET script STEM name)
         cmake_path(GET script PARENT_PATH folder)
         cmake_path(GET folder FILENAME folder)
-        add_test(NAME display.${folder}.${name} COMMAND "${Python3_EXECUTABLE}" "${script}"
+        set(test ${LABEL}.${folder}.${name})
+        add_test(NAME ${test} COMMAND "${Python3_EXECUTABLE}" "${script}"
             WORKING_DIRECTORY "${PROJECT_SOURCE_DIR}")
-        set_tests_properties(display.${folder}.${name} PROPERTIES
-            ENVIRONMENT "${test_environment}" LABELS display TIMEOUT 300)
+        set_tests_properties(${test} PROPERTIES
+            ENVIRONMENT "${test_environment}" LABELS ${LABEL} TIMEOUT 300)
     endforeach()
+endfunction()
+
+# Scripts that drive real windows or a real sound server; each starts what it needs by itself.
+if(TARGET malvone)
+    malvone_script_tests(display tests/qt/*.py tests/sound/*_e2e.py)
+endif()
+
+# Scripts that look at what lies in the repository or the build folder.
+malvone_script_tests(files tests/manuals/*.py tests/pictures/*.py)
+
+if(TARGET malvone)
+    add_test(NAME packaging COMMAND "${Python3_EXECUTABLE}"
+        "${PROJECT_SOURCE_DIR}/packaging/pruefen.py" "${CMAKE_COMMAND}" "${PROJECT_BINARY_DIR}"
+        "${CMAKE_INSTALL_PREFIX}")
+    set_tests_properties(packaging PROPERTIES
+        ENVIRONMENT "${test_environment}" LABELS files TIMEOUT 120)
 endif()
