@@ -73,10 +73,10 @@ SENTENCES = {
         "mehr als eine Gruppe von 31 Steinen",
         "5000, 4700, 4400, 4100 und 3800 Punkten",
         "mindestens 3801 Punkte",
-        "Enter oder Alt + N", "Alt + W oder Strg + W", "Alt + E oder Strg + E", "Strg + N",
+        "Enter , Leertaste , Alt + N", "Alt + W oder Strg + W", "Alt + E oder Strg + E", "Strg + N",
         "~/.local/share/lindenspiele", "$XDG_DATA_HOME/lindenspiele", "tessel.ini", "malvone.txt",
     ],
-    "Meldefenster": ["Enter , Leertaste und alle anderen tun nichts",
+    "Meldefenster": ["Enter , Leertaste und alle anderen tun nichts", "ist zu kurz (62)",
                      "schließt das Fenster und gilt als Nein", *MESSAGES],
     "Bestespieler": [
         "3800 kein Eintrag", "3801 Platz 5", "4700 Platz 3", "5000 Platz 2", "5001 Platz 1",
@@ -178,7 +178,7 @@ class Words(unittest.TestCase):
             text = words(name)
             for sentence in sentences:
                 with self.subTest(manual=name, sentence=sentence):
-                    self.assertIn(sentence, text)
+                    self.assertTrue(sentence in text, "not found in the text")
 
     def test_a_group_is_worth_the_square_of_its_stones(self):
         text = run("pdftotext", "-layout", pdf("Malvone"), "-")
