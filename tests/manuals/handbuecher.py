@@ -1,8 +1,9 @@
 #!/usr/bin/env python3
 """Checks the three PDF manuals in a build folder: their form, and what they tell the player.
 
-    handbuecher.py BUILDDIR
+    handbuecher.py [BUILDDIR]
 
+Without BUILDDIR the environment variable MALVONE_BUILD names the folder.
 Needs pdfinfo, pdffonts, pdftotext and pdftohtml of poppler-utils. The last two tests make the
 manuals themselves, so they also need what assets/manuals/bauen.py needs.
 """
@@ -237,7 +238,8 @@ class Making(unittest.TestCase):
 
 
 if __name__ == "__main__":
-    if len(sys.argv) < 2:
+    build = sys.argv.pop(1) if len(sys.argv) > 1 else os.environ.get("MALVONE_BUILD")
+    if not build:
         sys.exit(__doc__)
-    FOLDER = Path(sys.argv.pop(1)).resolve()
+    FOLDER = Path(build).resolve()
     unittest.main()
