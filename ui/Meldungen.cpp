@@ -131,6 +131,16 @@ void FrmMsgJa::lblName_MouseMove(const Mouse& mouse)
     FensterZiehen(*this, mouse);
 }
 
+// A question that the system takes away is closed without an answer: the answer of an earlier
+// question must not stand for this one.
+void FrmMsgJa::Form_QueryUnload(std::int16_t& Cancel, UnloadMode mode)
+{
+    (void)Cancel;
+    if (mode != UnloadMode::Code) {
+        MsgAntwort = kAntwortGeschlossen;
+    }
+}
+
 void FrmMsgJa::Antworten(std::int16_t antwort)
 {
     MsgAntwort = antwort;

@@ -13,8 +13,7 @@ inline constexpr std::int16_t kAntwortJa = 1;
 inline constexpr std::int16_t kAntwortNein = 2;
 inline constexpr std::int16_t kAntwortGeschlossen = 3;  // closed without an answer
 
-// The last answer of frmMsgJa, 0 before the first. Nobody resets it: a window that the system
-// closes leaves the answer of the question before.
+// The last answer of frmMsgJa, 0 before the first. No caller resets it before a question.
 extern std::int16_t MsgAntwort;
 
 // Where a message opens, from the corner of frmTessel, in twips; without one it opens centred.

@@ -22,6 +22,7 @@ public:
     void Form_Activate() override;
     void Form_KeyDown(std::int16_t& KeyCode, std::int16_t Shift) override;
     void Form_MouseMove(const Mouse& mouse) override;
+    void Form_QueryUnload(std::int16_t& Cancel, UnloadMode mode) override;
 
 private:
     void Antworten(std::int16_t antwort);
