@@ -71,7 +71,7 @@ public:
             if (Complete() || TooLong()) {
                 return;
             }
-            const bool secondOfCrLf = c == '\n' && std::exchange(afterCr_, c == '\r');
+            const bool secondOfCrLf = c == '\n' && afterCr_;
             afterCr_ = c == '\r';
             if (c != '\r' && c != '\n') {
                 line_ += c;
@@ -218,7 +218,11 @@ struct FilePlatform::Replacement
 
 FilePlatform::FilePlatform(std::optional<fs::path> root, fs::path programFolder)
     : root_(std::move(root)), programFolder_(std::move(programFolder))
-{}
+{
+    if (root_ && !root_->has_filename()) {  // the folder above a file has no slash at its end
+        root_ = root_->parent_path();
+    }
+}
 
 std::optional<fs::path> FilePlatform::Translate(std::string_view path) const
 {
