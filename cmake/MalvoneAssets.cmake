@@ -11,7 +11,7 @@ endforeach()
 add_custom_target(klaenge ALL DEPENDS ${sounds_copied})
 
 set(manual_builder "${PROJECT_SOURCE_DIR}/assets/manuals/bauen.py")
-if(EXISTS "${manual_builder}")
+if(EXISTS "${manual_builder}" AND NOT MALVONE_SANITIZE)
     find_package(Python3 REQUIRED COMPONENTS Interpreter)
     malvone_glob(manual_parts assets/manuals/*.* assets/manuals/bilder/* assets/pictures/*.svg)
     set(manuals_stamp "${PROJECT_BINARY_DIR}/generated/handbuecher.stamp")
