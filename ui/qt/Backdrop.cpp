@@ -1,0 +1,70 @@
+// Backdrop.cpp: hints to the window manager, and the size of the backdrop.
+#include "ui/qt/Backdrop.h"
+
+#include <QGuiApplication>
+#include <QWidget>
+
+#include "ui/qt/Scale.h"
+#include "ui/windows/FrmHintergrund.h"
+
+#ifdef MALVONE_XCB
+#include <xcb/xcb.h>
+
+#include <memory>
+#include <string_view>
+#endif
+
+namespace malvone::qt {
+namespace {
+
+#ifdef MALVONE_XCB
+xcb_intern_atom_cookie_t Ask(xcb_connection_t* connection, std::string_view name)
+{
+    return xcb_intern_atom(connection, 0, static_cast<std::uint16_t>(name.size()), name.data());
+}
+
+xcb_atom_t Answer(xcb_connection_t* connection, xcb_intern_atom_cookie_t cookie)
+{
+    struct Freed
+    {
+        void operator()(void* memory) const { std::free(memory); }
+    };
+    const std::unique_ptr<xcb_intern_atom_reply_t, Freed> reply(
+        xcb_intern_atom_reply(connection, cookie, nullptr));
+    return reply ? reply->atom : xcb_atom_t{XCB_ATOM_NONE};
+}
+#endif
+
+}  // namespace
+
+bool IsBackdrop(const Window& window)
+{
+    return window.Name() == frmHintergrund.Name();
+}
+
+void KeepOffTaskBar(QWidget& widget)
+{
+#ifdef MALVONE_XCB
+    const auto* const x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
+    if (x11 == nullptr) {
+        return;
+    }
+    xcb_connection_t* const connection = x11->connection();
+    const auto state = Ask(connection, "_NET_WM_STATE");
+    const auto taskBar = Ask(connection, "_NET_WM_STATE_SKIP_TASKBAR");
+    const auto pager = Ask(connection, "_NET_WM_STATE_SKIP_PAGER");
+    const xcb_atom_t hints[] = {Answer(connection, taskBar), Answer(connection, pager)};
+    xcb_change_property(connection, XCB_PROP_MODE_APPEND, static_cast<xcb_window_t>(widget.winId()),
+                        Answer(connection, state), XCB_ATOM_ATOM, 32, 2, hints);
+#else
+    (void)widget;
+#endif
+}
+
+void FitBackdrop(Window& window, int width, int height)
+{
+    window.Move(0, 0, ToTwips(width), ToTwips(height));
+    static_cast<FrmHintergrund&>(window).Image1.Move(0, 0, window.Width, window.Height);
+}
+
+}  // namespace malvone::qt

@@ -1,0 +1,99 @@
+// Display.cpp: looks at the environment and at the screen before the first window.
+#include "ui/qt/Display.h"
+
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <unistd.h>
+
+#include <QGuiApplication>
+#include <QScreen>
+#include <algorithm>
+#include <cstdlib>
+#include <string>
+
+#ifdef MALVONE_XCB
+#include <xcb/xcb.h>
+#endif
+
+namespace malvone::qt {
+namespace {
+
+constexpr const char* kPlatform = "QT_QPA_PLATFORM";
+constexpr const char* kScale = "QT_SCALE_FACTOR";
+
+// The client area of the main window, and about what menu bar and frame add to it.
+constexpr double kWidthNeeded = 755 + 10;
+constexpr double kHeightNeeded = 463 + 24 + 36;
+
+std::string Environment(const char* name)
+{
+    const char* const value = std::getenv(name);
+    return value != nullptr ? value : "";
+}
+
+bool X11Reachable()
+{
+    if (Environment("DISPLAY").empty()) {
+        return false;
+    }
+#ifdef MALVONE_XCB
+    xcb_connection_t* const connection = xcb_connect(nullptr, nullptr);
+    const bool reached = xcb_connection_has_error(connection) == 0;
+    xcb_disconnect(connection);
+    return reached;
+#else
+    return true;
+#endif
+}
+
+bool WaylandReachable()
+{
+    std::string path = Environment("WAYLAND_DISPLAY");
+    if (path.empty()) {
+        return false;
+    }
+    if (path.front() != '/') {
+        path = Environment("XDG_RUNTIME_DIR") + "/" + path;
+    }
+    sockaddr_un address{};
+    address.sun_family = AF_UNIX;
+    if (path.size() >= sizeof address.sun_path) {
+        return false;
+    }
+    std::copy(path.begin(), path.end(), std::begin(address.sun_path));
+    const int channel = socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
+    const bool reached = channel >= 0 && connect(channel, reinterpret_cast<sockaddr*>(&address),
+                                                 sizeof address) == 0;
+    if (channel >= 0) {
+        close(channel);
+    }
+    return reached;
+}
+
+}  // namespace
+
+bool DisplayReachable()
+{
+    return !Environment(kPlatform).empty() || X11Reachable() || WaylandReachable();
+}
+
+void PreferX11()
+{
+    if (Environment(kPlatform).empty()) {
+        qputenv(kPlatform, "xcb;wayland");
+    }
+}
+
+double FittingScale()
+{
+    const QSizeF room = QGuiApplication::primaryScreen()->availableGeometry().size();
+    return std::min({1.0, room.width() / kWidthNeeded, room.height() / kHeightNeeded});
+}
+
+void ReduceScale(double factor)
+{
+    const double wished = qEnvironmentVariable(kScale).toDouble();
+    qputenv(kScale, QByteArray::number((wished > 0 ? wished : 1.0) * factor, 'f', 3));
+}
+
+}  // namespace malvone::qt

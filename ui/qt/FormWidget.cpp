@@ -1,0 +1,378 @@
+// FormWidget.cpp: a window on the screen.
+#include "ui/qt/FormWidget.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QIcon>
+#include <QPainter>
+#include <QToolTip>
+#include <QWindow>
+
+#include "ui/layer/App.h"
+#include "ui/layer/PointerRouting.h"
+#include "ui/qt/Backdrop.h"
+#include "ui/qt/HandCursor.h"
+#include "ui/qt/KeyTable.h"
+#include "ui/qt/LabelText.h"
+#include "ui/qt/MenuBar.h"
+#include "ui/qt/NameBox.h"
+#include "ui/qt/Painting.h"
+#include "ui/qt/PictureStore.h"
+#include "ui/qt/Scale.h"
+
+namespace malvone::qt {
+namespace {
+
+Qt::WindowFlags FlagsOf(const Window& window, ShowMode mode)
+{
+    const Qt::WindowFlags kind = mode == ShowMode::Modal ? Qt::Dialog : Qt::Window;
+    if (window.BorderStyle == Border::None) {
+        return kind | Qt::FramelessWindowHint;
+    }
+    Qt::WindowFlags flags = kind | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                            Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
+    flags.setFlag(Qt::WindowMinimizeButtonHint, window.MinButton);
+    flags.setFlag(Qt::WindowMaximizeButtonHint, window.MaxButton);
+    return flags;
+}
+
+std::int16_t ToButtons(Qt::MouseButtons buttons)
+{
+    int sum = 0;
+    sum |= buttons.testFlag(Qt::LeftButton) ? kLeftButton : 0;
+    sum |= buttons.testFlag(Qt::RightButton) ? kRightButton : 0;
+    sum |= buttons.testFlag(Qt::MiddleButton) ? kMiddleButton : 0;
+    return static_cast<std::int16_t>(sum);
+}
+
+}  // namespace
+
+FormWidget::FormWidget(Window& window, ShowMode mode, PictureStore& pictures)
+    : QWidget(nullptr, FlagsOf(window, mode)), window_(&window), pictures_(pictures),
+      placement_(*this, window)
+{
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setMouseTracking(true);
+    if (!window.MenuEntries().empty()) {
+        menu_ = new MenuBar(window, this);
+    }
+    TakeSize();
+    placement_.TellSize();
+    Follow(Change::Text);
+    Follow(Change::Picture);
+    for (Visual* const visual : window.FrontToBack()) {
+        if (auto* const box = dynamic_cast<TextBox*>(visual)) {
+            FollowBox(*box);
+        }
+    }
+}
+
+FormWidget::~FormWidget() = default;
+
+void FormWidget::TakeSize()
+{
+    const QSize client(ToWholePixels(window_->ClientWidth), ToWholePixels(window_->ClientHeight));
+    if (menu_ != nullptr) {
+        menu_->setGeometry(0, 0, client.width(), menu_->heightForWidth(client.width()));
+    }
+    resize(client.grownBy(QMargins(0, Origin().y(), 0, 0)));
+    if (window_->BorderStyle != Border::Sizable && !IsBackdrop(*window_)) {
+        setFixedSize(size());
+    }
+}
+
+void FormWidget::Detach()
+{
+    window_ = nullptr;
+    if (menu_ != nullptr) {
+        menu_->Detach();
+    }
+    for (const auto& [model, box] : boxes_) {
+        box->Detach();
+    }
+    boxes_.clear();
+    hide();
+}
+
+void FormWidget::Present(const QWidget* below)
+{
+    if (!isVisible()) {
+        winId();
+        windowHandle()->setTransientParent(below != nullptr ? below->windowHandle() : nullptr);
+        placement_.ToScreen();
+        if (IsBackdrop(*window_)) {
+            KeepOffTaskBar(*this);
+            showFullScreen();
+            return;
+        }
+        show();
+    }
+    raise();
+    activateWindow();
+}
+
+QPoint FormWidget::Origin() const
+{
+    return {0, menu_ != nullptr ? menu_->height() : 0};
+}
+
+void FormWidget::paintEvent(QPaintEvent* event)
+{
+    if (window_ == nullptr) {
+        return;
+    }
+    QPainter painter(this);
+    painter.translate(Origin());
+    const QSize client = size().shrunkBy(QMargins(0, Origin().y(), 0, 0));
+    PaintWindow(painter, *window_, pictures_, event->region().translated(-Origin()), client);
+}
+
+void FormWidget::Follow(Change what)
+{
+    switch (what) {
+    case Change::Geometry:
+        if (isVisible() && !IsBackdrop(*window_)) {
+            placement_.ToScreen();
+        }
+        break;
+    case Change::Text:
+        // The captions of windows without a title bar are not meant to be seen.
+        setWindowTitle(window_->BorderStyle == Border::None ? QStringLiteral("Malvone")
+                                                            : ToQString(window_->Caption.Get()));
+        break;
+    case Change::Picture:
+        if (!window_->Icon->Empty()) {
+            const QSize size(window_->Icon->Width(), window_->Icon->Height());
+            setWindowIcon(QPixmap::fromImage(pictures_.Get(window_->Icon, size)));
+        }
+        update();
+        break;
+    default: update(); break;
+    }
+}
+
+void FormWidget::Follow(Control& control, Change what)
+{
+    if (const auto* const entry = dynamic_cast<const MenuEntry*>(&control)) {
+        menu_->Follow(*entry);
+    } else if (auto* const box = dynamic_cast<TextBox*>(&control)) {
+        FollowBox(*box);
+    } else if (const auto* const visual = dynamic_cast<const Visual*>(&control)) {
+        Repaint(*visual, what);
+    }
+}
+
+void FormWidget::FollowFocus()
+{
+    const auto found = boxes_.find(window_->Focus());
+    if (found != boxes_.end()) {
+        found->second->setFocus(Qt::OtherFocusReason);
+    } else {
+        setFocus(Qt::OtherFocusReason);
+    }
+}
+
+// A box beside the client area is mere data and has no widget.
+void FormWidget::FollowBox(TextBox& box)
+{
+    auto found = boxes_.find(&box);
+    if (found == boxes_.end()) {
+        if (box.Left >= window_->ClientWidth || box.Top >= window_->ClientHeight) {
+            return;
+        }
+        const auto route = [this](const QKeyEvent& event) { return RouteKey(event); };
+        found = boxes_.emplace(&box, new NameBox(box, route, this)).first;
+    }
+    found->second->Follow(Origin());
+}
+
+// The rectangle on this widget that a control's pixels on the screen can touch.
+QRect FormWidget::Touched(const Visual& visual) const
+{
+    const QRect place = PlaceOf(visual).toAlignedRect().translated(Origin());
+    const double ratio = devicePixelRatioF();
+    const bool wholePixels = std::floor(ratio) == ratio;
+    return wholePixels ? place : place.adjusted(-1, -1, 1, 1);
+}
+
+void FormWidget::Repaint(const Visual& visual, Change what)
+{
+    if (what == Change::Data || what == Change::Tip || what == Change::Enabled || !isVisible()) {
+        return;
+    }
+    if (what == Change::Geometry) {
+        update();  // it may have come from anywhere, and it happens seldom
+    } else if (visual.Visible || what == Change::Visible) {
+        update(Touched(visual));
+    }
+}
+
+Visual* FormWidget::ControlUnder(QPointF position) const
+{
+    const QPointF place = position - Origin();
+    const Twips x = ToTwips(place.x());
+    const Twips y = ToTwips(place.y());
+    const bool designed = x >= 0 && y >= 0 && x < window_->ClientWidth && y < window_->ClientHeight;
+    return designed ? ControlAt(*window_, x, y) : nullptr;
+}
+
+Mouse FormWidget::ToMouse(const QMouseEvent& event, std::int16_t button) const
+{
+    const QPointF place = event.position() - Origin();
+    return {button, ToShift(event.modifiers()), ToTwips(place.x()), ToTwips(place.y())};
+}
+
+// Beside the designed client area, in a window that the player has enlarged, there is nothing to
+// point at; what the design keeps there is out of reach.
+bool FormWidget::Ignores(const QMouseEvent& event) const
+{
+    if (window_ == nullptr) {
+        return true;
+    }
+    const QPointF place = event.position() - Origin();
+    return window_->Pressed == nullptr && (ToTwips(place.x()) >= window_->ClientWidth ||
+                                           ToTwips(place.y()) >= window_->ClientHeight);
+}
+
+void FormWidget::mousePressEvent(QMouseEvent* event)
+{
+    QToolTip::hideText();
+    pressedAt_ = event->globalPosition().toPoint();
+    frameAtPress_ = windowHandle()->framePosition();
+    if (!Ignores(*event)) {
+        PointerPressed(*window_, ToMouse(*event, ToButtons(event->button())));
+    }
+}
+
+// The second press of a double click is a press like any other.
+void FormWidget::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    mousePressEvent(event);
+}
+
+void FormWidget::mouseMoveEvent(QMouseEvent* event)
+{
+    if (dragging_) {
+        move(frameAtPress_ + event->globalPosition().toPoint() - pressedAt_);
+    } else if (!Ignores(*event)) {
+        PointerMoved(*window_, ToMouse(*event, ToButtons(event->buttons())));
+    }
+    UpdateCursor(event->position());
+}
+
+void FormWidget::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (dragging_) {
+        dragging_ = event->buttons().testFlag(Qt::LeftButton);
+    } else if (!Ignores(*event)) {
+        PointerReleased(*window_, ToMouse(*event, ToButtons(event->button())));
+    }
+}
+
+// X11 window managers do not all move a window on request, so it is moved here. On Wayland only the
+// compositor can do it, and it takes the pointer with it.
+void FormWidget::Drag()
+{
+    if (WindowsCanBePlaced()) {
+        dragging_ = QGuiApplication::mouseButtons().testFlag(Qt::LeftButton);
+    } else {
+        windowHandle()->startSystemMove();
+    }
+}
+
+void FormWidget::UpdateCursor(QPointF position)
+{
+    if (window_ == nullptr) {
+        return;
+    }
+    const Visual* const under = App.TakesInput(*window_) ? ControlUnder(position) : nullptr;
+    if (under != nullptr && under->MousePointer == Pointer::Hand) {
+        setCursor(HandCursor(devicePixelRatioF()));
+    } else {
+        unsetCursor();
+    }
+}
+
+bool FormWidget::ShowTip(const QHelpEvent& event)
+{
+    const Visual* const under =
+        window_ != nullptr && App.TakesInput(*window_) ? ControlUnder(event.pos()) : nullptr;
+    if (under == nullptr || under->ToolTipText.Get().empty()) {
+        QToolTip::hideText();
+        return true;
+    }
+    QToolTip::showText(event.globalPos(), ToQString(under->ToolTipText.Get()), this,
+                       Touched(*under));
+    return true;
+}
+
+// A key that is held down speaks once: it must not answer the next question too.
+bool FormWidget::RouteKey(const QKeyEvent& event)
+{
+    const Key key = ToKey(event);
+    if (window_ == nullptr || key.Code == 0) {
+        return false;
+    }
+    if (!event.isAutoRepeat() && malvone::RouteKey(*window_, key)) {
+        return true;
+    }
+    const bool letter = key.Shift == kAltKey && key.Code >= 'A' && key.Code <= 'Z';
+    return letter && menu_ != nullptr && window_ != nullptr && App.TakesInput(*window_) &&
+           menu_->Open(static_cast<char>(key.Code));
+}
+
+bool FormWidget::event(QEvent* event)
+{
+    switch (event->type()) {
+    case QEvent::ShortcutOverride:
+        event->accept();  // the key comes back as a press, and the layer sees it first
+        return true;
+    case QEvent::KeyPress: RouteKey(*static_cast<QKeyEvent*>(event)); return true;
+    case QEvent::ToolTip: return ShowTip(*static_cast<QHelpEvent*>(event));
+    default: return QWidget::event(event);
+    }
+}
+
+void FormWidget::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange && isActiveWindow() && window_ != nullptr) {
+        Q_EMIT Activated();
+    }
+}
+
+// The game decides whether a window closes, and closes it.
+void FormWidget::closeEvent(QCloseEvent* event)
+{
+    event->setAccepted(App.Ended());
+    if (!App.Ended() && window_ != nullptr) {
+        Q_EMIT CloseWished();
+    }
+}
+
+void FormWidget::moveEvent(QMoveEvent* event)
+{
+    QWidget::moveEvent(event);
+    if (window_ != nullptr && !IsBackdrop(*window_)) {
+        placement_.FromScreen();
+    }
+}
+
+void FormWidget::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    if (menu_ != nullptr) {
+        menu_->setGeometry(0, 0, width(), menu_->heightForWidth(width()));
+    }
+    if (window_ == nullptr || !isVisible()) {
+        return;
+    }
+    if (IsBackdrop(*window_)) {
+        FitBackdrop(*window_, width(), height());
+        update();
+    } else {
+        placement_.FromScreen();
+    }
+}
+
+}  // namespace malvone::qt

@@ -1,0 +1,83 @@
+// FormWidget.h: one window of the game on the screen: paints the model and hands input to it.
+#pragma once
+
+#include <QWidget>
+#include <unordered_map>
+
+#include "ui/layer/Window.h"
+#include "ui/qt/Placement.h"
+
+class QHelpEvent;
+
+namespace malvone::qt {
+
+class MenuBar;
+class NameBox;
+class PictureStore;
+
+class FormWidget final : public QWidget
+{
+    Q_OBJECT
+
+public:
+    FormWidget(Window& window, ShowMode mode, PictureStore& pictures);
+    ~FormWidget() override;
+
+    // Null when the window has been unloaded; the widget then waits for its own deletion.
+    Window* Model() const { return window_; }
+    void Detach();
+
+    // Puts the window on the screen, or to the front where it is there already. A modal window
+    // stays above `below`.
+    void Present(const QWidget* below);
+
+    void Follow(Control& control, Change what);
+    void Follow(Change what);
+    void FollowFocus();
+
+    // The window follows the pointer until the button is released.
+    void Drag();
+
+    // The corner of the client area: the menu bar lies above it.
+    QPoint Origin() const;
+    // The topmost control under a place of this widget; null beside the designed client area.
+    Visual* ControlUnder(QPointF position) const;
+
+Q_SIGNALS:
+    void Activated();
+    void CloseWished();
+
+protected:
+    bool event(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+    void moveEvent(QMoveEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    Window* window_;
+    PictureStore& pictures_;
+    Placement placement_;
+    MenuBar* menu_ = nullptr;
+    std::unordered_map<const Control*, NameBox*> boxes_;
+    QPoint pressedAt_;  // the pointer and the frame's corner at the last press, on the screen
+    QPoint frameAtPress_;
+    bool dragging_ = false;
+
+    void TakeSize();
+    bool RouteKey(const QKeyEvent& event);
+    Mouse ToMouse(const QMouseEvent& event, std::int16_t button) const;
+    bool Ignores(const QMouseEvent& event) const;
+    void UpdateCursor(QPointF position);
+    bool ShowTip(const QHelpEvent& event);
+    void FollowBox(TextBox& box);
+    void Repaint(const Visual& visual, Change what);
+    QRect Touched(const Visual& visual) const;
+};
+
+}  // namespace malvone::qt

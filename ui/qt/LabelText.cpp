@@ -1,0 +1,99 @@
+// LabelText.cpp: breaks and paints the words of labels.
+#include "ui/qt/LabelText.h"
+
+#include <QFontMetricsF>
+#include <QPainter>
+#include <QTextLayout>
+#include <algorithm>
+
+#include "ui/qt/Scale.h"
+
+namespace malvone::qt {
+namespace {
+
+// Breaks one paragraph at the width and adds its lines; an empty paragraph is an empty line.
+void AddLines(std::vector<TextLine>& lines, const QString& paragraph, const QFont& font,
+              double width)
+{
+    QTextLayout layout(paragraph, font);
+    QTextOption wrapping;
+    wrapping.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    layout.setTextOption(wrapping);
+    layout.beginLayout();
+    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+        line.setLineWidth(width);
+        lines.push_back({paragraph.mid(line.textStart(), line.textLength()).trimmed(),
+                         {},
+                         line.naturalTextWidth()});
+    }
+    layout.endLayout();
+}
+
+double LineSpacing(const QFontMetricsF& metrics, std::size_t lines, double height)
+{
+    if (lines < 2) {
+        return metrics.height();
+    }
+    return std::min(metrics.height(), (height - metrics.height()) / static_cast<double>(lines - 1));
+}
+
+}  // namespace
+
+QFont ToQFont(const Font& font)
+{
+    constexpr double kPixelsPerPoint = 96.0 / 72.0;
+    // "MS Sans Serif" is a family of pictures of letters that no desktop has; the design means its
+    // plain sans serif.
+    QFont result(font.Name == "MS Sans Serif" ? QStringLiteral("Arial") : ToQString(font.Name));
+    result.setPixelSize(
+        static_cast<int>(std::lround(static_cast<double>(font.Size) * kPixelsPerPoint)));
+    result.setBold(font.Bold);
+    return result;
+}
+
+QString ToQString(std::string_view utf8)
+{
+    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
+}
+
+TextBlock LinesOf(const Label& label)
+{
+    TextBlock block;
+    if (label.Caption.Get().empty()) {
+        return block;
+    }
+    const QFont font = ToQFont(label.TextFont);
+    const QFontMetricsF metrics(font);
+    const double width = ToPixels(label.Width);
+    const QStringList paragraphs = ToQString(label.Caption.Get()).split(QStringLiteral("\r\n"));
+    for (const QString& paragraph : paragraphs) {
+        AddLines(block.Lines, paragraph, font, width);
+    }
+    const double spacing = LineSpacing(metrics, block.Lines.size(), ToPixels(label.Height));
+    double top = 0;
+    for (TextLine& line : block.Lines) {
+        const double left = label.Align == Alignment::Centre ? (width - line.Width) / 2 : 0;
+        line.Baseline = QPointF(left, top + metrics.ascent());
+        top += spacing;
+    }
+    block.Height = top - spacing + metrics.height();
+    return block;
+}
+
+void PaintLabel(QPainter& painter, const Label& label, const QRectF& place)
+{
+    if (!label.Transparent) {
+        painter.fillRect(place, ToQColor(label.BackColor));
+    }
+    const TextBlock block = LinesOf(label);
+    if (block.Lines.empty()) {
+        return;
+    }
+    painter.setFont(ToQFont(label.TextFont));
+    painter.setPen(ToQColor(label.ForeColor));
+    for (const TextLine& line : block.Lines) {
+        painter.drawText(place.topLeft() + line.Baseline, line.Text);
+    }
+}
+
+}  // namespace malvone::qt

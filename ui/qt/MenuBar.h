@@ -1,0 +1,39 @@
+// MenuBar.h: a window's menu as Qt shows it. Shortcuts are shown here and routed by the layer.
+#pragma once
+
+#include <QMenuBar>
+#include <unordered_map>
+
+#include "ui/layer/Window.h"
+
+namespace malvone::qt {
+
+class MenuBar final : public QMenuBar
+{
+    Q_OBJECT
+
+public:
+    MenuBar(const Window& window, QWidget* parent);
+
+    // Brings an entry to the state that it has in the model.
+    void Follow(const MenuEntry& entry);
+    // Opens the menu whose caption has this letter as its access key. False: there is none.
+    bool Open(char letter);
+    // The window is about to be destroyed: no entry does anything any more.
+    void Detach();
+
+protected:
+    // While another window is modal the menu stays shut.
+    bool event(QEvent* event) override;
+    bool eventFilter(QObject* object, QEvent* event) override;
+
+private:
+    const Window* window_;
+    std::unordered_map<const MenuEntry*, QAction*> actions_;
+
+    bool Shut() const;
+    void Add(MenuEntry& entry, bool opensMenu);
+    void Chosen(MenuEntry& entry);
+};
+
+}  // namespace malvone::qt

@@ -1,0 +1,141 @@
+// NameBox.cpp: a line edit that lets in only what the files can hold.
+#include "ui/qt/NameBox.h"
+
+#include <QEvent>
+#include <QKeyEvent>
+#include <QScopedValueRollback>
+#include <QValidator>
+
+#include "ui/layer/App.h"
+#include "ui/layer/CodePage.h"
+#include "ui/qt/LabelText.h"
+#include "ui/qt/Painting.h"
+#include "ui/qt/Scale.h"
+
+namespace malvone::qt {
+namespace {
+
+QString Typable(const QString& text)
+{
+    return ToQString(KeepTypable(text.toStdString()));
+}
+
+// Takes characters out of what is typed, pasted, dropped or composed, without a word.
+class Sieve final : public QValidator
+{
+public:
+    using QValidator::QValidator;
+
+    State validate(QString& text, int& caret) const override
+    {
+        const QString before = Typable(text.left(caret));
+        const QString behind = Typable(text.mid(caret));
+        text = before + behind;
+        caret = static_cast<int>(before.size());
+        return Acceptable;
+    }
+};
+
+// The box keeps the design's colours on every desktop.
+QPalette Colours(const TextBox& model)
+{
+    QPalette palette(QColor(0xE0, 0xE0, 0xE0), Qt::white);
+    palette.setColor(QPalette::Base, ToQColor(model.BackColor));
+    palette.setColor(QPalette::Text, ToQColor(model.ForeColor));
+    palette.setColor(QPalette::Highlight, QColor(0x00, 0x00, 0x80));
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    return palette;
+}
+
+bool IsInput(const QEvent& event)
+{
+    switch (event.type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::MouseMove:
+    case QEvent::KeyPress:
+    case QEvent::InputMethod:
+    case QEvent::DragEnter:
+    case QEvent::Drop: return true;
+    default: return false;
+    }
+}
+
+}  // namespace
+
+NameBox::NameBox(TextBox& model, KeyRoute route, QWidget* parent)
+    : QLineEdit(parent), model_(&model), route_(std::move(route))
+{
+    setValidator(new Sieve(this));
+    setContextMenuPolicy(Qt::PreventContextMenu);
+    setFocusPolicy(Qt::ClickFocus);  // Tab is the layer's
+    setAccessibleName(QStringLiteral("Name, Platz %1").arg(model.Index() + 1));
+    connect(this, &QLineEdit::textChanged, this, &NameBox::TellModel);
+    connect(this, &QLineEdit::cursorPositionChanged, this, &NameBox::TellModel);
+    connect(this, &QLineEdit::selectionChanged, this, &NameBox::TellModel);
+}
+
+void NameBox::Follow(QPoint origin)
+{
+    if (model_ == nullptr || following_) {
+        return;
+    }
+    const QScopedValueRollback guard(following_, true);
+    setGeometry(PlaceOf(*model_).translated(origin).toRect());
+    setFont(ToQFont(model_->TextFont));
+    setPalette(Colours(*model_));
+    setReadOnly(model_->Locked);
+    setEnabled(model_->Enabled);
+    setVisible(IsSeen(*model_));
+    FollowText();
+}
+
+void NameBox::FollowText()
+{
+    const QString wanted = ToQString(model_->Text.Get());
+    if (text() != wanted) {
+        setText(wanted);
+    }
+    if (model_->SelLength > 0) {
+        setSelection(model_->SelStart, model_->SelLength);
+    } else {
+        setCursorPosition(model_->SelStart);
+    }
+}
+
+void NameBox::TellModel()
+{
+    if (model_ == nullptr || following_) {
+        return;
+    }
+    const QScopedValueRollback guard(following_, true);
+    model_->Text = text().toStdString();
+    model_->SelStart = hasSelectedText() ? selectionStart() : cursorPosition();
+    model_->SelLength = hasSelectedText() ? selectionLength() : 0;
+}
+
+bool NameBox::event(QEvent* event)
+{
+    if (IsInput(*event) && (model_ == nullptr || !App.TakesInput(model_->Owner()))) {
+        return true;
+    }
+    if (event->type() == QEvent::ShortcutOverride) {
+        event->accept();  // the key comes back as a press
+        return true;
+    }
+    if (event->type() == QEvent::KeyPress && route_(*static_cast<QKeyEvent*>(event))) {
+        return true;
+    }
+    return QLineEdit::event(event);
+}
+
+void NameBox::focusInEvent(QFocusEvent* event)
+{
+    QLineEdit::focusInEvent(event);
+    if (model_ != nullptr) {
+        model_->SetFocus();
+    }
+}
+
+}  // namespace malvone::qt

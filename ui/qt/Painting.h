@@ -1,0 +1,31 @@
+// Painting.h: how windows and controls look on the screen.
+#pragma once
+
+#include <QRectF>
+
+#include "ui/layer/Controls.h"
+
+class QPainter;
+class QRegion;
+
+namespace malvone {
+class Window;
+}
+
+namespace malvone::qt {
+
+class PictureStore;
+
+// A control's place in Qt's pixels, from the corner of the client area.
+QRectF PlaceOf(const Visual& visual);
+
+// Whether a control is drawn: it is visible, and it begins within the designed client area. What
+// the design puts beside it stays out of sight in a larger window too.
+bool IsSeen(const Visual& visual);
+
+// Paints what lies in `dirty`, given in Qt's pixels from the corner of the client area, where the
+// painter has its origin. `client` is the size of the client area.
+void PaintWindow(QPainter& painter, const Window& window, PictureStore& pictures,
+                 const QRegion& dirty, const QSizeF& client);
+
+}  // namespace malvone::qt

@@ -1,0 +1,34 @@
+// PictureStore.h: pictures in the pixels of the screen, each rendered once for each size it is
+// shown in, on its first use.
+#pragma once
+
+#include <QImage>
+#include <QSize>
+#include <map>
+#include <string_view>
+#include <tuple>
+
+#include "ui/layer/Picture.h"
+
+class QPainter;
+
+namespace malvone::qt {
+
+class PictureStore
+{
+public:
+    // The picture in a size given in pixels of the screen; cut off at the lower right where only
+    // a part can be seen. The reference holds until the next call.
+    const QImage& Get(const Picture& picture, QSize size, QSize seen);
+    const QImage& Get(const Picture& picture, QSize size) { return Get(picture, size, size); }
+
+private:
+    // File, size of the whole picture, size of the rendered part.
+    using Look = std::tuple<std::string_view, int, int, int, int>;
+    std::map<Look, QImage> images_;
+};
+
+// Paints a picture without keeping it: for what is as large as the screen and painted once.
+void PaintOnce(QPainter& painter, const Picture& picture, const QRectF& place);
+
+}  // namespace malvone::qt

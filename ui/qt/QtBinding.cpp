@@ -1,0 +1,221 @@
+// QtBinding.cpp: windows come, go and wait.
+#include "ui/qt/QtBinding.h"
+
+#include <QAccessible>
+#include <QApplication>
+#include <QScreen>
+#include <algorithm>
+
+#include "ui/layer/App.h"
+#include "ui/qt/Accessibility.h"
+#include "ui/qt/Backdrop.h"
+#include "ui/qt/FormWidget.h"
+#include "ui/qt/Scale.h"
+
+namespace malvone::qt {
+
+QtBinding::QtBinding()
+{
+    QApplication::setQuitOnLastWindowClosed(false);
+    InstallAccessibility();
+}
+
+QtBinding::~QtBinding()
+{
+    timers_.StopAll();
+    for (FormWidget* const form : forms_) {
+        form->Detach();
+        delete form;
+    }
+    // What was to be deleted later, when no event loop runs any more.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+Twips QtBinding::ScreenWidth()
+{
+    return ToTwips(QGuiApplication::primaryScreen()->geometry().width());
+}
+
+Twips QtBinding::ScreenHeight()
+{
+    return ToTwips(QGuiApplication::primaryScreen()->geometry().height());
+}
+
+FormWidget* QtBinding::FormOf(const Window& window) const
+{
+    const auto found = std::find_if(forms_.begin(), forms_.end(), [&](const FormWidget* form) {
+        return form->Model() == &window;
+    });
+    return found == forms_.end() ? nullptr : *found;
+}
+
+FormWidget& QtBinding::Make(Window& window, ShowMode mode)
+{
+    auto* const form = new FormWidget(window, mode, pictures_);
+    forms_.push_back(form);
+    QObject::connect(form, &FormWidget::Activated, [this, form] { Activated(*form); });
+    QObject::connect(form, &FormWidget::CloseWished, [this, form] { CloseWished(*form); });
+    return *form;
+}
+
+// Windows are made when they are first shown: most of what is loaded never is. A window with a menu
+// is made at once, since its size counts when it is placed.
+void QtBinding::WindowLoaded(Window& window)
+{
+    if (!window.MenuEntries().empty()) {
+        Make(window, ShowMode::Modeless);
+    }
+}
+
+// What a modal window lies over: the window that was modal before it, else the main window.
+QWidget* QtBinding::ParentOf(const Window& window) const
+{
+    QWidget* parent = nullptr;
+    for (FormWidget* const form : forms_) {
+        const Window* const other = form->Model();
+        if (other != &window && other->Shown() && form->isVisible() && !IsBackdrop(*other)) {
+            parent = form;
+        }
+    }
+    return parent;
+}
+
+void QtBinding::WindowShown(Window& window, ShowMode mode)
+{
+    FormWidget* form = FormOf(window);
+    if (form == nullptr) {
+        form = &Make(window, mode);
+    }
+    if (mode == ShowMode::Modal) {
+        // The latest modal window lies on top, also where it was made long ago.
+        std::rotate(std::find(forms_.begin(), forms_.end(), form),
+                    std::find(forms_.begin(), forms_.end(), form) + 1, forms_.end());
+        while (QWidget* const popup = QApplication::activePopupWidget()) {
+            popup->close();
+        }
+    }
+    form->Present(mode == ShowMode::Modal ? ParentOf(window) : nullptr);
+    form->FollowFocus();
+}
+
+void QtBinding::WindowHidden(Window& window)
+{
+    if (FormWidget* const form = FormOf(window)) {
+        form->hide();
+    }
+    LeaveLoop(window);
+}
+
+void QtBinding::WindowUnloaded(Window& window)
+{
+    timers_.Forget(window);
+    if (FormWidget* const form = FormOf(window)) {
+        std::erase(forms_, form);
+        form->Detach();
+        // One of its own events may be what unloads the window.
+        form->deleteLater();
+    }
+    LeaveLoop(window);
+}
+
+void QtBinding::WindowChanged(Window& window, Change what)
+{
+    if (FormWidget* const form = FormOf(window)) {
+        form->Follow(what);
+    }
+}
+
+void QtBinding::ControlChanged(Control& control, Change what)
+{
+    if (auto* const timer = dynamic_cast<Timer*>(&control)) {
+        timers_.Follow(*timer);
+    } else if (FormWidget* const form = FormOf(control.Owner())) {
+        form->Follow(control, what);
+        TellScreenReader(*form, control, what);
+    }
+}
+
+void QtBinding::FocusChanged(Window& window)
+{
+    if (FormWidget* const form = FormOf(window)) {
+        form->FollowFocus();
+    }
+}
+
+void QtBinding::RunModal(Window& window)
+{
+    if (ModalOver(window)) {
+        return;
+    }
+    QEventLoop loop;
+    loops_.push_back({&window, &loop});
+    loop.exec();
+    std::erase_if(loops_, [&loop](const ModalLoop& running) { return running.Loop == &loop; });
+}
+
+void QtBinding::LeaveLoop(const Window& window)
+{
+    for (const ModalLoop& running : loops_) {
+        if (running.Shown == &window) {
+            running.Loop->quit();
+        }
+    }
+}
+
+void QtBinding::DragWindow(Window& window)
+{
+    if (FormWidget* const form = FormOf(window)) {
+        form->Drag();
+    }
+}
+
+// A window that refuses to close could hold up quit(); nothing holds up exit().
+void QtBinding::Ended()
+{
+    timers_.StopAll();
+    for (FormWidget* const form : forms_) {
+        form->hide();
+    }
+    QCoreApplication::exit(0);
+}
+
+void QtBinding::Activated(FormWidget& form)
+{
+    const Window* const modal = App.TopModal();
+    if (modal != nullptr && form.Model() != modal) {
+        BringGameToFront();
+    } else if (modal == nullptr && IsBackdrop(*form.Model())) {
+        RaiseActivate(*form.Model());
+    }
+}
+
+void QtBinding::BringGameToFront()
+{
+    FormWidget* top = nullptr;
+    for (FormWidget* const form : forms_) {
+        if (form->isVisible() && !IsBackdrop(*form->Model())) {
+            form->raise();
+            top = form;
+        }
+    }
+    if (top != nullptr) {
+        top->activateWindow();
+    }
+}
+
+// The backdrop goes with the game: whoever closes it closes the game.
+void QtBinding::CloseWished(const FormWidget& form)
+{
+    Window* window = form.Model();
+    if (IsBackdrop(*window)) {
+        const auto main = std::find_if(forms_.begin(), forms_.end(), [](const FormWidget* other) {
+            return !other->Model()->MenuEntries().empty();
+        });
+        window = main == forms_.end() ? nullptr : (*main)->Model();
+    }
+    if (window != nullptr) {
+        RaiseClose(*window);
+    }
+}
+
+}  // namespace malvone::qt

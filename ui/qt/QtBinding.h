@@ -1,0 +1,60 @@
+// QtBinding.h: brings the windows of the game to life on a desktop.
+#pragma once
+
+#include <QEventLoop>
+#include <memory>
+#include <vector>
+
+#include "ui/layer/Binding.h"
+#include "ui/qt/PictureStore.h"
+#include "ui/qt/Timers.h"
+
+namespace malvone::qt {
+
+class FormWidget;
+
+// Needs a QApplication that lives longer.
+class QtBinding final : public Binding
+{
+public:
+    QtBinding();
+    ~QtBinding() override;
+
+    Twips ScreenWidth() override;
+    Twips ScreenHeight() override;
+    void WindowLoaded(Window& window) override;
+    void WindowShown(Window& window, ShowMode mode) override;
+    void WindowHidden(Window& window) override;
+    void WindowUnloaded(Window& window) override;
+    void WindowChanged(Window& window, Change what) override;
+    void ControlChanged(Control& control, Change what) override;
+    void FocusChanged(Window& window) override;
+    void RunModal(Window& window) override;
+    void DragWindow(Window& window) override;
+    void Ended() override;
+
+    // What shows a window on the screen; null while nothing does.
+    FormWidget* FormOf(const Window& window) const;
+
+private:
+    struct ModalLoop
+    {
+        const Window* Shown;
+        QEventLoop* Loop;
+    };
+
+    PictureStore pictures_;
+    Timers timers_;
+    // In the order in which they were made: the windows that are shown first lie lowest.
+    std::vector<FormWidget*> forms_;
+    std::vector<ModalLoop> loops_;
+
+    FormWidget& Make(Window& window, ShowMode mode);
+    QWidget* ParentOf(const Window& window) const;
+    void Activated(FormWidget& form);
+    void BringGameToFront();
+    void CloseWished(const FormWidget& form);
+    void LeaveLoop(const Window& window);
+};
+
+}  // namespace malvone::qt

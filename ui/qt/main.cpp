@@ -1,0 +1,69 @@
+// main.cpp: starts the game on the desktop.
+#include "game/Main.h"
+
+#include <QApplication>
+#include <cstdio>
+#include <optional>
+
+#include "ui/layer/App.h"
+#include "ui/qt/Display.h"
+#include "ui/qt/QtBinding.h"
+#include "ui/qt/QtPlatform.h"
+#include "ui/sound/Klang.h"
+
+namespace malvone::qt {
+namespace {
+
+// Where the main window would hang over the edge of the screen, Qt starts again at a smaller scale.
+void StartQt(std::optional<QApplication>& application, int& argc, char** argv)
+{
+    PreferX11();
+    QApplication::setApplicationName(QStringLiteral("malvone"));
+    QApplication::setDesktopFileName(QStringLiteral("malvone"));
+    application.emplace(argc, argv);
+    const double scale = FittingScale();
+    if (scale < 1) {
+        application.reset();
+        ReduceScale(scale);
+        application.emplace(argc, argv);
+    }
+}
+
+int Play(Klang& klang)
+{
+    QtPlatform platform(DefaultDataRoot(), ProgramFolder(), klang);
+    QtBinding binding;
+    App.Begin(binding, platform);
+    {
+        const EventScope scope;
+        Main();
+    }
+    const int status = App.Ended() ? 0 : QApplication::exec();
+    App.Finish();
+    return status;
+}
+
+int Run(int argc, char** argv)
+{
+    if (!DisplayReachable()) {
+        std::fputs("malvone: there is no display to play on "
+                   "(neither DISPLAY nor WAYLAND_DISPLAY leads to one)\n",
+                   stderr);
+        return 1;
+    }
+    Klang klang;
+    klang.Vorbereiten();  // beside Qt's own start
+    std::optional<QApplication> application;
+    StartQt(application, argc, argv);
+    const int status = Play(klang);
+    klang.Beenden();
+    return status;
+}
+
+}  // namespace
+}  // namespace malvone::qt
+
+int main(int argc, char** argv)
+{
+    return malvone::qt::Run(argc, argv);
+}
