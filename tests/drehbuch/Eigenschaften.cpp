@@ -87,14 +87,13 @@ bool Lesen(std::string_view text, TagText& value)
 }
 bool Lesen(std::string_view text, Picture& value)
 {
-    value = Picture();
     const auto known = AllPictures();
     const auto found = std::find_if(known.begin(), known.end(),
                                     [&](const PictureInfo& info) { return info.Name == text; });
-    if (found != known.end()) {
-        value = Picture(*found);
-    }
-    return found != known.end() || text == "-";
+    // A control of the bank that holds no picture has a name all the same.
+    const auto* const image = dynamic_cast<const Image*>(ObjektAus(text).Steuerelement());
+    value = found == known.end() ? Picture() : Picture(*found);
+    return found != known.end() || text == "-" || (image != nullptr && image->Picture->Empty());
 }
 
 enum class Ausgang { Erledigt, AndereArt, KeinWert, NurLesbar };
@@ -308,14 +307,15 @@ Antwort EigenschaftFragen(std::string_view path)
     if (const auto fault = found->Ziel.Fehler()) {
         return {"", *fault};
     }
-    if (found->Ziel.Fenster() == nullptr) {
-        return {"unloaded"};
-    }
     for (const Eigenschaft& property : kEigenschaften) {
-        if (Gemeint(property, *found)) {
-            if (auto value = property.Frage(*found->Ziel.Besitzer(), found->Index.value_or(0))) {
-                return {std::move(*value)};
-            }
+        if (!Gemeint(property, *found)) {
+            continue;
+        }
+        if (found->Ziel.Fenster() == nullptr) {
+            return {"unloaded"};
+        }
+        if (auto value = property.Frage(*found->Ziel.Besitzer(), found->Index.value_or(0))) {
+            return {std::move(*value)};
         }
     }
     return {"", "unknown property"};

@@ -180,7 +180,10 @@ class Vorstellung:
         anweisung = getattr(self, "regie_" + name, None)
         if anweisung is None:
             raise Regiefehler("unknown directive")
-        anweisung(*argumente)
+        try:
+            anweisung(*argumente)
+        except (KeyError, OSError, TypeError, ValueError) as fehler:
+            raise Regiefehler(f"{name}: {fehler!r}") from fehler
 
     def pfad(self, name):
         ziel = self.ordner / name
