@@ -97,9 +97,11 @@ void FormWidget::Detach()
 void FormWidget::Present(const QWidget* below)
 {
     if (!isVisible()) {
+        // The place comes first: a window that exists already takes it for that of the client area
+        // as long as its frame is unknown.
+        placement_.ToScreen();
         winId();
         windowHandle()->setTransientParent(below != nullptr ? below->windowHandle() : nullptr);
-        placement_.ToScreen();
         if (IsBackdrop(*window_)) {
             KeepOffTaskBar(*this);
             showFullScreen();

@@ -179,27 +179,29 @@ void QtBinding::Ended()
     QCoreApplication::exit(0);
 }
 
-void QtBinding::Activated(FormWidget& form)
+// A modal window gives the front to nobody. A backdrop that has come to the front gives it back:
+// without a modal window the game does that itself.
+void QtBinding::Activated(const FormWidget& form)
 {
     const Window* const modal = App.TopModal();
-    if (modal != nullptr && form.Model() != modal) {
-        BringGameToFront();
-    } else if (modal == nullptr && IsBackdrop(*form.Model())) {
+    const bool backdrop = IsBackdrop(*form.Model());
+    if (modal == nullptr && backdrop) {
         RaiseActivate(*form.Model());
+    } else if (modal != nullptr && form.Model() != modal) {
+        BringToFront(backdrop ? nullptr : modal);
     }
 }
 
-void QtBinding::BringGameToFront()
+// Window managers put a backdrop that has been clicked above all that is not active itself, so each
+// window of the game becomes active in its turn, the modal one at last.
+void QtBinding::BringToFront(const Window* only)
 {
-    FormWidget* top = nullptr;
     for (FormWidget* const form : forms_) {
-        if (form->isVisible() && !IsBackdrop(*form->Model())) {
+        const Window* const window = form->Model();
+        if (form->isVisible() && !IsBackdrop(*window) && (only == nullptr || only == window)) {
             form->raise();
-            top = form;
+            form->activateWindow();
         }
-    }
-    if (top != nullptr) {
-        top->activateWindow();
     }
 }
 

@@ -51,8 +51,9 @@ private:
 
     FormWidget& Make(Window& window, ShowMode mode);
     QWidget* ParentOf(const Window& window) const;
-    void Activated(FormWidget& form);
-    void BringGameToFront();
+    void Activated(const FormWidget& form);
+    // All windows of the game from the lowest to the topmost, or only one of them.
+    void BringToFront(const Window* only);
     void CloseWished(const FormWidget& form);
     void LeaveLoop(const Window& window);
 };
