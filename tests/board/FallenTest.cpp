@@ -31,6 +31,7 @@ TEST(Fallen, EachColumnClosesItsGapsAndKeepsItsOrder)
         {"..........", ".........."}, {".123412341", ".123412341"}, {"1.........", ".........1"},
         {"1.2.3.4.1.", ".....12341"}, {".........1", ".........1"}, {"12......34", "......1234"},
     };
+    const Level level;
     for (const auto& c : cases) {
         for (const int spalte : {0, 6, 13}) {
             // The neighbours begin and end with other stones: nothing passes from column to column.
@@ -40,7 +41,7 @@ TEST(Fallen, EachColumnClosesItsGapsAndKeepsItsOrder)
                     nachbarn = MitSpalte(nachbar, "3232323232", nachbarn);
                 }
             }
-            const Level level(MitSpalte(spalte, c.Vorher, nachbarn));
+            level.Setzen(MitSpalte(spalte, c.Vorher, nachbarn));
             SteineFallenLassen();
             const Werte nachher = MitSpalte(spalte, c.Nachher, nachbarn);
             EXPECT_EQ(level.BrettText(), AlsText(nachher)) << c.Vorher << " in " << spalte;
