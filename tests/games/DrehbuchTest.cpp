@@ -139,6 +139,17 @@ TEST_F(DrehbuchTest, InputThatEndsInTheEntryWindowWritesNoEntry)
     }
 }
 
+TEST_F(DrehbuchTest, InputThatEndsInAMessageOfTheStartMakesNoFile)
+{
+    Optionen options = Ordner();
+    options.OhneWindowsordner = true;
+    std::istringstream in;
+    std::ostringstream out;
+    Drehbuch(in, out, options).Spielen();
+    EXPECT_EQ(LetzteZeile(out.str()), "> frmMsgOk");
+    EXPECT_TRUE(Dateien().empty());
+}
+
 TEST_F(DrehbuchTest, NothingFollowsTheEnd)
 {
     const std::string script = "do frmTessel.lblEnde Click\nkey J\n";

@@ -285,10 +285,14 @@ def main():
     if wahl.schreiben:
         soll_datei.write_text(ist, encoding="utf-8", newline="\n")
         return 0
-    soll = soll_datei.read_text(encoding="utf-8") if soll_datei.exists() else ""
+    if not soll_datei.exists():
+        print(f"{soll_datei} is missing; --schreiben writes it")
+        return 1
+    soll = soll_datei.read_text(encoding="utf-8")
     unterschied = list(difflib.unified_diff(soll.split("\n"), ist.split("\n"), soll_datei.name,
                                             wahl.skript.name, lineterm=""))
-    print("\n".join(unterschied))
+    if unterschied:
+        print("\n".join(unterschied))
     return 1 if unterschied else 0
 
 
