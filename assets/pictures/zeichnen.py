@@ -166,6 +166,8 @@ def ornament(blatt, bogen, kante):
 def grund_tessel(blatt):
     blatt.rechteck(0, 0, 1000, 800, LICHT)
     ornament(blatt, BOGEN_TESSEL, 16)
+    # A light plate under the title: its dark blue letters would be lost on the ornament.
+    pille(blatt, 40, 19, 140, 31, "anzeige")
     emblem(blatt, 44, 36, 25)
 
 
