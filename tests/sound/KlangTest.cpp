@@ -202,10 +202,9 @@ TEST(Welle, TheSevenSoundsOfTheGameAreWaves)
                              "BLIP.WAV", "ding.wav"}) {
         const auto welle = WelleLaden(std::string(MALVONE_SOURCE_DIR "/assets/sounds/") + name);
         ASSERT_TRUE(welle) << name;
-        const double dauerMs =
-            1000.0 * static_cast<double>(welle->Daten.size() / welle->RahmenBytes()) / welle->Rate;
-        EXPECT_GE(dauerMs, 80) << name;
-        EXPECT_LE(dauerMs, 1200) << name;
+        const std::size_t dauerMs = 1000 * welle->Daten.size() / welle->RahmenBytes() / welle->Rate;
+        EXPECT_GE(dauerMs, 80U) << name;
+        EXPECT_LE(dauerMs, 1200U) << name;
     }
 }
 

@@ -7,6 +7,7 @@ import collections
 import concurrent.futures
 import glob
 import os
+import subprocess
 import sys
 import time
 
@@ -129,10 +130,21 @@ def ruhe(server):
         ['woke up %d times in 2.5 s of silence' % (gezaehlt[1] - gezaehlt[0])]
 
 
+# What must hold before anything heard means something.
+SKRIPTE = {
+    'the waves are what their script makes, equally loud and without clicks':
+        [os.path.join(erkennen.ORDNER, 'klingen.py'), '--pruefen'],
+    'the recogniser knows whole, soft and cut waves, and strangers': [erkennen.__file__, '--probe'],
+}
+
+
 def pruefen(fall):
-    """A case, or the name of a server in whose presence the idle player is watched."""
+    """A case, the name of a script, or of a server in whose presence the idle player is watched."""
     beginn = time.monotonic()
-    if isinstance(fall, str):
+    if fall in SKRIPTE:
+        lauf = subprocess.run([sys.executable, '-B', *SKRIPTE[fall]], capture_output=True, text=True)
+        was, liste = fall, (lauf.stdout + lauf.stderr).splitlines() if lauf.returncode else []
+    elif isinstance(fall, str):
         was, liste = 'no waking in silence, server: ' + fall, ruhe(fall)
     else:
         was, (ergebnis, liste) = fall.was, ausfuehren(fall)
@@ -146,7 +158,7 @@ def main():
     fehler = 0
     # Most of the time the cases wait, so that some of them can do so together.
     with concurrent.futures.ProcessPoolExecutor(3) as helfer:
-        for was, liste, dauer in helfer.map(pruefen, [*FAELLE, 'null', 'none', 'hung']):
+        for was, liste, dauer in helfer.map(pruefen, [*SKRIPTE, *FAELLE, 'null', 'none', 'hung']):
             fehler += bool(liste)
             print('%-6s %5.1f s  %s' % ('FAILED' if liste else 'ok', dauer, was), flush=True)
             for zeile in liste:
