@@ -24,7 +24,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr std::size_t kBlock = 64 * 1024;
+constexpr std::size_t kBlock = 4096;
 constexpr std::size_t kLongestLine = 64 * 1024;
 constexpr mode_t kNewFile = 0666;  // less what the user's mask takes away
 constexpr int kNewNames = 8;       // so many runs can replace one file at the same time
@@ -104,7 +104,7 @@ private:
 FileFault ReadLinesFrom(int file, std::size_t count, std::vector<std::string>& lines)
 {
     LineCollector collector(count, lines);
-    std::vector<char> block(kBlock);
+    std::array<char, kBlock> block{};
     while (!collector.Complete()) {
         const ssize_t got = ::read(file, block.data(), block.size());
         if (got < 0 && errno == EINTR) {
