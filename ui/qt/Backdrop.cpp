@@ -46,10 +46,11 @@ void KeepOffTaskBar(QWidget& widget)
 {
 #ifdef MALVONE_XCB
     const auto* const x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-    if (x11 == nullptr) {
+    // Other platforms answer too, without a connection.
+    xcb_connection_t* const connection = x11 != nullptr ? x11->connection() : nullptr;
+    if (connection == nullptr || QGuiApplication::platformName() != QLatin1String("xcb")) {
         return;
     }
-    xcb_connection_t* const connection = x11->connection();
     const auto state = Ask(connection, "_NET_WM_STATE");
     const auto taskBar = Ask(connection, "_NET_WM_STATE_SKIP_TASKBAR");
     const auto pager = Ask(connection, "_NET_WM_STATE_SKIP_PAGER");

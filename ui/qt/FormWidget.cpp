@@ -103,11 +103,14 @@ void FormWidget::Present(const QWidget* below)
         winId();
         windowHandle()->setTransientParent(below != nullptr ? below->windowHandle() : nullptr);
         if (IsBackdrop(*window_)) {
+            // The size too: where no window manager is, nobody else sets it.
+            resize(ToWholePixels(window_->Width), ToWholePixels(window_->Height));
             KeepOffTaskBar(*this);
             showFullScreen();
             return;
         }
         show();
+        placement_.FromScreen();
     }
     raise();
     activateWindow();
@@ -254,6 +257,7 @@ void FormWidget::mouseDoubleClickEvent(QMouseEvent* event)
 
 void FormWidget::mouseMoveEvent(QMouseEvent* event)
 {
+    dragging_ = dragging_ && event->buttons().testFlag(Qt::LeftButton);
     if (dragging_) {
         move(frameAtPress_ + event->globalPosition().toPoint() - pressedAt_);
     } else if (!Ignores(*event)) {
@@ -276,7 +280,7 @@ void FormWidget::mouseReleaseEvent(QMouseEvent* event)
 void FormWidget::Drag()
 {
     if (WindowsCanBePlaced()) {
-        dragging_ = QGuiApplication::mouseButtons().testFlag(Qt::LeftButton);
+        dragging_ = true;
     } else {
         windowHandle()->startSystemMove();
     }

@@ -1,0 +1,105 @@
+// qt_repaint.cpp: how long it takes from a pointer event to the finished repaint.
+#include <benchmark/benchmark.h>
+
+#include <QApplication>
+#include <QMouseEvent>
+#include <QTemporaryDir>
+
+#include "board/Zellen.h"
+#include "game/Main.h"
+#include "ui/layer/App.h"
+#include "ui/qt/FormWidget.h"
+#include "ui/qt/Painting.h"
+#include "ui/qt/QtBinding.h"
+#include "ui/qt/QtPlatform.h"
+#include "ui/sound/Klang.h"
+#include "ui/windows/FrmTessel.h"
+
+namespace malvone::qt {
+namespace {
+
+void Send(FormWidget& form, QEvent::Type type, const Visual& target, Qt::MouseButton button)
+{
+    const QPointF place = PlaceOf(target).center() + form.Origin();
+    QMouseEvent event(type, place, form.mapToGlobal(place), button,
+                      type == QEvent::MouseButtonPress ? button : Qt::NoButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&form, &event);
+}
+
+void Click(FormWidget& form, const Visual& target)
+{
+    Send(form, QEvent::MouseMove, target, Qt::NoButton);
+    Send(form, QEvent::MouseButtonPress, target, Qt::LeftButton);
+    Send(form, QEvent::MouseButtonRelease, target, Qt::LeftButton);
+}
+
+// The game itself, silent, in a folder of its own. The scale is the one that main() has set.
+struct Table
+{
+    QTemporaryDir folder;
+    Klang klang;
+    QtPlatform platform{folder.path().toStdString(), folder.path().toStdString(), klang};
+    QtBinding binding;
+
+    Table()
+    {
+        ZustandNeu();
+        App.Begin(binding, platform);
+        const EventScope scope;
+        Main();
+    }
+    ~Table() { App.Finish(); }
+
+    FormWidget& Form() const { return *binding.FormOf(*frmTessel); }
+};
+
+// All stones of one colour are the largest group there can be.
+void FillWithOneColour()
+{
+    for (int cell = 1; cell <= kZellen; ++cell) {
+        frmTessel->imgFeld(cell).Tag = "2";
+    }
+}
+
+void PointerToRepaint(benchmark::State& state)
+{
+    const Table table;
+    FormWidget& form = table.Form();
+    Click(form, frmTessel->lblNeu);
+    if (state.range(0) != 0) {
+        FillWithOneColour();
+    }
+    QCoreApplication::processEvents();
+    int cell = 0;
+    for (auto step : state) {
+        (void)step;
+        cell = (cell + 37) % kZellen;
+        Send(form, QEvent::MouseMove, frmTessel->imgFeld(cell + 1), Qt::NoButton);
+        QCoreApplication::processEvents();
+    }
+}
+BENCHMARK(PointerToRepaint)->ArgName("one_colour")->Arg(0)->Arg(1)->Unit(benchmark::kMicrosecond);
+
+void WholeWindow(benchmark::State& state)
+{
+    const Table table;
+    Click(table.Form(), frmTessel->lblNeu);
+    for (auto step : state) {
+        (void)step;
+        table.Form().repaint();
+    }
+}
+BENCHMARK(WholeWindow)->Unit(benchmark::kMicrosecond);
+
+}  // namespace
+}  // namespace malvone::qt
+
+// QT_SCALE_FACTOR=2 measures the double scale.
+int main(int argc, char** argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QApplication application(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}

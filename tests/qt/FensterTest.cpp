@@ -1,0 +1,407 @@
+// FensterTest.cpp: the game in Qt's windows: painting, pointer, keys, places and modal windows.
+#include <QAction>
+#include <QElapsedTimer>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPaintEvent>
+#include <QPainter>
+#include <QScreen>
+
+#include "board/Zellen.h"
+#include "game/Spielstand.h"
+#include "storage/Beste.h"
+#include "tests/qt/Spieltisch.h"
+#include "ui/qt/PictureStore.h"
+
+namespace malvone::qt {
+namespace {
+
+class Fenster : public Spieltisch
+{
+protected:
+    void NewGame() { Click(frmTessel->lblNeu); }
+
+    static std::int32_t Stone(int cell) { return frmTessel->imgFeld(cell).Tag->Number(); }
+
+    // A cell whose right neighbour has its colour.
+    static int CellWithPartner()
+    {
+        for (int cell = 1; cell <= kZellen - kReihen; ++cell) {
+            if (Stone(cell) != 0 && Stone(cell) == Stone(cell + kReihen)) {
+                return cell;
+            }
+        }
+        ADD_FAILURE() << "a board without neighbours of one colour";
+        return 1;
+    }
+
+    // The number of cells that do not look on the screen as the model says.
+    int WrongCells()
+    {
+        FormWidget& form = Form(*frmTessel);
+        const QImage painted = Painted(form);
+        int wrong = 0;
+        for (int cell = 1; cell <= kZellen; ++cell) {
+            const Image& field = frmTessel->imgFeld(cell);
+            const QRect place = OnScreen(PlaceOf(field).translated(form.Origin()), 1);
+            QImage expected(place.size(), painted.format());
+            QPainter(&expected).drawImage(0, 0, pictures_.Get(field.Picture, place.size()));
+            wrong += painted.copy(place) == expected ? 0 : 1;
+        }
+        return wrong;
+    }
+
+    PictureStore pictures_;
+};
+
+TEST_F(Fenster, TheMainWindowHasTheSizeOfTheDesignBelowItsMenu)
+{
+    const FormWidget& form = Form(*frmTessel);
+    EXPECT_GT(form.Origin().y(), 10);
+    EXPECT_EQ(form.size(), QSize(755, 463 + form.Origin().y()));
+    EXPECT_EQ(form.windowTitle(), QStringLiteral("Malvone  Vers.: 3.1.0"));
+    EXPECT_FLOAT_EQ(frmTessel->Height, ToTwips(form.frameGeometry().height()));
+}
+
+TEST_F(Fenster, TheBoardOnTheScreenIsTheBoardOfTheModel)
+{
+    EXPECT_EQ(WrongCells(), 0);
+    NewGame();
+    EXPECT_EQ(WrongCells(), 0);
+    const Image& stone = frmTessel->imgFeld(CellWithPartner());
+    const QImage before = Painted(Form(*frmTessel));
+    PointAt(stone);
+    EXPECT_TRUE(stone.Picture->Name().starts_with("frmBilder.imgVorschau"));
+    EXPECT_NE(Painted(Form(*frmTessel)), before);
+    EXPECT_EQ(WrongCells(), 0);
+    Click(stone);
+    EXPECT_GE(Stand.PunkteGesamt, 4);
+    EXPECT_EQ(WrongCells(), 0);
+}
+
+TEST_F(Fenster, PointingRepaintsOnlyTheStonesAndTheText)
+{
+    struct Watch : QObject
+    {
+        QRegion Painted;
+        bool eventFilter(QObject*, QEvent* event) override
+        {
+            if (event->type() == QEvent::Paint) {
+                Painted += static_cast<QPaintEvent*>(event)->region();
+            }
+            return false;
+        }
+    };
+    NewGame();
+    PointAt(frmTessel->Picture1);
+    QCoreApplication::processEvents();
+    Watch watch;
+    FormWidget& form = Form(*frmTessel);
+    form.installEventFilter(&watch);
+    PointAt(frmTessel->imgFeld(CellWithPartner()));
+    QCoreApplication::processEvents();
+    const QRect text = PlaceOf(frmTessel->lblSumme).toAlignedRect().translated(form.Origin());
+    const QRect board = PlaceOf(frmTessel->Picture1).toAlignedRect().translated(form.Origin());
+    EXPECT_FALSE(watch.Painted.isEmpty());
+    EXPECT_TRUE((watch.Painted - text - board).isEmpty());
+    int pixels = 0;
+    for (const QRect& part : watch.Painted - text) {
+        pixels += part.width() * part.height();
+    }
+    // A group is a part of the board only; the frame around it stays as it is.
+    EXPECT_LT(pixels, board.width() * board.height() / 2);
+}
+
+TEST_F(Fenster, AnEnlargedWindowShowsNothingNewAndNothingMoves)
+{
+    FormWidget& form = Form(*frmTessel);
+    const QImage before = Painted(form);
+    form.resize(form.width() + 300, form.height() + 100);
+    QCoreApplication::processEvents();
+    const QImage larger = Painted(form);
+    const QRect client(0, form.Origin().y(), before.width(), before.height() - form.Origin().y());
+    EXPECT_EQ(larger.copy(client), before.copy(client));
+    const QPointF hidden = Middle(form, frmTessel->cmdSchalt(0));
+    EXPECT_EQ(larger.pixelColor(hidden.toPoint()), QColor(Qt::white));
+    const std::int16_t rounds = Stand.RundenZahl;
+    ClickAt(form, hidden);
+    EXPECT_EQ(Stand.RundenZahl, rounds) << "a button beside the client area was clicked";
+}
+
+TEST_F(Fenster, TheMenuFollowsTheModel)
+{
+    const auto* const bar = Form(*frmTessel).findChild<QMenuBar*>();
+    ASSERT_NE(bar, nullptr);
+    QList<QAction*> game = bar->actions().at(0)->menu()->actions();
+    ASSERT_EQ(game.size(), 4);
+    EXPECT_EQ(bar->actions().at(0)->text(), QStringLiteral("&Spiel             "));
+    EXPECT_EQ(game.at(0)->text(), QStringLiteral("&Neues Spiel\tStrg+N"));
+    EXPECT_TRUE(game.at(2)->isSeparator());
+    EXPECT_FALSE(game.at(1)->isEnabled());
+    frmTessel->mnuTessel(2).Enabled = true;
+    EXPECT_TRUE(game.at(1)->isEnabled());
+
+    frmTessel->mnuSound.Enabled = true;
+    const QList<QAction*> sound = bar->actions().at(1)->menu()->actions().at(0)->menu()->actions();
+    EXPECT_TRUE(sound.at(0)->isChecked());
+    sound.at(1)->trigger();
+    EXPECT_FALSE(sound.at(0)->isChecked());
+    EXPECT_TRUE(sound.at(1)->isChecked());
+    sound.at(1)->trigger();  // choosing what is chosen changes nothing
+    EXPECT_TRUE(sound.at(1)->isChecked());
+}
+
+TEST_F(Fenster, AccessKeysOfButtonsGoBeforeThoseOfTheMenu)
+{
+    FormWidget& form = Form(*frmTessel);
+    Press(form, Qt::Key_O, Qt::AltModifier);
+    ASSERT_NE(QApplication::activePopupWidget(), nullptr) << "Alt+O opens a menu";
+    QApplication::activePopupWidget()->close();
+    WhileOpen([&] { Press(form, Qt::Key_E, Qt::AltModifier); },
+              [&] {
+                  EXPECT_EQ(App.TopModal(), frmMsgJa.Current());
+                  Press(Form(*frmMsgJa), Qt::Key_N);
+              });
+    EXPECT_FALSE(App.Ended());
+}
+
+TEST_F(Fenster, AKeyThatIsHeldDownSpeaksOnce)
+{
+    FormWidget& form = Form(*frmTessel);
+    WhileOpen([&] { Press(form, Qt::Key_E, Qt::ControlModifier); },
+              [&] {
+                  FormWidget& question = Form(*frmMsgJa);
+                  Press(question, Qt::Key_J, {}, {}, true);
+                  EXPECT_FALSE(App.Ended());
+                  Press(question, Qt::Key_Escape);
+              });
+    EXPECT_FALSE(App.Ended());
+}
+
+TEST_F(Fenster, WhileAQuestionIsOpenTheMainWindowIsDeaf)
+{
+    NewGame();
+    const std::int32_t first = Stone(1);
+    WhileOpen([&] { Form(*frmTessel).close(); },
+              [&] {
+                  FormWidget& form = Form(*frmTessel);
+                  const auto points = Stand.PunkteGesamt;
+                  Click(frmTessel->imgFeld(CellWithPartner()));
+                  Press(form, Qt::Key_N, Qt::ControlModifier);
+                  auto* const bar = form.findChild<QMenuBar*>();
+                  const QPointF place = bar->actionGeometry(bar->actions().at(0)).center();
+                  QMouseEvent press(QEvent::MouseButtonPress, place, bar->mapToGlobal(place),
+                                    Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+                  QCoreApplication::sendEvent(bar, &press);
+                  EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+                  EXPECT_EQ(Stand.PunkteGesamt, points);
+                  EXPECT_EQ(Stone(1), first);
+                  EXPECT_EQ(App.TopModal(), frmMsgJa.Current());
+                  Click(frmMsgJa->lblNein);
+              });
+    EXPECT_FALSE(frmMsgJa.Loaded());
+    EXPECT_TRUE(Form(*frmTessel).isVisible());
+}
+
+TEST_F(Fenster, AMovedMainWindowTakesItsMessagesAlong)
+{
+    FormWidget& form = Form(*frmTessel);
+    form.move(40, 25);
+    QCoreApplication::processEvents();
+    EXPECT_FLOAT_EQ(frmTessel->Left, ToTwips(40));
+    EXPECT_FLOAT_EQ(frmTessel->Top, ToTwips(25));
+    WhileOpen([&] { form.close(); },
+              [&] {
+                  FormWidget& question = Form(*frmMsgJa);
+                  EXPECT_EQ(question.size(), QSize(392, 236));
+                  const QPoint centre = form.frameGeometry().center();
+                  const QPoint off = question.frameGeometry().center() - centre;
+                  EXPECT_LE(std::abs(off.x()), 1);
+                  EXPECT_LE(std::abs(off.y()), 1);
+                  Press(question, Qt::Key_Escape);
+              });
+}
+
+TEST_F(Fenster, TheSurfaceOfAMessageIsItsHandle)
+{
+    WhileOpen(
+        [&] { Form(*frmTessel).close(); },
+        [&] {
+            FormWidget& question = Form(*frmMsgJa);
+            const QPoint before = question.pos();
+            const QPointF name = Middle(question, frmMsgJa->lblName);
+            const QPointF panel = Middle(question, frmMsgJa->lblMeldung);
+            for (const QPointF& handle : {panel, name}) {
+                Send(question, QEvent::MouseButtonPress, handle, Qt::LeftButton, Qt::LeftButton);
+                for (int step = 1; step <= 3; ++step) {
+                    Send(question, QEvent::MouseMove, handle + QPointF(5, 2), Qt::NoButton,
+                         Qt::LeftButton);
+                }
+                Send(question, QEvent::MouseButtonRelease, handle, Qt::LeftButton, Qt::NoButton);
+                if (handle == panel) {
+                    EXPECT_EQ(question.pos(), before) << "the panel is no handle";
+                }
+            }
+            EXPECT_NE(question.pos(), before);
+            EXPECT_EQ(App.TopModal(), frmMsgJa.Current());
+            EXPECT_FLOAT_EQ(frmMsgJa->Left, ToTwips(question.pos().x()));
+            Press(question, Qt::Key_Escape);
+        });
+}
+
+TEST_F(Fenster, YesEndsTheProgramFromInsideItsLoops)
+{
+    QTimer::singleShot(0, [this] {
+        WhileOpen([this] { Form(*frmTessel).close(); }, [this] { Click(frmMsgJa->lblJa); });
+    });
+    EXPECT_EQ(QApplication::exec(), 0);
+    EXPECT_TRUE(App.Ended());
+}
+
+TEST_F(Fenster, TheBackdropCoversTheScreenAndGivesTheFrontBack)
+{
+    FormWidget& backdrop = Form(*frmHintergrund);
+    EXPECT_EQ(backdrop.geometry(), QGuiApplication::primaryScreen()->geometry());
+    EXPECT_TRUE(Form(*frmTessel).isActiveWindow());
+    backdrop.activateWindow();
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(Form(*frmTessel).isActiveWindow());
+    backdrop.resize(600, 500);
+    QCoreApplication::processEvents();
+    EXPECT_FLOAT_EQ(frmHintergrund->Image1.Width, ToTwips(600));
+    EXPECT_FLOAT_EQ(frmHintergrund->Height, ToTwips(500));
+}
+
+TEST_F(Fenster, NothingTicksOnceTheArrowHasGone)
+{
+    const auto running = [] {
+        int timers = 0;
+        for (const QTimer* const timer : QCoreApplication::instance()->findChildren<QTimer*>()) {
+            timers += timer->isActive() ? 1 : 0;
+        }
+        return timers;
+    };
+    const QImage first = Painted(Form(*frmTessel));
+    QElapsedTimer waiting;
+    waiting.start();
+    while (Painted(Form(*frmTessel)) == first && waiting.elapsed() < 5000) {
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 50);
+    }
+    EXPECT_NE(Painted(Form(*frmTessel)), first) << "the arrow does not blink";
+    NewGame();
+    EXPECT_EQ(running(), 0);
+}
+
+class Namen : public Spieltisch
+{
+protected:
+    // Opens the list for an entry at the third place, hands its box over, and closes the window.
+    void TypeAtThirdPlace(const std::function<void(QLineEdit&)>& type)
+    {
+        Beste.EintragModus = True;
+        Beste.EintragPlatz = 2;
+        WhileOpen([] { frmBeste->Show(ShowMode::Modal); },
+                  [&] {
+                      auto* const box = qobject_cast<QLineEdit*>(Form(*frmBeste).focusWidget());
+                      EXPECT_NE(box, nullptr) << "no box has the focus";
+                      if (box != nullptr) {
+                          type(*box);
+                      }
+                      Click(frmBeste->cmdEnde);
+                  });
+    }
+
+    static void Type(QLineEdit& box, const QString& text)
+    {
+        for (const QChar letter : text) {
+            Press(box, Qt::Key_unknown, {}, letter);
+        }
+    }
+};
+
+TEST_F(Namen, OnlyTheBoxesInSightAreWidgetsAndOnlyTheEntryIsOpen)
+{
+    TypeAtThirdPlace([](QLineEdit& entry) {
+        const auto boxes = entry.window()->findChildren<QLineEdit*>();
+        EXPECT_EQ(boxes.size(), kPlaetze);
+        for (const QLineEdit* const box : boxes) {
+            EXPECT_EQ(box->isReadOnly(), box != &entry);
+            EXPECT_EQ(box->palette().color(QPalette::Base), QColor(Qt::white));
+            EXPECT_EQ(box->palette().color(QPalette::Text), QColor(Qt::black));
+        }
+        EXPECT_EQ(entry.selectedText(), entry.text()) << "the first key replaces the name";
+    });
+}
+
+TEST_F(Namen, ABoxTakesOnlyWhatTheFileCanHold)
+{
+    struct
+    {
+        const char16_t* typed;
+        const char* kept;
+    } const cases[] = {
+        {u"Jürgen Groß", "Jürgen Groß"},
+        {u"Ωmega", "mega"},
+        {u"a\tb\x7f", "ab"},
+        {u"Zoë €", "Zoë €"},
+        {u"日本", ""},
+    };
+    for (const auto& [typed, kept] : cases) {
+        TypeAtThirdPlace([&, typed = typed, kept = kept](QLineEdit& box) {
+            box.selectAll();
+            box.del();
+            Type(box, QString::fromUtf16(typed));
+            EXPECT_EQ(frmBeste->txtSpieler(2).Text.Get(), kept);
+            EXPECT_EQ(frmBeste->txtSpieler(2).SelStart, box.cursorPosition());
+            box.clear();
+            box.insert(QString::fromUtf16(typed));  // as pasting does
+            EXPECT_EQ(box.text().toStdString(), kept);
+        });
+    }
+}
+
+TEST_F(Namen, TheModelWritesIntoTheBoxToo)
+{
+    TypeAtThirdPlace([](QLineEdit& box) {
+        frmBeste->txtSpieler(2).Text = "Anna";
+        frmBeste->txtSpieler(2).SelStart = 1;
+        frmBeste->txtSpieler(2).SelLength = 2;
+        EXPECT_EQ(box.text(), QStringLiteral("Anna"));
+        EXPECT_EQ(box.selectedText(), QStringLiteral("nn"));
+        Type(box, QStringLiteral("x"));
+        EXPECT_EQ(frmBeste->txtSpieler(2).Text.Get(), "Axa");
+        EXPECT_EQ(frmBeste->txtSpieler(2).SelStart, 2);
+        EXPECT_EQ(frmBeste->txtSpieler(2).SelLength, 0);
+    });
+}
+
+TEST_F(Namen, ANameBeingTypedSurvivesAnotherWindow)
+{
+    TypeAtThirdPlace([&](QLineEdit& box) {
+        Type(box, QStringLiteral("Ada"));
+        QWidget other;
+        other.show();
+        other.activateWindow();
+        QCoreApplication::processEvents();
+        box.window()->activateWindow();
+        QCoreApplication::processEvents();
+        EXPECT_EQ(frmBeste->txtSpieler(2).Text.Get(), "Ada");
+        EXPECT_TRUE(box.hasFocus());
+        EXPECT_FALSE(box.hasSelectedText());
+    });
+}
+
+TEST_F(Namen, LettersReachTheBoxAndNotTheButtons)
+{
+    TypeAtThirdPlace([&](QLineEdit& box) {
+        Press(box, Qt::Key_N, {}, QStringLiteral("n"));
+        Press(box, Qt::Key_Space, {}, QStringLiteral(" "));
+        Press(box, Qt::Key_Return, {}, QStringLiteral("\r"));
+        EXPECT_EQ(frmBeste->txtSpieler(2).Text.Get(), "n ");
+        EXPECT_TRUE(frmBeste->Shown());
+    });
+}
+
+}  // namespace
+}  // namespace malvone::qt

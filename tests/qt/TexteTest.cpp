@@ -1,0 +1,135 @@
+// TexteTest.cpp: every text of the game can be read in the label that shows it.
+#include <QFile>
+#include <QFontInfo>
+#include <QFontMetricsF>
+#include <QRegularExpression>
+
+#include "tests/qt/Spieltisch.h"
+#include "ui/qt/LabelText.h"
+
+namespace malvone::qt {
+namespace {
+
+// The texts of the messages, as they stand in the sources: neighbouring literals are one text.
+std::vector<std::string> TextsWithLineBreaks()
+{
+    const QRegularExpression texts(
+        QStringLiteral("\"(?:[^\"\\\\\\n]|\\\\.)*\"(?:\\s*\"(?:[^\"\\\\\\n]|\\\\.)*\")*"));
+    std::vector<std::string> found;
+    for (const char* const folder : {"game", "board", "storage", "ui"}) {
+        for (const auto& entry : std::filesystem::directory_iterator(
+                 std::filesystem::path(MALVONE_SOURCE_DIR) / folder)) {
+            if (!entry.is_regular_file()) {
+                continue;
+            }
+            QFile file(QString::fromStdString(entry.path().string()));
+            EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+            auto matches = texts.globalMatch(QString::fromUtf8(file.readAll()));
+            while (matches.hasNext()) {
+                QString text = matches.next().captured();
+                text.replace(QRegularExpression(QStringLiteral("\"\\s*\"")), QString());
+                text.replace(QLatin1String("\\r\\n"), QLatin1String("\r\n"));
+                text.replace(QLatin1String("\\\""), QLatin1String("\""));
+                if (text.contains(QLatin1String("\r\n"))) {
+                    found.push_back(text.mid(1, text.size() - 2).toStdString());
+                }
+            }
+        }
+    }
+    return found;
+}
+
+void ExpectFits(const Label& label)
+{
+    const TextBlock block = LinesOf(label);
+    const double width = ToPixels(label.Width);
+    EXPECT_LE(block.Height, ToPixels(label.Height)) << label.FullName() << label.Caption.Get();
+    double lastBaseline = 0;
+    const QFontMetricsF metrics(ToQFont(label.TextFont));
+    for (const TextLine& line : block.Lines) {
+        EXPECT_GE(line.Baseline.x(), 0) << label.Caption.Get();
+        EXPECT_LE(line.Baseline.x() + line.Width, width + 0.01) << label.Caption.Get();
+        if (!line.Text.isEmpty() && lastBaseline > 0) {
+            EXPECT_GT(line.Baseline.y() - lastBaseline, metrics.capHeight()) << "lines touch";
+        }
+        lastBaseline = line.Baseline.y();
+    }
+}
+
+// Words stay whole: a line ends where a word ends.
+void ExpectWholeWords(const Label& label)
+{
+    QString joined;
+    for (const TextLine& line : LinesOf(label).Lines) {
+        joined += line.Text + QLatin1Char(' ');
+    }
+    EXPECT_EQ(joined.simplified().toStdString(),
+              ToQString(label.Caption.Get()).simplified().toStdString());
+}
+
+using Texte = Spieltisch;
+
+TEST_F(Texte, FontsKeepTheSizeOfTheDesign)
+{
+    EXPECT_EQ(ToQFont(Font{"Arial", 9.75F, true}).pixelSize(), 13);
+    EXPECT_EQ(ToQFont(Font{"Arial", 14.25F, false}).pixelSize(), 19);
+    EXPECT_TRUE(QFontInfo(ToQFont(Font{"MS Sans Serif", 12.0F, true}))
+                    .family()
+                    .startsWith(QLatin1String("Liberation Sans")));
+}
+
+TEST_F(Texte, EveryMessageFitsItsLabels)
+{
+    const std::vector<std::string> texts = TextsWithLineBreaks();
+    ASSERT_GT(texts.size(), 20U);
+    for (Label* const label :
+         {&frmMsgOk->lblMeldung, &frmMsgOk->lblTitel, &frmMsgJa->lblMeldung, &frmMsgJa->lblTitel}) {
+        for (const std::string& text : texts) {
+            label->Caption = text;
+            ExpectFits(*label);
+            ExpectWholeWords(*label);
+        }
+    }
+}
+
+TEST_F(Texte, EveryTextOfTheMainWindowFits)
+{
+    const char* const texts[] = {"Klicken Sie auf »Neues Spiel«.",
+                                 "Spielzug ist nicht möglich\r\nEs ist nur ein Feld markiert.",
+                                 "Dieser Spielzug ergibt 19600 Punkte!"};
+    for (const char* const text : texts) {
+        frmTessel->lblSumme.Caption = text;
+        frmTessel->lblMeldung.Caption = text;
+        ExpectFits(frmTessel->lblSumme);
+        ExpectFits(frmTessel->lblMeldung);
+    }
+    for (const Label* const label : {&frmTessel->Label1(0), &frmBeste->Label1, &frmBeste->Label2}) {
+        ExpectFits(*label);
+    }
+    frmMsgOk->Form_Activate();
+    frmMsgJa->Form_Activate();
+    ExpectFits(frmMsgOk->lblName);
+    ExpectFits(frmMsgJa->lblName);
+}
+
+TEST_F(Texte, ALabelTooLowMovesItsLinesTogetherAndCutsNoWord)
+{
+    Label& label = frmMsgOk->lblTitel;
+    label.Caption = "eins\r\nzwei\r\ndrei\r\nvier\r\nfünf";
+    ASSERT_EQ(LinesOf(label).Lines.size(), 5U);
+    const double natural = LinesOf(label).Height;
+    label.Height = ToTwips(natural - 12);
+    EXPECT_NEAR(LinesOf(label).Height, natural - 12, 0.1);
+}
+
+TEST_F(Texte, LinesAreCentredOneByOne)
+{
+    Label& label = frmMsgOk->lblMeldung;
+    label.Caption = "lang und breit\r\nkurz";
+    for (const TextLine& line : LinesOf(label).Lines) {
+        EXPECT_NEAR(line.Baseline.x() + line.Width / 2, ToPixels(label.Width) / 2, 0.51);
+    }
+}
+
+}  // namespace
+}  // namespace malvone::qt
