@@ -149,7 +149,7 @@ std::optional<Key> TasteAus(std::string_view name)
     if (found != kTasten.end()) {
         key.Code = found->Code;
     } else if (name.size() == 1 && name[0] >= 'A' && name[0] <= 'Z') {
-        key.Code = static_cast<std::int16_t>(name[0]);
+        key.Code = static_cast<unsigned char>(name[0]);
     } else {
         return std::nullopt;
     }

@@ -230,7 +230,8 @@ TEST_F(DrehbuchTest, EveryEventAtEveryControlIsAnswered)
     const std::vector<std::string> openers = {"", "do frmTessel.mnuInfo(4) Click\n",
                                               "do frmTessel.lblEnde Click\n"};
     for (const std::string& open : openers) {
-        std::string script = "key Enter\n";
+        std::ostringstream script;
+        script << "key Enter\n";
         std::ptrdiff_t commands = 1;
         for (const std::string& name : names) {
             for (const char* const event :
@@ -239,11 +240,11 @@ TEST_F(DrehbuchTest, EveryEventAtEveryControlIsAnswered)
                 if (name == "frmMsgJa.lblJa") {
                     continue;  // the answer that ends the program
                 }
-                script += open + "do " + name + " " + event + "\n" + kAufraeumen;
+                script << open << "do " << name << ' ' << event << '\n' << kAufraeumen;
                 commands += 1 + (open.empty() ? 0 : 1) + kAufraeumZeilen;
             }
         }
-        EXPECT_EQ(Wartezeilen(Spiele(script)), commands + 1) << open;
+        EXPECT_EQ(Wartezeilen(Spiele(script.str())), commands + 1) << open;
     }
 }
 
