@@ -54,7 +54,8 @@ endfunction()
 if(TARGET malvone_core)
     malvone_tests(core_tests malvone_core SOURCES
         tests/layer/*Test.cpp tests/windows/*Test.cpp tests/board/*Test.cpp
-        tests/storage/*Test.cpp tests/game/*Test.cpp tests/ui/*Test.cpp)
+        tests/storage/*Test.cpp tests/game/*Test.cpp tests/ui/*Test.cpp
+        tests/random/*Test.cpp)
 endif()
 if(TARGET malvone_drehbuch)
     malvone_tests(drehbuch_tests malvone_drehbuch SOURCES tests/games/*Test.cpp)
