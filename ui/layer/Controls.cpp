@@ -50,7 +50,7 @@ void TextBox::Type(std::string_view text)
     const std::string old = Text;
     const auto length = static_cast<std::int32_t>(CharacterCount(old));
     const std::int32_t start = std::clamp(SelStart.Get(), 0, length);
-    const std::int32_t end = std::clamp(start + SelLength, start, length);
+    const std::int32_t end = start + std::clamp(SelLength.Get(), 0, length - start);
     const auto head = Characters(old, 0, static_cast<std::size_t>(start));
     const auto tail = Characters(old, static_cast<std::size_t>(end), old.size());
 
