@@ -51,7 +51,7 @@ installiere_fehlende() {
         echo "No apt-get here, so the packages have to be there already (Debian's names: $*)." >&2
         return 0
     fi
-    local fehlend namen=() eintrag als_root=()
+    local fehlend namen=() eintrag als_root=() optionen=()
     mapfile -t fehlend < <(fehlende_pakete "$@")
     [ ${#fehlend[@]} -gt 0 ] || return 0
     if [ "$(id -u)" -ne 0 ]; then
@@ -66,10 +66,12 @@ installiere_fehlende() {
     for eintrag in "${fehlend[@]}"; do
         namen+=("$(waehle_paket "$eintrag")")
     done
+    # A machine of continuous integration is thrown away, so that dpkg need not wait for its disk.
+    [ -z "${CI:-}" ] || optionen=(-o Dpkg::Options::=--force-unsafe-io)
     local protokoll
     protokoll=$(mktemp)
     if ! "${als_root[@]}" env DEBIAN_FRONTEND=noninteractive \
-        apt-get install -qq -y --no-install-recommends "${namen[@]}" >"$protokoll" 2>&1; then
+        apt-get install -qq -y --no-install-recommends "${optionen[@]}" "${namen[@]}" >"$protokoll" 2>&1; then
         cat "$protokoll" >&2
         rm -f "$protokoll"
         return 1
