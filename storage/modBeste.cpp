@@ -69,7 +69,7 @@ void BesteVorgabe()
     }
     // By design (stille-vorgabe): one would expect a message when this fails. There is none; the
     // window of the best players tells it when it reads the list.
-    // Test: BestePlatz.ADefaultListThatCannotBeWrittenIsSilent
+    // Test: BesteVorgabe.ADefaultListThatCannotBeWrittenIsSilent
     static_cast<void>(App.System().ReplaceTextLines(BesteDatei(), zeilen));
 }
 
@@ -90,10 +90,12 @@ void BesteLesen()
 
 void BesteSpeichern()
 {
-    std::vector<std::string> zeilen(kZeilen);
-    for (int platz = 0; platz < kPlaetze; ++platz) {  // a missing item is an empty line
-        zeilen[static_cast<std::size_t>(platz)] = frmBeste->lstName.List(platz);
-        zeilen[static_cast<std::size_t>(platz + kPlaetze)] = frmBeste->lstPunkte.List(platz);
+    std::vector<std::string> zeilen;
+    zeilen.reserve(kZeilen);
+    for (const ListBox* const liste : {&frmBeste->lstName, &frmBeste->lstPunkte}) {
+        for (int platz = 0; platz < kPlaetze; ++platz) {
+            zeilen.push_back(liste->List(platz));  // a missing item is an empty line
+        }
     }
     if (App.System().ReplaceTextLines(BesteDatei(), zeilen) != FileFault::None) {
         MeldungZeigen(kNichtGespeichert);
@@ -103,6 +105,7 @@ void BesteSpeichern()
 void BesteEintragen(std::int16_t platz)
 {
     std::vector<Eintrag> eintraege;
+    eintraege.reserve(kPlaetze + 1);
     for (int i = 0; i < kPlaetze; ++i) {
         eintraege.push_back({frmBeste->lstName.List(i), frmBeste->lstPunkte.List(i)});
     }
