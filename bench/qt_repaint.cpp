@@ -45,8 +45,11 @@ struct Table
     {
         ZustandNeu();
         App.Begin(binding, platform);
-        const EventScope scope;
-        Main();
+        {
+            const EventScope scope;
+            Main();
+        }
+        QCoreApplication::processEvents();
     }
     ~Table() { App.Finish(); }
 

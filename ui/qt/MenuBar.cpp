@@ -37,7 +37,6 @@ QString CaptionOf(const MenuEntry& entry)
 
 MenuBar::MenuBar(const Window& window, QWidget* parent) : QMenuBar(parent), window_(&window)
 {
-    setNativeMenuBar(false);
     const std::vector<MenuEntry*> entries = window.MenuEntries();
     for (MenuEntry* const entry : entries) {
         Add(*entry, std::any_of(entries.begin(), entries.end(), [entry](const MenuEntry* other) {

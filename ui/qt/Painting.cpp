@@ -78,8 +78,12 @@ void Painting::Ground(const Window& window, const QSizeF& client) const
     }
     const QSizeF designed(ToPixels(window.ClientWidth), ToPixels(window.ClientHeight));
     const bool enlarged = client.width() > designed.width() || client.height() > designed.height();
-    const QSizeF whole(window.Picture->Width(), window.Picture->Height());
-    Unscaled(window.Picture, QRectF(QPointF(), enlarged ? whole : designed));
+    const QSizeF own(window.Picture->Width(), window.Picture->Height());
+    const QSize whole = OnThisScreen(QRectF(QPointF(), own)).size();
+    const QSize seen = OnThisScreen(QRectF(QPointF(), enlarged ? own : designed)).size();
+    Put(pictures_.GetGround(window.Picture, whole, seen.boundedTo(whole),
+                            ToQColor(window.BackColor).rgb()),
+        QPoint());
 }
 
 void Painting::Paint(const Image& image, const QRectF& place) const

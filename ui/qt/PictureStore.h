@@ -21,6 +21,9 @@ public:
     // a part can be seen. The reference holds until the next call.
     const QImage& Get(const Picture& picture, QSize size, QSize seen);
     const QImage& Get(const Picture& picture, QSize size) { return Get(picture, size, size); }
+    // The ground of a window, without the part at its right end that looks like the plain colour
+    // under it: most of a large picture is just that.
+    const QImage& GetGround(const Picture& picture, QSize size, QSize seen, QRgb under);
 
 private:
     // File, size of the whole picture, size of the rendered part.
@@ -28,7 +31,8 @@ private:
     std::map<Look, QImage> images_;
 };
 
-// Paints a picture without keeping it: for what is as large as the screen and painted once.
+// Paints a picture coarsely, stretched, and keeps nothing: for a cloudy ground as large as the
+// screen, which is painted once and would take a quarter of the start if it were fine.
 void PaintOnce(QPainter& painter, const Picture& picture, const QRectF& place);
 
 }  // namespace malvone::qt

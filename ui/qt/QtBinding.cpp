@@ -181,6 +181,9 @@ void QtBinding::Ended()
 
 // A modal window gives the front to nobody. A backdrop that has come to the front gives it back:
 // without a modal window the game does that itself.
+// By design (aktiv-nur-beim-zeigen): one would expect Form_Activate for every window that comes
+// back to the front. Only the backdrop gets it: the window of the best players would put its list's
+// names back over one that is being typed. Test: Namen.ANameBeingTypedSurvivesAnotherWindow
 void QtBinding::Activated(const FormWidget& form)
 {
     const Window* const modal = App.TopModal();

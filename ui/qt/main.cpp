@@ -18,6 +18,8 @@ namespace {
 void StartQt(std::optional<QApplication>& application, int& argc, char** argv)
 {
     PreferX11();
+    // The menu belongs to the window; even asking for a menu elsewhere would start the session bus.
+    QApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);
     QApplication::setApplicationName(QStringLiteral("malvone"));
     QApplication::setDesktopFileName(QStringLiteral("malvone"));
     application.emplace(argc, argv);
