@@ -11,6 +11,8 @@ namespace malvone {
 
 void FrmTessel::imgFeld_MouseMove(std::int16_t Index)
 {
+    // By design (leere-zelle-schweigt): one would expect the preview to end on an empty cell. It
+    // stays. Test: Markierung.PointingAtAnEmptyCellLeavesMarksPreviewAndSumAsTheyWere
     if (Zellwert(Index) == 0) {
         return;
     }
@@ -25,8 +27,9 @@ void FrmTessel::imgFeld_MouseMove(std::int16_t Index)
     GruppeVorschauen(farbe);
 }
 
-// The click acts on the marks of the last pointer event, not on the clicked cell as such: that is
-// only tested for being a stone.
+// By design (klick-auf-marken): one would expect the clicked group to go. The click acts on the
+// marks of the last pointer event; the cell is only tested for being a stone. Test:
+// Zug.SecondClickWithoutMovementIsWorthNothing
 void FrmTessel::imgFeld_MouseDown(std::int16_t Index, const Mouse& mouse)
 {
     if (Zellwert(Index) == 0 || mouse.Button != kLeftButton) {

@@ -132,7 +132,7 @@ endif()
 # What is the same in every build is looked at in the one that players run.
 if(NOT MALVONE_SANITIZE)
     # Scripts that look at what lies in the repository or in the build folder.
-    malvone_script_tests(files SOURCES tests/manuals/*.py tests/pictures/*.py
+    malvone_script_tests(files SOURCES tests/manuals/*.py tests/docs/*.py
         ARGUMENTS "${PROJECT_BINARY_DIR}")
 
     if(TARGET malvone)

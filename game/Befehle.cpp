@@ -43,6 +43,10 @@ void BesteAnsehen()
 void FrmTessel::cmdSchalt_Click(std::int16_t Index)
 {
     switch (Index) {
+    // By design (taste-ueberspringt): one would expect a question, or a price, for a level that is
+    // left. There is none. Test: Befehle.EnterSkipsALevelWithoutLoss
+    // By design (pfeil-blinkt-weiter): one would expect the arrow to go. It stays until a picture
+    // or label is clicked. Test: Start.EnterBeginsALevelAndLeavesTheArrowBlinking
     case kSchaltWeiter:
         Stand.KeinSpielBegonnen = false;
         FeldFuellen();
@@ -81,6 +85,9 @@ void FrmTessel::imgWiederholen_Click()
 {
     PfeileAus();
     AngebotAus();
+    // By design (wiederholung-nimmt-alles): one would expect only the points of this level to go.
+    // An emptied level before it has noted nothing, so its points go too.
+    // Test: Befehle.RepeatTakesBackWhatAnEmptiedLevelHasEarned
     Stand.PunkteGesamt = Stand.PunkteLevelStart;
     Stand.LevelPunkte = 0;
     --Stand.RundenZahl;

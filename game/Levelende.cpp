@@ -59,6 +59,9 @@ void FrmTessel::LevelAuswerten()
         return;
     }
     lblSumme.Caption = "";
+    // By design (nur-einmal): one would expect a new level to be offered in full. The mark of a
+    // repeat outlives a level that is emptied.
+    // Test: Levelende.EmptiedRepeatStillMakesTheReducedOffer
     const bool volles = Stand.LevelWiederholt == 0;
     imgNaechsterLevel.Visible = true;
     imgWiederholen.Visible = volles;

@@ -235,6 +235,13 @@ TEST_F(Befehle, EnterSkipsALevelWithoutLoss)
     EXPECT_TRUE(Angeboten(true, true));
 }
 
+TEST_F(Befehle, TabLeavesTheFocusWhereItIs)
+{
+    Tippen({kKeyTab, 0});
+    Tippen({kKeySpace, 0});
+    EXPECT_EQ(Stand.RundenZahl, 2) << "the space bar still takes the next level";
+}
+
 TEST(Start, EnterBeginsALevelAndLeavesTheArrowBlinking)
 {
     Programm programm;

@@ -70,8 +70,8 @@ bool TakenByFocusedButton(const Window& window, Key key)
     return true;
 }
 
-// Tab goes to what the player can see: a button beyond the window's edge is no stop, or the focus
-// would vanish there.
+// By design (tab-bleibt): one would expect Tab to reach every button. One beyond the window's edge
+// is no stop, or the focus would vanish there. Test: Befehle.TabLeavesTheFocusWhereItIs
 bool IsTabStop(const Window& window, const Visual& visual)
 {
     return visual.TakesFocus() && visual.TabStop && visual.Reachable() &&

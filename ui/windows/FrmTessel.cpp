@@ -78,6 +78,8 @@ void FrmTessel::SetLooks()
         {cmdSchalt(0), Pointer::Default, "Klicken Sie hier, um ein Spiel zu beginnen"},
         {lblInfo, Pointer::Default, "Allgemeine Informationen"},
         {lblHilfe, Pointer::Default, "Beschreibung der Auswahl"},
+        // By design (woertlich): one would expect "Alte". These are the game's words.
+        // Test: Entwurf.MainWindow
         {imgWiederholen, Pointer::Hand, "Alten Bildanordnung wiederholen"},
         {imgNaechsterLevel, Pointer::Hand, "Nächsten Level beginnen"},
         {lblNeu, Pointer::Hand, "Neues Spiel beginnen"},
