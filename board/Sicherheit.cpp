@@ -71,11 +71,6 @@ constexpr Lauf kLaeufe[] = {
     {19, 129, 10, kSeiten, kSeiten},       // 23
 };
 
-Zelle& Satz(int zelle)
-{
-    return Zellen[static_cast<std::size_t>(zelle)];
-}
-
 void Geben(int zelle, std::span<const int> abstaende, std::int16_t farbe)
 {
     if (Satz(zelle).Markiert == False) {

@@ -21,11 +21,6 @@ constexpr Colour kRot = 255;
 bool RechtsGefunden = false;
 bool LinksGefunden = false;
 
-Zelle& Satz(int zelle)
-{
-    return Zellen[static_cast<std::size_t>(zelle)];
-}
-
 bool HatFarbe(int zelle, std::int16_t farbe)
 {
     return Zellwert(zelle) == farbe;

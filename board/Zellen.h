@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 
 #include "ui/layer/Units.h"
 
@@ -42,5 +43,10 @@ struct Zelle
 
 // Index 1 to 140; the record 0 belongs to no cell.
 extern std::array<Zelle, kZellen + 1> Zellen;
+
+inline Zelle& Satz(int zelle)
+{
+    return Zellen[static_cast<std::size_t>(zelle)];
+}
 
 }  // namespace malvone

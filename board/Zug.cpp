@@ -18,7 +18,7 @@ void FrmTessel::imgFeld_MouseMove(std::int16_t Index)
     }
     MarkierungenLoeschen();
     VorschauZuruecknehmen();
-    Zellen[static_cast<std::size_t>(Index)].Markiert = True;
+    Satz(Index).Markiert = True;
     const auto farbe = static_cast<std::int16_t>(Zellwert(Index));
     StartSpalteMarkieren(Index);
     NachRechtsAusbreiten(farbe);

@@ -19,7 +19,7 @@ void ZelleAnlegen(int zelle)
 {
     Image& feld = frmTessel->imgFeld.Load(zelle);
     feld.Visible = true;
-    Zellen[static_cast<std::size_t>(zelle)] = Zelle();
+    Satz(zelle) = Zelle();
     feld.Picture = frmBilder->imgGrund.Picture;
     feld.Tag = "0";
 }
@@ -27,8 +27,8 @@ void ZelleAnlegen(int zelle)
 void RaenderSetzen()
 {
     for (int spalte = 0; spalte < kSpalten; ++spalte) {
-        Zellen[static_cast<std::size_t>(ObersteZelle(spalte))].ObererRand = True;
-        Zellen[static_cast<std::size_t>(UntersteZelle(spalte))].UntererRand = True;
+        Satz(ObersteZelle(spalte)).ObererRand = True;
+        Satz(UntersteZelle(spalte)).UntererRand = True;
     }
 }
 
@@ -53,7 +53,7 @@ void FeldFuellen()
     ++Stand.RundenZahl;
     for (int i = 1; i <= kZellen; ++i) {
         frmTessel->imgFeld(i).Tag = TagText(ZufallsFarbe());
-        Zellen[static_cast<std::size_t>(i)].Vorschau = False;
+        Satz(i).Vorschau = False;
         BildZeigen(i);
     }
     Stand.LevelPunkte = 0;

@@ -9,7 +9,6 @@
 #include "game/Spielstand.h"
 #include "storage/Beste.h"
 #include "storage/Datenordner.h"
-#include "storage/Meldungstext.h"
 #include "storage/modBeste.h"
 #include "ui/Anzeigen.h"
 #include "ui/Klaenge.h"

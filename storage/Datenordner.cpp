@@ -1,9 +1,9 @@
 // Datenordner.cpp: asks the platform for folders and files, in the game's own way of writing paths.
 #include "storage/Datenordner.h"
 
-#include "storage/Meldungstext.h"
 #include "ui/Handbuch.h"
 #include "ui/Klaenge.h"
+#include "ui/Meldungen.h"
 #include "ui/layer/App.h"
 
 namespace malvone {

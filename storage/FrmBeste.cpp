@@ -6,9 +6,9 @@
 #include <cmath>
 
 #include "storage/Datenordner.h"
-#include "storage/Meldungstext.h"
 #include "storage/modBeste.h"
 #include "ui/Handbuch.h"
+#include "ui/Meldungen.h"
 #include "ui/layer/App.h"
 #include "ui/layer/CodePage.h"
 #include "ui/layer/Keys.h"

@@ -6,8 +6,8 @@
 
 #include "game/Spielstand.h"
 #include "storage/Datenordner.h"
-#include "storage/Meldungstext.h"
 #include "storage/Zahlen.h"
+#include "ui/Meldungen.h"
 #include "ui/layer/App.h"
 #include "ui/windows/FrmBeste.h"
 #include "ui/windows/FrmTessel.h"

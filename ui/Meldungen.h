@@ -23,13 +23,28 @@ struct Versatz
     Twips Oben;
 };
 
+// The two texts of a message, where they are constant.
+struct Meldungstext
+{
+    std::string_view Meldung;
+    std::string_view Titel;
+};
+
 // Shows frmMsgOk with two texts and returns when it has closed. Lines are parted by CR LF; a text
 // that begins with CR LF begins on the second line.
 void MeldungZeigen(std::string_view meldung, std::string_view titel);
 void MeldungZeigen(std::string_view meldung, std::string_view titel, Versatz versatz);
+inline void MeldungZeigen(const Meldungstext& text)
+{
+    MeldungZeigen(text.Meldung, text.Titel);
+}
 
 // Shows frmMsgJa, centred. True only where the answer is exactly yes.
 bool FrageStellen(std::string_view meldung, std::string_view titel);
+inline bool FrageStellen(const Meldungstext& text)
+{
+    return FrageStellen(text.Meldung, text.Titel);
+}
 
 // The program's name and version as the windows show them.
 std::string TitelMitVersion();
