@@ -92,7 +92,7 @@ protected:
 using Levelende = Spielverlauf;
 using NeuesSpiel = Spielverlauf;
 using Befehle = Spielverlauf;
-using Ende = Spielverlauf;
+using Verlassen = Spielverlauf;
 
 TEST_F(Levelende, BonusShowsWithTheNextRemoval)
 {
@@ -255,7 +255,7 @@ TEST(Start, EnterBeginsALevelAndLeavesTheArrowBlinking)
     EXPECT_FALSE(RaiseTimer(frmTessel->Timer1));
 }
 
-TEST_F(Ende, EveryWayOutAsksOnceAndNoKeepsTheGame)
+TEST_F(Verlassen, EveryWayOutAsksOnceAndNoKeepsTheGame)
 {
     const auto wege = {
         +[] { RaiseClick(frmTessel->lblEnde); },
@@ -288,7 +288,7 @@ TEST_F(Ende, EveryWayOutAsksOnceAndNoKeepsTheGame)
 
 // The question at the end of a game stands inside the message loop of the best list; after no,
 // whatever still runs must neither show nor write anything.
-TEST_F(Ende, EndingInsideNestedWindowsWritesAndShowsNothingMore)
+TEST_F(Verlassen, EndingInsideNestedWindowsWritesAndShowsNothingMore)
 {
     Stand.RundenZahl = 5;
     Stand.PunkteGesamt = 9000;
