@@ -2,6 +2,7 @@
 // behind when they fail.
 #include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/file.h>
 #include <sys/mount.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
@@ -158,6 +159,7 @@ TEST(Dateien, WhatIsNoFileIsRefusedAndLeftAlone)
     Programm programm;
     const fs::path ort = programm.Platte / "ort";
     const std::string langerName = "C:\\" + std::string(300, 'x');
+    int leser = -1;
     const struct
     {
         const char* Was;
@@ -177,8 +179,12 @@ TEST(Dateien, WhatIsNoFileIsRefusedAndLeftAlone)
          FileFault::PathAccess, FileFault::PathAccess},
         {"pipe", [&] { ::mkfifo(ort.c_str(), 0600); }, "C:\\ort", kAccessRefused,
          FileFault::PathAccess, FileFault::OtherDevice},
-        {"device", [&] { fs::create_symlink("/dev/zero", ort); }, "C:\\ort", kAccessRefused,
-         FileFault::PathAccess, FileFault::PathAccess},
+        {"pipe that somebody reads",
+         [&] {
+             ::mkfifo(ort.c_str(), 0600);
+             leser = ::open(ort.c_str(), O_RDWR | O_NONBLOCK);
+         },
+         "C:\\ort", kAccessRefused, FileFault::PathAccess, FileFault::PathAccess},
         {"long name", [] {}, langerName, kAccessRefused, FileFault::PathAccess,
          FileFault::PathAccess},
         {"unreadable bytes", [&] { fs::create_symlink("/proc/self/mem", ort); }, "C:\\ort",
@@ -198,6 +204,7 @@ TEST(Dateien, WhatIsNoFileIsRefusedAndLeftAlone)
         }
         fs::remove_all(programm.Platte);
     }
+    ::close(leser);
 }
 
 TEST(Dateien, AHugeFileTakesAMomentAndLittleMemory)
@@ -374,13 +381,13 @@ TEST(Dateien, AReplacedFileKeepsItsLinkAndItsPermissions)
     Programm programm;
     const fs::path ziel = programm.Ordner.Pfad / "anderswo" / "liste";
     DateiSchreiben(ziel, kAltInhalt);
-    ::chmod(ziel.c_str(), 0640);
+    ::chmod(ziel.c_str(), 0664);
     fs::create_directory(programm.Platte);
     fs::create_symlink("../anderswo/liste", programm.Platte / "datei.txt");
     EXPECT_EQ(programm.Plattform.ReplaceTextLines(kDatei, kNeu), FileFault::None);
     EXPECT_TRUE(fs::is_symlink(programm.Platte / "datei.txt"));
     EXPECT_EQ(Dateiinhalt(ziel), kNeuInhalt);
-    EXPECT_EQ(fs::status(ziel).permissions(), static_cast<fs::perms>(0640));
+    EXPECT_EQ(fs::status(ziel).permissions(), static_cast<fs::perms>(0664));
     EXPECT_EQ(Namen(ziel.parent_path()), (std::vector<std::string>{"liste"}));
 }
 
@@ -397,6 +404,48 @@ TEST(Dateien, WhatAKilledRunLeftBehindDoesNoHarm)
     fs::create_symlink("datei.txt", programm.Platte / "datei.txt.neu1");
     EXPECT_EQ(programm.Plattform.ReplaceTextLines(kDatei, kAlt), FileFault::None);
     EXPECT_EQ(Dateiinhalt(programm.Platte / "datei.txt"), kAltInhalt);
+}
+
+// Another run that saves the same list at the same time has the new file in its hands.
+TEST(Dateien, ANewFileThatAnotherRunIsWritingIsNotTouched)
+{
+    Programm programm;
+    const fs::path fremd = programm.Platte / "datei.txt.neu";
+    DateiSchreiben(programm.Platte / "datei.txt", kAltInhalt);
+    DateiSchreiben(fremd, "half a li");
+    const int schloss = ::open(fremd.c_str(), O_WRONLY);
+    ASSERT_EQ(::flock(schloss, LOCK_EX), 0);
+    EXPECT_EQ(programm.Plattform.ReplaceTextLines(kDatei, kNeu), FileFault::None);
+    ::close(schloss);
+    EXPECT_EQ(Dateiinhalt(fremd), "half a li");
+    EXPECT_EQ(Dateiinhalt(programm.Platte / "datei.txt"), kNeuInhalt);
+}
+
+TEST(Dateien, ANewFileThatAnotherRunPutsInPlaceIsNotWritten)
+{
+    class Wettlauf : public TestPlattform
+    {
+    public:
+        using TestPlattform::TestPlattform;
+
+    protected:
+        int Open(const char* path, int flags, mode_t mode) override
+        {
+            const int datei = TestPlattform::Open(path, flags, mode);
+            const fs::path pfad = path;
+            if (pfad.extension() == ".neu") {  // the other run is done between open and lock
+                DateiSchreiben(pfad, kAltInhalt);
+                fs::rename(pfad, pfad.parent_path() / pfad.stem());
+            }
+            return datei;
+        }
+    };
+    Programm programm;
+    Wettlauf plattform(programm.Platte, programm.Programmordner, programm.Bindung.Verlauf);
+    fs::create_directory(programm.Platte);
+    EXPECT_EQ(plattform.ReplaceTextLines(kDatei, kNeu), FileFault::None);
+    EXPECT_EQ(Dateiinhalt(programm.Platte / "datei.txt"), kNeuInhalt);
+    EXPECT_EQ(Namen(programm.Platte), (std::vector<std::string>{"datei.txt"}));
 }
 
 TEST(Dateien, AfterTheEndNothingIsWrittenDeletedOrMade)
