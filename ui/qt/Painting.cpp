@@ -4,7 +4,7 @@
 #include <QPaintDevice>
 #include <QPainter>
 #include <QRegion>
-#include <ranges>
+#include <algorithm>
 
 #include "ui/layer/Window.h"
 #include "ui/qt/LabelText.h"
@@ -183,15 +183,13 @@ void PaintWindow(QPainter& painter, const Window& window, PictureStore& pictures
 {
     const Painting painting(painter, pictures);
     painting.Ground(window, client);
-    for (const Visual* const visual : std::views::reverse(window.FrontToBack())) {
-        if (!IsSeen(*visual)) {
-            continue;
-        }
+    const std::vector<Visual*>& frontToBack = window.FrontToBack();
+    std::for_each(frontToBack.rbegin(), frontToBack.rend(), [&](const Visual* visual) {
         const QRectF place = PlaceOf(*visual);
-        if (dirty.intersects(place.toAlignedRect())) {
+        if (IsSeen(*visual) && dirty.intersects(place.toAlignedRect())) {
             painting.Paint(*visual, place);
         }
-    }
+    });
 }
 
 }  // namespace malvone::qt
