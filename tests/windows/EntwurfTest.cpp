@@ -2,7 +2,8 @@
 // that is loaded.
 #include <gtest/gtest.h>
 
-#include <filesystem>
+#include <algorithm>
+#include <map>
 #include <set>
 
 #include "tests/support/StilleBindung.h"
@@ -188,8 +189,8 @@ TEST(Entwurf, MainWindow)
     }
     EXPECT_EQ(fenster.imgFeld(0).Container(), &fenster.Picture1);
     EXPECT_TRUE(fenster.cmdSchalt(0).Default);
-    EXPECT_EQ(std::ranges::min({fenster.cmdSchalt(1).TabIndex, fenster.cmdSchalt(2).TabIndex,
-                                fenster.cmdSchalt(3).TabIndex}),
+    EXPECT_EQ(std::min({fenster.cmdSchalt(1).TabIndex, fenster.cmdSchalt(2).TabIndex,
+                        fenster.cmdSchalt(3).TabIndex}),
               fenster.cmdSchalt(0).TabIndex + 1);
     EXPECT_FALSE(fenster.Picture1.Border);
     EXPECT_EQ(Art(fenster.Timer1), "Timer");
