@@ -17,10 +17,6 @@ target_compile_options(malvone_flags INTERFACE
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
     target_compile_options(malvone_flags INTERFACE
         -Wduplicated-cond -Wduplicated-branches -Wlogical-op -Wmismatched-tags)
-    # Under the sanitizers GCC sees null pointers in the checks that it has put in itself.
-    if(NOT MALVONE_SANITIZE)
-        target_compile_options(malvone_flags INTERFACE -Wnull-dereference)
-    endif()
 endif()
 if(MALVONE_WERROR)
     target_compile_options(malvone_flags INTERFACE -Werror)
