@@ -59,7 +59,10 @@ QString SpokenName(const Visual& visual)
 void TellScreenReader(FormWidget& form, const Control& control, Change what)
 {
     const auto* const label = dynamic_cast<const Label*>(&control);
-    if (what != Change::Text || label == nullptr || !QAccessible::isActive()) {
+    // The question for a screen reader calls the session bus: it can wait until there is something
+    // to read.
+    const bool told = what == Change::Text && label != nullptr && form.isVisible();
+    if (!told || !QAccessible::isActive()) {
         return;
     }
     auto* const tree = dynamic_cast<AccessibleForm*>(QAccessible::queryAccessibleInterface(&form));

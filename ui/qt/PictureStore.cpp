@@ -2,21 +2,12 @@
 #include "ui/qt/PictureStore.h"
 
 #include <QPainter>
-#include <QSvgRenderer>
 
+#include "ui/qt/FirstPictures.h"
 #include "ui/qt/PictureFiles.h"
 
 namespace malvone::qt {
 namespace {
-
-QImage Rendered(std::string_view file, QSize size, QSize seen)
-{
-    QImage image(seen, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
-    QPainter painter(&image);
-    QSvgRenderer(ResourcePath(file)).render(&painter, QRectF(QPointF(), size));
-    return image;
-}
 
 // How many columns at the left hold anything but one colour.
 int ColumnsInUse(const QImage& image, QRgb colour)
@@ -37,11 +28,10 @@ int ColumnsInUse(const QImage& image, QRgb colour)
 
 const QImage& PictureStore::GetGround(const Picture& picture, QSize size, QSize seen, QRgb under)
 {
-    const std::string_view file = FileOf(picture.Name());
-    const Look look{file, size.width(), size.height(), seen.width(), seen.height()};
+    const Look look = LookOf(FileOf(picture.Name()), size, seen);
     auto found = images_.find(look);
     if (found == images_.end()) {
-        const QImage whole = Rendered(file, size, seen);
+        const QImage whole = Render(look);
         found = images_.emplace(look, whole.copy(0, 0, ColumnsInUse(whole, under), whole.height()))
                     .first;
     }
@@ -50,20 +40,23 @@ const QImage& PictureStore::GetGround(const Picture& picture, QSize size, QSize 
 
 const QImage& PictureStore::Get(const Picture& picture, QSize size, QSize seen)
 {
-    const std::string_view file = FileOf(picture.Name());
-    const Look look{file, size.width(), size.height(), seen.width(), seen.height()};
+    const Look look = LookOf(FileOf(picture.Name()), size, seen);
     auto found = images_.find(look);
     if (found == images_.end()) {
-        found = images_.emplace(look, Rendered(file, size, seen)).first;
+        found = images_.emplace(look, Render(look)).first;
     }
     return found->second;
 }
 
-void PaintOnce(QPainter& painter, const Picture& picture, const QRectF& place)
+void PictureStore::PaintOnce(QPainter& painter, const Picture& picture, const QRectF& place) const
 {
-    constexpr int kCoarser = 2;
-    const QSize size(picture.Width() / kCoarser, picture.Height() / kCoarser);
-    painter.drawImage(place, Rendered(FileOf(picture.Name()), size, size));
+    painter.drawImage(place, Render(CoarseLook(picture)));
+}
+
+QImage PictureStore::Render(const Look& look) const
+{
+    const QImage early = first_ != nullptr ? first_->Take(look) : QImage();
+    return early.isNull() ? Rendered(look) : early;
 }
 
 }  // namespace malvone::qt

@@ -5,18 +5,22 @@
 #include <QImage>
 #include <QSize>
 #include <map>
-#include <string_view>
-#include <tuple>
 
 #include "ui/layer/Picture.h"
+#include "ui/qt/Look.h"
 
 class QPainter;
 
 namespace malvone::qt {
 
+class FirstPictures;
+
 class PictureStore
 {
 public:
+    // What has been rendered early is taken from there; it has to outlive the store.
+    explicit PictureStore(FirstPictures* first = nullptr) : first_(first) {}
+
     // The picture in a size given in pixels of the screen; cut off at the lower right where only
     // a part can be seen. The reference holds until the next call.
     const QImage& Get(const Picture& picture, QSize size, QSize seen);
@@ -25,14 +29,15 @@ public:
     // under it: most of a large picture is just that.
     const QImage& GetGround(const Picture& picture, QSize size, QSize seen, QRgb under);
 
-private:
-    // File, size of the whole picture, size of the rendered part.
-    using Look = std::tuple<std::string_view, int, int, int, int>;
-    std::map<Look, QImage> images_;
-};
+    // Paints a picture coarsely, stretched, and keeps nothing: for a cloudy ground as large as the
+    // screen, which is painted once and would take a quarter of the start if it were fine.
+    void PaintOnce(QPainter& painter, const Picture& picture, const QRectF& place) const;
 
-// Paints a picture coarsely, stretched, and keeps nothing: for a cloudy ground as large as the
-// screen, which is painted once and would take a quarter of the start if it were fine.
-void PaintOnce(QPainter& painter, const Picture& picture, const QRectF& place);
+private:
+    FirstPictures* first_;
+    std::map<Look, QImage> images_;
+
+    QImage Render(const Look& look) const;
+};
 
 }  // namespace malvone::qt

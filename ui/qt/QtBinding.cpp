@@ -14,7 +14,7 @@
 
 namespace malvone::qt {
 
-QtBinding::QtBinding()
+QtBinding::QtBinding(FirstPictures* first) : pictures_(first)
 {
     QApplication::setQuitOnLastWindowClosed(false);
     InstallAccessibility();

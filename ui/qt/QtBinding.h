@@ -17,7 +17,7 @@ class FormWidget;
 class QtBinding final : public Binding
 {
 public:
-    QtBinding();
+    explicit QtBinding(FirstPictures* first = nullptr);
     ~QtBinding() override;
 
     Twips ScreenWidth() override;

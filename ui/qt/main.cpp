@@ -7,6 +7,7 @@
 
 #include "ui/layer/App.h"
 #include "ui/qt/Display.h"
+#include "ui/qt/FirstPictures.h"
 #include "ui/qt/QtBinding.h"
 #include "ui/qt/QtPlatform.h"
 #include "ui/sound/Klang.h"
@@ -31,10 +32,10 @@ void StartQt(std::optional<QApplication>& application, int& argc, char** argv)
     }
 }
 
-int Play(Klang& klang)
+int Play(Klang& klang, FirstPictures& first)
 {
     QtPlatform platform(DefaultDataRoot(), ProgramFolder(), klang);
-    QtBinding binding;
+    QtBinding binding(&first);
     App.Begin(binding, platform);
     {
         const EventScope scope;
@@ -57,7 +58,8 @@ int Run(int argc, char** argv)
     klang.Vorbereiten();  // beside Qt's own start
     std::optional<QApplication> application;
     StartQt(application, argc, argv);
-    const int status = Play(klang);
+    FirstPictures first;  // beside the start of the game
+    const int status = Play(klang, first);
     klang.Beenden();
     return status;
 }

@@ -107,8 +107,8 @@ void FrmTessel::SetLooks()
     cmdSchalt(1).Caption = "Spiel &wiederholen";
     cmdSchalt(0).Caption = "Spiel &beginnen";
     cmdSchalt(0).Default = true;
-    for (std::int16_t i = 0; i < cmdSchalt.End(); ++i) {
-        cmdSchalt(i).TabIndex = i;
+    for (int i = 0; i < cmdSchalt.End(); ++i) {
+        cmdSchalt(i).TabIndex = static_cast<std::int16_t>(i);
     }
 }
 

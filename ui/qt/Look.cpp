@@ -1,0 +1,54 @@
+// Look.cpp: renders pictures. It may run beside the main thread.
+#include "ui/qt/Look.h"
+
+#include <QPainter>
+#include <QSvgRenderer>
+#include <algorithm>
+
+#include "ui/qt/PictureFiles.h"
+
+namespace malvone::qt {
+
+namespace {
+
+bool Opaque(const QImage& image)
+{
+    for (int y = 0; y < image.height(); ++y) {
+        const auto* const line = reinterpret_cast<const QRgb*>(image.constScanLine(y));
+        if (!std::all_of(line, line + image.width(), [](QRgb p) { return qAlpha(p) == 255; })) {
+            return false;
+        }
+    }
+    return true;
+}
+
+}  // namespace
+
+Look LookOf(std::string_view file, QSize size, QSize seen)
+{
+    return {file, size.width(), size.height(), seen.width(), seen.height()};
+}
+
+Look CoarseLook(const Picture& picture)
+{
+    constexpr int kCoarser = 2;
+    const QSize size(picture.Width() / kCoarser, picture.Height() / kCoarser);
+    return LookOf(FileOf(picture.Name()), size, size);
+}
+
+QImage Rendered(const Look& look)
+{
+    const auto& [file, width, height, seenWidth, seenHeight] = look;
+    QImage image(seenWidth, seenHeight, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    QSvgRenderer(ResourcePath(file)).render(&painter, QRectF(0, 0, width, height));
+    painter.end();
+    // What hides everything under it is painted without blending, which is several times faster.
+    if (Opaque(image)) {
+        image.reinterpretAsFormat(QImage::Format_RGB32);
+    }
+    return image;
+}
+
+}  // namespace malvone::qt
