@@ -103,6 +103,8 @@ void FrmTessel::ExternesEnde()
     if (FrageStellen("\r\nDas aktuelle Spiel ist beendet.\r\n"
                      "Möchten Sie ein neues Spiel beginnen?\"",
                      "\r\n»Neues Spiel« bestätigen")) {
+        // By design (halbes-angebot): one would expect the whole offer to go. Only the next level
+        // does. Test: Levelende.OnlyLevelFiveEndsTheGame
         imgNext.Picture = frmBilder->imgPfeil(2).Picture;
         imgNaechsterLevel.Visible = false;
         Beste.EndPunkte = 0;
