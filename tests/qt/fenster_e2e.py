@@ -45,7 +45,10 @@ class Desktop:
         self.folder = folder
         read, write = os.pipe()
         self.server = subprocess.Popen(
-            ["Xvfb", "-displayfd", str(write), "-screen", "0", "1920x1200x24", "-nolisten", "tcp"],
+            # Without -noreset the server starts anew, and drops who is just coming, whenever its
+            # last client leaves.
+            ["Xvfb", "-displayfd", str(write), "-screen", "0", "1920x1200x24", "-nolisten", "tcp",
+             "-noreset"],
             pass_fds=[write], stderr=subprocess.DEVNULL)
         os.close(write)
         with os.fdopen(read) as numbers:
