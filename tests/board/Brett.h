@@ -30,8 +30,8 @@ inline Werte AusReihen(const std::vector<std::string_view>& reihen)
     for (const std::string_view text : reihen) {
         for (int spalte = 0; spalte < static_cast<int>(text.size()); ++spalte) {
             const char zeichen = text[static_cast<std::size_t>(spalte)];
-            werte.at(static_cast<std::size_t>(spalte * 10 + reihe + 1)) =
-                zeichen == '.' ? 0 : zeichen - '0';
+            const int zelle = spalte * kReihen + reihe + 1;
+            werte.at(static_cast<std::size_t>(zelle)) = zeichen == '.' ? 0 : zeichen - '0';
         }
         ++reihe;
     }
@@ -44,7 +44,8 @@ inline std::string AlsText(const Werte& werte)
     std::string text;
     for (int reihe = 0; reihe < kReihen; ++reihe) {
         for (int spalte = 0; spalte < kSpalten; ++spalte) {
-            const int wert = werte[static_cast<std::size_t>(spalte * 10 + reihe + 1)];
+            const int zelle = spalte * kReihen + reihe + 1;
+            const int wert = werte[static_cast<std::size_t>(zelle)];
             text += wert == 0 ? "." : std::to_string(wert);
         }
         text += '\n';

@@ -556,10 +556,11 @@ TEST(Fensterrunde, MainWindowIsLoadedInTheMiddleOfTheScreenWithItsTitle)
     EXPECT_TRUE(frmTessel->imgNext.Picture->Empty());
     for (int i = 1; i <= 140; ++i) {
         const Image& feld = frmTessel->imgFeld(i);
+        const int links = 100 + 480 * ((i - 1) / 10);
+        const int oben = 100 + 480 * ((i - 1) % 10);
         EXPECT_EQ(
             (std::vector{feld.Left.Get(), feld.Top.Get(), feld.Width.Get(), feld.Height.Get()}),
-            (std::vector{static_cast<Twips>(100 + 480 * ((i - 1) / 10)),
-                         static_cast<Twips>(100 + 480 * ((i - 1) % 10)), 480.0F, 480.0F}))
+            (std::vector{static_cast<Twips>(links), static_cast<Twips>(oben), 480.0F, 480.0F}))
             << i;
         EXPECT_EQ(feld.Container(), &frmTessel->Picture1);
         EXPECT_EQ(feld.Picture->Name(), "frmBilder.imgGrund");

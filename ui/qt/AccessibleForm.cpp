@@ -2,6 +2,7 @@
 #include "ui/qt/AccessibleForm.h"
 
 #include <algorithm>
+#include <typeinfo>
 
 #include "ui/layer/PointerRouting.h"
 #include "ui/qt/Accessibility.h"
@@ -122,8 +123,8 @@ std::vector<Visual*> AccessibleForm::Spoken() const
         return spoken;
     }
     for (Visual* const visual : window->FrontToBack()) {
-        if (dynamic_cast<TextBox*>(visual) == nullptr && IsSeen(*visual) &&
-            !SpokenName(*visual).isEmpty()) {
+        const Visual& seen = *visual;
+        if (typeid(seen) != typeid(TextBox) && IsSeen(seen) && !SpokenName(seen).isEmpty()) {
             spoken.push_back(visual);
         }
     }
