@@ -6,9 +6,9 @@
 #include <random>
 #include <vector>
 
-#include "board/Zellen.h"
 #include "game/Main.h"
-#include "game/Spielstand.h"
+#include "state/Spielstand.h"
+#include "state/Zellen.h"
 #include "ui/layer/App.h"
 #include "ui/windows/FrmBilder.h"
 #include "ui/windows/FrmTessel.h"

@@ -5,8 +5,8 @@
 #include <QMouseEvent>
 #include <QTemporaryDir>
 
-#include "board/Zellen.h"
 #include "game/Main.h"
+#include "state/Zellen.h"
 #include "ui/layer/App.h"
 #include "ui/qt/FormWidget.h"
 #include "ui/qt/Painting.h"

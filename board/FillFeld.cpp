@@ -2,7 +2,7 @@
 #include "board/FillFeld.h"
 
 #include "board/SteuereBilder.h"
-#include "board/Zellen.h"
+#include "state/Zellen.h"
 #include "ui/windows/FrmTessel.h"
 
 namespace malvone {

@@ -2,7 +2,7 @@
 #include "board/Sicherheit.h"
 
 #include "board/SteuereBilder.h"
-#include "board/Zellen.h"
+#include "state/Zellen.h"
 
 namespace malvone {
 namespace {

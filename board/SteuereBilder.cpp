@@ -4,8 +4,8 @@
 #include <cmath>
 #include <string>
 
-#include "board/Zellen.h"
-#include "game/Spielstand.h"
+#include "state/Spielstand.h"
+#include "state/Zellen.h"
 #include "ui/Anzeigen.h"
 #include "ui/Klaenge.h"
 #include "ui/windows/FrmBilder.h"

@@ -2,7 +2,7 @@
 // that Steele, Lea and Flood published for it in 2014.
 #include "board/Zufallszahl.h"
 
-#include "board/Zellen.h"
+#include "state/Zellen.h"
 #include "ui/layer/App.h"
 
 namespace malvone {

@@ -3,8 +3,8 @@
 #include "board/FillFeld.h"
 #include "board/Sicherheit.h"
 #include "board/SteuereBilder.h"
-#include "board/Zellen.h"
-#include "game/Spielstand.h"
+#include "state/Spielstand.h"
+#include "state/Zellen.h"
 #include "ui/windows/FrmTessel.h"
 
 namespace malvone {

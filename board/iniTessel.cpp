@@ -2,9 +2,9 @@
 #include "board/iniTessel.h"
 
 #include "board/SteuereBilder.h"
-#include "board/Zellen.h"
 #include "board/Zufallszahl.h"
-#include "game/Spielstand.h"
+#include "state/Spielstand.h"
+#include "state/Zellen.h"
 #include "storage/Spielstanddatei.h"
 #include "ui/windows/FrmBilder.h"
 #include "ui/windows/FrmTessel.h"

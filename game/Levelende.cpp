@@ -2,9 +2,9 @@
 #include <string>
 
 #include "board/SteuereBilder.h"
-#include "board/Zellen.h"
 #include "board/iniTessel.h"
-#include "game/Spielstand.h"
+#include "state/Spielstand.h"
+#include "state/Zellen.h"
 #include "storage/modBeste.h"
 #include "ui/Klaenge.h"
 #include "ui/Meldungen.h"

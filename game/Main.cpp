@@ -3,11 +3,12 @@
 
 #include <string>
 
-#include "board/Zellen.h"
 #include "board/iniTessel.h"
 #include "game/NeuesSpiel.h"
-#include "game/Spielstand.h"
-#include "storage/Beste.h"
+#include "state/Beste.h"
+#include "state/Pfade.h"
+#include "state/Spielstand.h"
+#include "state/Zellen.h"
 #include "storage/Datenordner.h"
 #include "storage/modBeste.h"
 #include "ui/Anzeigen.h"

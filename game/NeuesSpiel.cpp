@@ -2,7 +2,7 @@
 #include "game/NeuesSpiel.h"
 
 #include "board/iniTessel.h"
-#include "game/Spielstand.h"
+#include "state/Spielstand.h"
 #include "ui/Anzeigen.h"
 #include "ui/Klaenge.h"
 #include "ui/Meldungen.h"

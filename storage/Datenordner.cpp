@@ -1,14 +1,12 @@
-// Datenordner.cpp: asks the platform for folders and files, in the game's own way of writing paths.
+// Datenordner.cpp: asks the platform for the data folder.
 #include "storage/Datenordner.h"
 
-#include "ui/Handbuch.h"
+#include "state/Pfade.h"
 #include "ui/Klaenge.h"
 #include "ui/Meldungen.h"
 #include "ui/layer/App.h"
 
 namespace malvone {
-
-Datenlage Daten;
 
 namespace {
 
@@ -23,26 +21,6 @@ std::string WindowsOrdner()
     return App.System().GetWindowsDirectoryA();
 }
 
-std::string MitBackslash(std::string pfad)
-{
-    if (!pfad.ends_with('\\')) {
-        pfad += '\\';
-    }
-    return pfad;
-}
-
-bool ExistiertDatei(const std::string& pfad)
-{
-    if (pfad.empty()) {
-        return false;
-    }
-    // By design (existiert-im-nichts): one would expect False for a name under a missing folder.
-    // It is True: only a file that was not found counts as absent, not a missing path, so that no
-    // list is written at the start when the folder could not be made.
-    // Test: Datenordner.OnlyAFreeNameInAnExistingFolderIsAbsent
-    return App.System().OpenFileExist(pfad) != kFileNotFound;
-}
-
 void OrdnerAnlegen(const std::string& pfad)
 {
     if (App.System().CreateDirectoryA(pfad)) {
@@ -54,11 +32,6 @@ void OrdnerAnlegen(const std::string& pfad)
     // Test: Datenordner.AFolderThatCannotBeMadeStaysTheDataFolder
     SoundDirekt(kTonBeginn);
     MeldungZeigen(kOrdnerFehlt);
-}
-
-std::string DatenPfad()
-{
-    return Daten.DatenOrdnerOk == True ? MitBackslash(Daten.DatenOrdner) : ProgrammOrdner();
 }
 
 }  // namespace malvone

@@ -5,12 +5,12 @@
 #include <algorithm>
 #include <cmath>
 
-#include "storage/Datenordner.h"
+#include "platform/CodePage.h"
+#include "state/Pfade.h"
 #include "storage/modBeste.h"
 #include "ui/Handbuch.h"
 #include "ui/Meldungen.h"
 #include "ui/layer/App.h"
-#include "ui/layer/CodePage.h"
 #include "ui/layer/Keys.h"
 #include "ui/windows/FrmDigital.h"
 

@@ -6,9 +6,9 @@
 #include <string>
 #include <vector>
 
-#include "board/Zellen.h"
-#include "game/Spielstand.h"
-#include "storage/Datenordner.h"
+#include "state/Pfade.h"
+#include "state/Spielstand.h"
+#include "state/Zellen.h"
 #include "storage/Zahlen.h"
 #include "ui/Klaenge.h"
 #include "ui/Meldungen.h"

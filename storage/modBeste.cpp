@@ -4,8 +4,8 @@
 
 #include <vector>
 
-#include "game/Spielstand.h"
-#include "storage/Datenordner.h"
+#include "state/Pfade.h"
+#include "state/Spielstand.h"
 #include "storage/Zahlen.h"
 #include "ui/Meldungen.h"
 #include "ui/layer/App.h"
@@ -13,8 +13,6 @@
 #include "ui/windows/FrmTessel.h"
 
 namespace malvone {
-
-Bestenstand Beste;
 
 namespace {
 

@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <string>
 
-#include "storage/Beste.h"
+#include "state/Beste.h"
 
 namespace malvone {
 

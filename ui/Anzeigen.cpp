@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <string>
 
-#include "game/Spielstand.h"
+#include "state/Spielstand.h"
 #include "ui/windows/FrmDigital.h"
 #include "ui/windows/FrmTessel.h"
 

@@ -3,7 +3,7 @@
 
 #include <cstddef>
 
-#include "ui/Handbuch.h"
+#include "state/Pfade.h"
 #include "ui/layer/App.h"
 #include "ui/windows/FrmTessel.h"
 

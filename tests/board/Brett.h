@@ -10,8 +10,8 @@
 #include <string_view>
 #include <vector>
 
-#include "board/Zellen.h"
-#include "game/Spielstand.h"
+#include "state/Spielstand.h"
+#include "state/Zellen.h"
 #include "tests/support/StilleBindung.h"
 #include "ui/windows/FrmBilder.h"
 #include "ui/windows/FrmTessel.h"

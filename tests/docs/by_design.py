@@ -17,7 +17,7 @@ def entries():
 
 
 def remarks():
-    for folder in ("board", "game", "storage", "ui"):
+    for folder in ("board", "game", "platform", "state", "storage", "ui"):
         for path in sorted((ROOT / folder).rglob("*")):
             if path.suffix not in (".h", ".cpp"):
                 continue

@@ -11,9 +11,9 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/Files.h"
 #include "tests/drehbuch/Ausgabe.h"
 #include "ui/layer/Binding.h"
-#include "ui/layer/Files.h"
 
 namespace malvone {
 

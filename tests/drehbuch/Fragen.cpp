@@ -6,9 +6,9 @@
 #include <map>
 #include <vector>
 
-#include "board/Zellen.h"
-#include "game/Spielstand.h"
-#include "storage/Beste.h"
+#include "state/Beste.h"
+#include "state/Spielstand.h"
+#include "state/Zellen.h"
 #include "ui/Meldungen.h"
 #include "ui/layer/App.h"
 #include "ui/windows/FrmTessel.h"

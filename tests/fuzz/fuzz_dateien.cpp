@@ -5,8 +5,8 @@
 #include <cstdlib>
 #include <memory>
 
-#include "board/Zellen.h"
-#include "game/Spielstand.h"
+#include "state/Spielstand.h"
+#include "state/Zellen.h"
 #include "storage/Spielstanddatei.h"
 #include "storage/modBeste.h"
 #include "tests/support/StilleBindung.h"

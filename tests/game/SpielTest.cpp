@@ -4,8 +4,8 @@
 #include <string>
 
 #include "board/SteuereBilder.h"
-#include "board/Zellen.h"
-#include "game/Spielstand.h"
+#include "state/Spielstand.h"
+#include "state/Zellen.h"
 #include "tests/support/StilleBindung.h"
 #include "ui/windows/FrmBilder.h"
 #include "ui/windows/FrmDigital.h"

@@ -6,8 +6,9 @@
 #include <cstdlib>
 #include <random>
 
-#include "board/Zellen.h"
-#include "game/Spielstand.h"
+#include "state/Pfade.h"
+#include "state/Spielstand.h"
+#include "state/Zellen.h"
 #include "storage/Datenordner.h"
 #include "tests/support/StilleBindung.h"
 #include "ui/layer/PointerRouting.h"

@@ -1,5 +1,5 @@
 // CodePageTest.cpp: what a file holds comes back as it was, and nothing else can be typed.
-#include "ui/layer/CodePage.h"
+#include "platform/CodePage.h"
 
 #include <gtest/gtest.h>
 

@@ -8,9 +8,9 @@
 #include <QPainter>
 #include <QScreen>
 
-#include "board/Zellen.h"
-#include "game/Spielstand.h"
-#include "storage/Beste.h"
+#include "state/Beste.h"
+#include "state/Spielstand.h"
+#include "state/Zellen.h"
 #include "tests/qt/Spieltisch.h"
 #include "ui/qt/PictureStore.h"
 

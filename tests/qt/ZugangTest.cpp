@@ -1,8 +1,8 @@
 // ZugangTest.cpp: what a screen reader finds in the windows of the game, and what it can do there.
 #include <QAccessible>
 
-#include "board/Zellen.h"
-#include "game/Spielstand.h"
+#include "state/Spielstand.h"
+#include "state/Zellen.h"
 #include "tests/qt/Spieltisch.h"
 
 namespace malvone::qt {

@@ -1,7 +1,7 @@
 // BesteFensterTest.cpp: what the window of the best players shows, takes and throws away.
 #include <gtest/gtest.h>
 
-#include "game/Spielstand.h"
+#include "state/Spielstand.h"
 #include "storage/modBeste.h"
 #include "tests/support/StilleBindung.h"
 #include "ui/windows/FrmBeste.h"

@@ -1,7 +1,7 @@
 // BesteTest.cpp: the best list in its file and in memory, and which result comes into it.
 #include <gtest/gtest.h>
 
-#include "game/Spielstand.h"
+#include "state/Spielstand.h"
 #include "storage/modBeste.h"
 #include "tests/support/StilleBindung.h"
 #include "ui/windows/FrmBeste.h"

@@ -1,6 +1,7 @@
 // DatenordnerTest.cpp: where the data files lie, and what the player is told when there is no
 // place.
 #include "storage/Datenordner.h"
+#include "state/Pfade.h"
 
 #include <gtest/gtest.h>
 

@@ -3,8 +3,8 @@
 
 #include <gtest/gtest.h>
 
-#include "board/Zellen.h"
-#include "game/Spielstand.h"
+#include "state/Spielstand.h"
+#include "state/Zellen.h"
 #include "tests/support/StilleBindung.h"
 #include "ui/windows/FrmBilder.h"
 #include "ui/windows/FrmTessel.h"

@@ -19,8 +19,8 @@
 #include <vector>
 
 #include "game/Main.h"
+#include "platform/Files.h"
 #include "ui/layer/App.h"
-#include "ui/layer/Files.h"
 
 namespace malvone {
 

@@ -3,7 +3,7 @@
 
 #include <limits>
 
-#include "game/Spielstand.h"
+#include "state/Spielstand.h"
 #include "tests/support/StilleBindung.h"
 #include "ui/Anzeigen.h"
 #include "ui/windows/FrmTessel.h"

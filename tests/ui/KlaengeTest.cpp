@@ -3,7 +3,7 @@
 
 #include <filesystem>
 
-#include "game/Spielstand.h"
+#include "state/Spielstand.h"
 #include "storage/Spielstanddatei.h"
 #include "tests/board/Brett.h"
 #include "ui/Klaenge.h"

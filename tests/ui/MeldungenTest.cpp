@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "game/Main.h"
+#include "state/Pfade.h"
 #include "tests/support/StilleBindung.h"
 #include "ui/Handbuch.h"
 #include "ui/Meldungen.h"

@@ -20,6 +20,7 @@ void Application::Begin(Binding& binding, Platform& platform)
     Finish();
     binding_ = &binding;
     platform_ = &platform;
+    platform.Over = false;
     ended_ = false;
 }
 
@@ -39,6 +40,7 @@ void Application::Ende()
         return;
     }
     ended_ = true;
+    platform_->Over = true;
     binding_->Ended();
 }
 

@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "platform/Platform.h"
 #include "ui/layer/Binding.h"
-#include "ui/layer/Platform.h"
 #include "ui/layer/Window.h"
 
 namespace malvone {

@@ -5,7 +5,7 @@
 #include <cctype>
 #include <utility>
 
-#include "ui/layer/CodePage.h"
+#include "platform/CodePage.h"
 #include "ui/layer/Window.h"
 
 namespace malvone {

@@ -4,7 +4,7 @@
 #include <QAccessible>
 #include <array>
 
-#include "board/Zellen.h"
+#include "state/Zellen.h"
 #include "ui/layer/Controls.h"
 #include "ui/qt/AccessibleForm.h"
 #include "ui/qt/FormWidget.h"

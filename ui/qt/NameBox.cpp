@@ -6,8 +6,8 @@
 #include <QScopedValueRollback>
 #include <QValidator>
 
+#include "platform/CodePage.h"
 #include "ui/layer/App.h"
-#include "ui/layer/CodePage.h"
 #include "ui/qt/LabelText.h"
 #include "ui/qt/Painting.h"
 #include "ui/qt/Scale.h"

@@ -4,7 +4,7 @@
 #include <filesystem>
 #include <optional>
 
-#include "ui/layer/Files.h"
+#include "platform/Files.h"
 
 namespace malvone {
 class Klang;

@@ -41,6 +41,9 @@ public:
     Platform(const Platform&) = delete;
     Platform& operator=(const Platform&) = delete;
 
+    // The program is over: nothing is written, deleted or made any more.
+    bool Over = false;
+
     // The system's folder, beginning with drive letter and colon; empty when it cannot be found.
     virtual std::string GetWindowsDirectoryA() = 0;
     // Makes one folder level. False: it could not be made.

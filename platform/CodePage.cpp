@@ -1,5 +1,5 @@
 // CodePage.cpp: turns texts between UTF-8 and Windows-1252, and counts their characters.
-#include "ui/layer/CodePage.h"
+#include "platform/CodePage.h"
 
 #include <algorithm>
 #include <array>

@@ -1,5 +1,5 @@
 // Spielstand.cpp: the one instance of the state of a game.
-#include "game/Spielstand.h"
+#include "state/Spielstand.h"
 
 namespace malvone {
 

@@ -1,5 +1,5 @@
 // Zellen.cpp: the one array of cell records.
-#include "board/Zellen.h"
+#include "state/Zellen.h"
 
 namespace malvone {
 

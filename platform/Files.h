@@ -10,7 +10,7 @@
 #include <string_view>
 #include <vector>
 
-#include "ui/layer/Platform.h"
+#include "platform/Platform.h"
 
 namespace malvone {
 
@@ -19,7 +19,6 @@ namespace malvone {
 // the user's account. Nothing where the home folder does not exist.
 std::optional<std::filesystem::path> DefaultDataRoot();
 
-// After the end of the program nothing is written, deleted or made any more.
 class FilePlatform : public Platform
 {
 public:

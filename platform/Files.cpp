@@ -1,5 +1,5 @@
 // Files.cpp: files and folders by the calls of the system, with every outcome looked at.
-#include "ui/layer/Files.h"
+#include "platform/Files.h"
 
 #include <fcntl.h>
 #include <pwd.h>
@@ -15,8 +15,7 @@
 #include <system_error>
 #include <utility>
 
-#include "ui/layer/App.h"
-#include "ui/layer/CodePage.h"
+#include "platform/CodePage.h"
 
 namespace malvone {
 
@@ -262,7 +261,7 @@ std::string FilePlatform::GetWindowsDirectoryA()
 
 bool FilePlatform::CreateDirectoryA(const std::string& path)
 {
-    if (App.Ended()) {
+    if (Over) {
         return true;
     }
     const std::optional<fs::path> place = PlaceToWrite(path);
@@ -292,7 +291,7 @@ std::int32_t FilePlatform::OpenFileExist(const std::string& path)
 void FilePlatform::DeleteFileA(const std::string& path)
 {
     const std::optional<fs::path> place = Translate(path);
-    if (place && !App.Ended()) {
+    if (place && !Over) {
         ::unlink(place->c_str());
     }
 }
@@ -320,7 +319,7 @@ ReadLines FilePlatform::ReadTextLines(const std::string& path, std::size_t count
 FileFault FilePlatform::WriteTextLines(const std::string& path,
                                        const std::vector<std::string>& lines)
 {
-    if (App.Ended()) {
+    if (Over) {
         return FileFault::None;
     }
     const std::optional<fs::path> place = PlaceToWrite(path);
@@ -346,7 +345,7 @@ FileFault FilePlatform::WriteTextLines(const std::string& path,
 FileFault FilePlatform::ReplaceTextLines(const std::string& path,
                                          const std::vector<std::string>& lines)
 {
-    if (App.Ended()) {
+    if (Over) {
         return FileFault::None;
     }
     const std::optional<fs::path> place = PlaceToWrite(path);
