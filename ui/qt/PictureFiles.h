@@ -1,23 +1,12 @@
-// PictureFiles.h: which file lies behind the name of a picture.
+// PictureFiles.h: where the files of pictures lie in the program.
 #pragma once
 
 #include <QString>
-#include <span>
 #include <string_view>
 
+#include "ui/windows/PictureFiles.h"
+
 namespace malvone::qt {
-
-struct PictureFile
-{
-    std::string_view Picture;  // its name in the bank
-    std::string_view File;     // the file's name without folder and ending
-};
-
-// One row for each picture of the bank. Pictures that look the same share a file.
-std::span<const PictureFile> PictureFiles();
-
-// The file of a picture; empty for a name that is not in the table.
-std::string_view FileOf(std::string_view picture);
 
 // Where a file of the table lies among the program's resources.
 QString ResourcePath(std::string_view file);
