@@ -1,0 +1,241 @@
+// Spoken.cpp: the words for screen readers, and the tables of what has them.
+#include "ui/windows/Spoken.h"
+
+#include <algorithm>
+#include <charconv>
+#include <utility>
+
+#include "state/Spielstand.h"
+#include "ui/windows/FrmBeste.h"
+#include "ui/windows/FrmMsgJa.h"
+#include "ui/windows/FrmMsgOk.h"
+#include "ui/windows/FrmTessel.h"
+
+namespace malvone {
+namespace {
+
+constexpr std::array<std::string_view, kFarben + 1> kFarbnamen = {"leer", "orange", "hellgrün",
+                                                                  "gelb", "himmelblau"};
+
+// Index n of a display holds the digit of weight ten to the n.
+std::vector<const Image*> Row(const ControlArray<Image>& places, IndexRange range)
+{
+    std::vector<const Image*> row;
+    for (int index = range.Last; index >= range.First; --index) {
+        row.push_back(&places(index));
+    }
+    return row;
+}
+
+std::vector<const Image*> Row(const ControlArray<Image>& places)
+{
+    return Row(places, {0, places.End() - 1});
+}
+
+std::vector<Spoken> On(FrmTessel& window)
+{
+    using enum SpokenKind;
+    std::vector<Spoken> all = {
+        {Words, &window.Label1(0)},
+        {Button, &window.lblHilfe, "Hilfe"},
+        {Button, &window.lblInfo, "Info"},
+        {Words, &window.Image3, "Punkte", Row(window.imgDiggiPunkte)},
+        {Words, &window.Image6, "Levelpunkte", Row(window.imgDiggiLevelPunkte)},
+        {Words, &window.Image4, "Level", Row(window.imgDiggiLevel)},
+        {Button, &window.lblNeu, "Neues Spiel"},
+        {Button, &window.lblEnde, "Beenden"},
+    };
+    for (int cell = 1; cell < window.imgFeld.End(); ++cell) {
+        all.push_back({Cell, &window.imgFeld(cell)});
+    }
+    all.push_back({Words, &window.lblSumme});
+    all.push_back({Button, &window.imgNaechsterLevel, "Nächster Level"});
+    all.push_back({Words, &window.lblMeldung});
+    all.push_back({Button, &window.imgWiederholen, "Wiederholen"});
+    return all;
+}
+
+std::vector<Spoken> On(FrmMsgOk& window)
+{
+    using enum SpokenKind;
+    return {
+        {Words, &window.lblMeldung},
+        {Words, &window.lblTitel},
+        {Button, &window.lblOk, "OK"},
+        {Button, &window.Image2, "schließen"},
+    };
+}
+
+std::vector<Spoken> On(FrmMsgJa& window)
+{
+    using enum SpokenKind;
+    return {
+        {Words, &window.lblMeldung},           {Words, &window.lblTitel},
+        {Button, &window.lblNein, "Nein"},     {Button, &window.lblJa, "Ja"},
+        {Button, &window.Image1, "schließen"},
+    };
+}
+
+std::vector<Spoken> On(FrmBeste& window)
+{
+    using enum SpokenKind;
+    constexpr std::array<std::string_view, kPlaetze> names = {
+        "Name, Platz 1", "Name, Platz 2", "Name, Platz 3", "Name, Platz 4", "Name, Platz 5"};
+    constexpr std::array<std::string_view, kPlaetze> points = {"Punkte, Platz 1", "Punkte, Platz 2",
+                                                               "Punkte, Platz 3", "Punkte, Platz 4",
+                                                               "Punkte, Platz 5"};
+    std::vector<Spoken> all = {{Words, &window.Label1}, {Words, &window.Label2}};
+    for (int place = 0; place < kPlaetze; ++place) {
+        const auto row = static_cast<std::size_t>(place);
+        const int units = place * kZiffernJePlatz;
+        all.push_back({NameBox, &window.txtSpieler(place), names[row]});
+        all.push_back({Words, &window.imgDiggi(units), points[row],
+                       Row(window.imgDiggi, {units, units + kZiffernJePlatz - 1})});
+    }
+    all.push_back({Button, &window.lblTessel, "Einträge löschen"});
+    all.push_back({Button, &window.cmdEnde, "OK"});
+    return all;
+}
+
+// A message breaks its lines and begins with an empty one; in speech only the words count.
+std::string OneLine(std::string_view text)
+{
+    std::string line;
+    for (const char c : text) {
+        const bool blank = c == ' ' || c == '\r' || c == '\n';
+        if (!blank) {
+            line += c;
+        } else if (!line.empty() && line.back() != ' ') {
+            line += ' ';
+        }
+    }
+    while (!line.empty() && line.back() == ' ') {
+        line.pop_back();
+    }
+    return line;
+}
+
+// The pictures of digits are called "frmDigital.imgDiggi(0)" to "(9)"; "(10)" is the dark place.
+std::string Digit(const Image& place)
+{
+    const std::string_view name = place.Picture->Name();
+    const std::size_t open = name.find('(');
+    int digit = 10;
+    if (place.Visible && open != std::string_view::npos) {
+        std::from_chars(name.data() + open + 1, name.data() + name.size(), digit);
+    }
+    return digit <= 9 ? std::to_string(digit) : std::string();
+}
+
+std::string CellName(const Visual& cell)
+{
+    const std::int32_t colour = cell.Tag->Number();
+    const bool known = colour >= 0 && colour <= kFarben;
+    return "Spalte " + std::to_string(Spalte(cell.Index()) + 1) + ", Reihe " +
+           std::to_string(Reihe(cell.Index()) + 1) + ", " +
+           std::string(kFarbnamen[known ? static_cast<std::size_t>(colour) : 0]);
+}
+
+std::ptrdiff_t Stones(const std::array<std::int32_t, kZellen>& board)
+{
+    return kZellen - std::count(board.begin(), board.end(), 0);
+}
+
+}  // namespace
+
+std::vector<Spoken> SpokenOn(Window& window)
+{
+    if (auto* const main = dynamic_cast<FrmTessel*>(&window)) {
+        return On(*main);
+    }
+    if (auto* const message = dynamic_cast<FrmMsgOk*>(&window)) {
+        return On(*message);
+    }
+    if (auto* const question = dynamic_cast<FrmMsgJa*>(&window)) {
+        return On(*question);
+    }
+    auto* const best = dynamic_cast<FrmBeste*>(&window);
+    return best != nullptr ? On(*best) : std::vector<Spoken>();
+}
+
+std::string NameOf(const Spoken& spoken)
+{
+    if (spoken.Kind == SpokenKind::Cell) {
+        return CellName(*spoken.Where);
+    }
+    if (const auto* const label = dynamic_cast<const Label*>(spoken.Where);
+        label != nullptr && spoken.Painted.empty()) {
+        return OneLine(label->Caption.Get());
+    }
+    if (spoken.Digits.empty()) {
+        return std::string(spoken.Painted);
+    }
+    std::string number;
+    for (const Image* const place : spoken.Digits) {
+        number += Digit(*place);
+    }
+    return std::string(spoken.Painted) + ": " + (number.empty() ? "dunkel" : number);
+}
+
+std::string DescriptionOf(const Spoken& spoken)
+{
+    return OneLine(spoken.Where->ToolTipText.Get());
+}
+
+bool IsSpokenNow(const Spoken& spoken)
+{
+    const Visual& where = *spoken.Where;
+    const bool open = where.Container() == nullptr || where.Container()->Visible;
+    return where.Visible && open && !NameOf(spoken).empty();
+}
+
+std::string TitleOf(const Window& window)
+{
+    if (const auto* const message = dynamic_cast<const FrmMsgOk*>(&window)) {
+        return OneLine(message->lblName.Caption.Get());
+    }
+    if (const auto* const question = dynamic_cast<const FrmMsgJa*>(&window)) {
+        return OneLine(question->lblName.Caption.Get());
+    }
+    return OneLine(window.Caption.Get());
+}
+
+bool IsMessage(const Window& window)
+{
+    return dynamic_cast<const FrmMsgOk*>(&window) != nullptr ||
+           dynamic_cast<const FrmMsgJa*>(&window) != nullptr;
+}
+
+// Stones only become more when a board is filled, and only a move earns points for those that go:
+// at the end of a level they go for nothing. The bonus comes with no stone on the board.
+std::string Reporter::News()
+{
+    if (!frmTessel.Loaded() || !frmTessel->imgFeld.Has(kZellen)) {
+        return {};
+    }
+    std::array<std::int32_t, kZellen> board{};
+    for (int cell = 1; cell <= kZellen; ++cell) {
+        board[static_cast<std::size_t>(cell) - 1] = frmTessel->imgFeld(cell).Tag->Number();
+    }
+    const std::ptrdiff_t now = Stones(board);
+    const std::ptrdiff_t before = Stones(board_);
+    const bool filled = now > before || (now == kZellen && board != board_);
+    const std::int32_t earned = Stand.PunkteGesamt - points_;
+    board_ = board;
+    points_ = Stand.PunkteGesamt;
+
+    if (filled) {
+        const bool first = Stand.RundenZahl == 1 && points_ == 0 && Stand.LevelWiederholt == 0;
+        return first ? "Neues Spiel." : "Der Level beginnt.";
+    }
+    if (now == before) {
+        return {};
+    }
+    if (earned > 0) {
+        return std::to_string(before - now) + " Steine entfernt, " + std::to_string(earned) +
+               " Punkte.";
+    }
+    return OneLine("Der Level ist zu Ende. " + frmTessel->lblMeldung.Caption.Get());
+}
+
+}  // namespace malvone
