@@ -15,7 +15,7 @@
 #include <system_error>
 #include <utility>
 
-#include "platform/CodePage.h"
+#include "platform/TextLines.h"
 
 namespace malvone {
 
@@ -24,7 +24,6 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr std::size_t kBlock = 4096;
-constexpr std::size_t kLongestLine = 64 * 1024;
 constexpr mode_t kNewFile = 0666;  // less what the user's mask takes away
 constexpr int kNewNames = 8;       // so many runs can replace one file at the same time
 constexpr int kMostLinks = 40;
@@ -53,53 +52,6 @@ bool IsFolder(const fs::path& path)
     return fs::is_directory(path, error);
 }
 
-// Puts lines together from blocks of bytes.
-class LineCollector
-{
-public:
-    LineCollector(std::size_t wanted, std::vector<std::string>& lines)
-        : wanted_(wanted), lines_(lines)
-    {}
-
-    bool Complete() const { return lines_.size() >= wanted_; }
-    bool TooLong() const { return line_.size() > kLongestLine; }
-
-    void Take(std::string_view block)
-    {
-        for (const char c : block) {
-            if (Complete() || TooLong()) {
-                return;
-            }
-            const bool secondOfCrLf = c == '\n' && afterCr_;
-            afterCr_ = c == '\r';
-            if (c != '\r' && c != '\n') {
-                line_ += c;
-            } else if (!secondOfCrLf) {
-                EndLine();
-            }
-        }
-    }
-    // The last line needs no end.
-    void EndOfFile()
-    {
-        if (!line_.empty() && !Complete()) {
-            EndLine();
-        }
-    }
-
-private:
-    std::size_t wanted_;
-    std::vector<std::string>& lines_;
-    std::string line_;
-    bool afterCr_ = false;
-
-    void EndLine()
-    {
-        lines_.push_back(FromWindows1252(line_));
-        line_.clear();
-    }
-};
-
 FileFault ReadLinesFrom(int file, std::size_t count, std::vector<std::string>& lines)
 {
     LineCollector collector(count, lines);
@@ -122,15 +74,6 @@ FileFault ReadLinesFrom(int file, std::size_t count, std::vector<std::string>& l
         }
     }
     return FileFault::None;
-}
-
-std::string FileContent(const std::vector<std::string>& lines)
-{
-    std::string content;
-    for (const std::string& line : lines) {
-        content += ToWindows1252(line) + "\r\n";
-    }
-    return content;
 }
 
 // The file behind a link; a circle of links is left to be refused when it is opened.

@@ -1,0 +1,56 @@
+// TextLines.cpp: takes lines apart and puts them together.
+#include "platform/TextLines.h"
+
+#include "platform/CodePage.h"
+
+namespace malvone {
+namespace {
+
+constexpr std::size_t kLongestLine = 64 * 1024;
+
+}  // namespace
+
+bool LineCollector::TooLong() const
+{
+    return line_.size() > kLongestLine;
+}
+
+void LineCollector::Take(std::string_view block)
+{
+    for (const char c : block) {
+        if (Complete() || TooLong()) {
+            return;
+        }
+        const bool secondOfCrLf = c == '\n' && afterCr_;
+        afterCr_ = c == '\r';
+        if (c != '\r' && c != '\n') {
+            line_ += c;
+        } else if (!secondOfCrLf) {
+            EndLine();
+        }
+    }
+}
+
+void LineCollector::EndOfFile()
+{
+    if (!line_.empty() && !Complete()) {
+        EndLine();
+    }
+}
+
+void LineCollector::EndLine()
+{
+    lines_.push_back(FromWindows1252(line_));
+    line_.clear();
+}
+
+std::string FileContent(const std::vector<std::string>& lines)
+{
+    std::string content;
+    for (const std::string& line : lines) {
+        content += ToWindows1252(line) + "\r\n";
+    }
+    return content;
+}
+
+}  // namespace malvone

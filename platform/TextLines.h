@@ -1,0 +1,39 @@
+// TextLines.h: between the bytes of a text file and its lines, the same wherever files are kept:
+// Windows-1252 and CR LF out, LF and CR alone taken too.
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace malvone {
+
+// Puts the first lines of a file together from blocks of its bytes.
+class LineCollector
+{
+public:
+    LineCollector(std::size_t wanted, std::vector<std::string>& lines)
+        : wanted_(wanted), lines_(lines)
+    {}
+
+    bool Complete() const { return lines_.size() >= wanted_; }
+    // No file of the game has such a line.
+    bool TooLong() const;
+
+    void Take(std::string_view block);
+    // The last line needs no end.
+    void EndOfFile();
+
+private:
+    std::size_t wanted_;
+    std::vector<std::string>& lines_;
+    std::string line_;
+    bool afterCr_ = false;
+
+    void EndLine();
+};
+
+std::string FileContent(const std::vector<std::string>& lines);
+
+}  // namespace malvone
