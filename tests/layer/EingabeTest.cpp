@@ -90,9 +90,9 @@ TEST(Zeiger, PressKeepsThePointerUntilRelease)
         {"the window's own surface gets moves",
          {{'m', 0, 2600, 1800}, {'m', 1, 2601, 1801}},
          {"move window 0 at 2600,1800", "move window 1 at 2601,1801"}},
-        {"a press on the surface clicks nothing where it is released",
-         {{'d', 1, 2600, 1800}, {'u', 1, 1050, 50}},
-         {}},
+        {"a press on the surface keeps the pointer for the window",
+         {{'d', 1, 2600, 1800}, {'m', 1, 1050, 50}, {'u', 1, 1050, 50}},
+         {"move window 1 at 1050,50"}},
         {"a release without a press", {{'u', 1, 1050, 50}}, {}},
     };
     for (const auto& c : cases) {

@@ -37,8 +37,9 @@ void PointerPressed(Window& window, const Mouse& mouse)
         return;
     }
     const EventScope scope;
-    if (window.Pressed == nullptr) {
+    if (window.Pressed == nullptr && !window.SurfacePressed) {
         window.Pressed = ControlAt(window, mouse.X, mouse.Y);
+        window.SurfacePressed = window.Pressed == nullptr;
     }
     if (Visual* const target = window.Pressed; target != nullptr && target->Enabled) {
         target->MouseDown.Raise(target->Index(), Within(*target, mouse));
@@ -51,8 +52,8 @@ void PointerMoved(Window& window, const Mouse& mouse)
         return;
     }
     const EventScope scope;
-    Visual* const target =
-        window.Pressed != nullptr ? window.Pressed : ControlAt(window, mouse.X, mouse.Y);
+    const bool held = window.Pressed != nullptr || window.SurfacePressed;
+    Visual* const target = held ? window.Pressed : ControlAt(window, mouse.X, mouse.Y);
     if (target == nullptr) {
         window.Form_MouseMove(mouse);
     } else if (target->Enabled) {
@@ -63,7 +64,7 @@ void PointerMoved(Window& window, const Mouse& mouse)
 void PointerReleased(Window& window, const Mouse& mouse)
 {
     Visual* const target = window.Pressed;
-    window.Pressed = nullptr;
+    window.ReleaseCapture();
     if (!App.TakesInput(window) || target == nullptr || !target->Enabled) {
         return;
     }

@@ -10,7 +10,7 @@ Visual* ControlAt(const Window& window, Twips x, Twips y);
 
 // X and Y of the mouse are those in the client area. A press keeps the pointer: all moves, the
 // release and, for the left button and while the pointer is still inside, the click go to the
-// pressed control. Windows that take no input at present get nothing.
+// pressed control; after a press beside all controls the moves go to the window itself. Windows that take no input at present get nothing.
 void PointerPressed(Window& window, const Mouse& mouse);
 void PointerMoved(Window& window, const Mouse& mouse);
 void PointerReleased(Window& window, const Mouse& mouse);

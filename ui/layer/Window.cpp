@@ -102,6 +102,12 @@ void Window::SetFocus(Visual* control)
     }
 }
 
+void Window::ReleaseCapture()
+{
+    Pressed = nullptr;
+    SurfacePressed = false;
+}
+
 void Window::Move(Twips left, Twips top)
 {
     Left = left;
@@ -142,7 +148,7 @@ void Window::Hide()
         return;
     }
     shown_ = false;
-    Pressed = nullptr;
+    ReleaseCapture();
     App.Screen().WindowHidden(*this);
 }
 

@@ -92,8 +92,11 @@ public:
     Visual* Focus() const { return focus_; }
     void SetFocus(Visual* control);
 
-    // The control that holds the pointer between press and release; routing keeps it.
+    // What holds the pointer between press and release: a control, or the window's own surface.
+    // Routing keeps both.
     Visual* Pressed = nullptr;
+    bool SurfacePressed = false;
+    void ReleaseCapture();
 
     virtual void Form_Load() {}
     virtual void Form_Activate() {}

@@ -235,8 +235,9 @@ bool FormWidget::Ignores(const QMouseEvent& event) const
         return true;
     }
     const QPointF place = event.position() - Origin();
-    return window_->Pressed == nullptr && (ToTwips(place.x()) >= window_->ClientWidth ||
-                                           ToTwips(place.y()) >= window_->ClientHeight);
+    const bool held = window_->Pressed != nullptr || window_->SurfacePressed;
+    return !held && (ToTwips(place.x()) >= window_->ClientWidth ||
+                     ToTwips(place.y()) >= window_->ClientHeight);
 }
 
 void FormWidget::mousePressEvent(QMouseEvent* event)
