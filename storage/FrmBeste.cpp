@@ -96,6 +96,7 @@ void FrmBeste::FelderSperren()
     for (int i = 0; i < 2 * kPlaetze; ++i) {
         txtSpieler(i).TabStop = false;
         txtSpieler(i).Locked = true;
+        txtSpieler(i).SelLength = 0;  // an earlier entry may have left its name selected
     }
 }
 

@@ -34,7 +34,7 @@ void Zentrieren(Window& fenster)
 void FensterZiehen(Window& fenster, const Mouse& mouse)
 {
     if (mouse.Button == kLeftButton) {
-        fenster.ReleaseCapture();
+        fenster.Pressed.reset();
         App.Screen().DragWindow(fenster);
     }
 }

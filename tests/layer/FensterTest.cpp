@@ -138,7 +138,7 @@ TEST(Modal, PressThatOpensAWindowFindsNoReleaseBehindIt)
     probe->BeiDruck = [] { nebenfenster->Show(ShowMode::Modal); };
     PointerPressed(*probe, {kLeftButton, 0, 850, 50});
     NotizenSeitdem();
-    EXPECT_EQ(probe->Pressed, nullptr);
+    EXPECT_FALSE(probe->Pressed);
     PointerReleased(*probe, {kLeftButton, 0, 850, 50});
     EXPECT_EQ(NotizenSeitdem(), Verlauf{});
 }

@@ -210,6 +210,18 @@ TEST(Textfeld, TypingReplacesTheSelectionByWhatAFileCanHold)
         EXPECT_EQ(feld.SelStart, c.NeuerStart) << c.Alt << " + " << c.Getippt;
         EXPECT_EQ(feld.SelLength, 0) << c.Alt;
     }
+
+    TextBox& feld = probe->feld(0);
+    feld.SelLength = 7;
+    feld.Text = "Spieler";
+    feld.SelStart = 0;
+    feld.Type("日本");
+    EXPECT_EQ(feld.Text.Get(), "Spieler") << "foreign letters alone replace nothing";
+    EXPECT_EQ(feld.SelLength, 7);
+    feld.Type("ö" + std::string(300, 'x'));
+    EXPECT_EQ(feld.Text.Get(), "ö" + std::string(254, 'x')) << "no more than there is room for";
+    feld.Type("y");
+    EXPECT_EQ(feld.Text.Get(), "ö" + std::string(254, 'x'));
 }
 
 TEST(Liste, KeepsItsItemsInTheOrderOfAdding)

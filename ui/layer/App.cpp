@@ -54,7 +54,7 @@ void Application::RunModal(Window& window)
     // A press that has opened this window finds its release elsewhere, or nowhere.
     for (InstanceBase* const instance : InstanceBase::All()) {
         if (Window* const other = instance->Current()) {
-            other->ReleaseCapture();
+            other->Pressed.reset();
         }
     }
     while (!ModalOver(window)) {

@@ -1,6 +1,7 @@
 // Controls.h: the kinds of control that the windows are made of.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -83,6 +84,7 @@ public:
 
     TextProperty Text{*this, Change::Text};
     Property<bool> Locked{*this, Change::State, false};
+    std::size_t MaxLength = 255;  // characters that typing makes at most
     Property<std::int32_t> SelStart{*this, Change::Select, 0};
     Property<std::int32_t> SelLength{*this, Change::Select, 0};
     Property<Font> TextFont{*this, Change::Look};
@@ -92,8 +94,9 @@ public:
     void SetFocus();
     bool TakesFocus() const override { return true; }
 
-    // What typing does: replaces the selection by those characters that a file can hold, and puts
-    // the caret behind them. Does nothing while Locked.
+    // What typing and pasting do: they replace the selection by those characters that a file can
+    // hold, as many as there is room for, and put the caret behind them. Does nothing while Locked,
+    // and where nothing is left of the text: the selection stays.
     void Type(std::string_view text);
 };
 

@@ -75,7 +75,7 @@ bool TakenByFocusedButton(const Window& window, Key key)
 bool IsTabStop(const Window& window, const Visual& visual)
 {
     return visual.TakesFocus() && visual.TabStop && visual.Reachable() &&
-           visual.WindowLeft() < window.ClientWidth && visual.WindowTop() < window.ClientHeight;
+           window.InClient(visual.WindowLeft(), visual.WindowTop());
 }
 
 bool TakenByTab(Window& window, Key key)

@@ -23,6 +23,9 @@ Mouse Within(const Visual& visual, const Mouse& mouse)
 
 Visual* ControlAt(const Window& window, Twips x, Twips y)
 {
+    if (!window.InClient(x, y)) {
+        return nullptr;
+    }
     for (Visual* const visual : window.FrontToBack()) {
         if (visual->TakesPointer() && Seen(*visual) && visual->Covers(x, y)) {
             return visual;
@@ -33,27 +36,25 @@ Visual* ControlAt(const Window& window, Twips x, Twips y)
 
 void PointerPressed(Window& window, const Mouse& mouse)
 {
-    if (!App.TakesInput(window)) {
+    if (!App.TakesInput(window) || (!window.Pressed && !window.InClient(mouse.X, mouse.Y))) {
         return;
     }
     const EventScope scope;
-    if (window.Pressed == nullptr && !window.SurfacePressed) {
+    if (!window.Pressed) {
         window.Pressed = ControlAt(window, mouse.X, mouse.Y);
-        window.SurfacePressed = window.Pressed == nullptr;
     }
-    if (Visual* const target = window.Pressed; target != nullptr && target->Enabled) {
+    if (Visual* const target = *window.Pressed; target != nullptr && target->Enabled) {
         target->MouseDown.Raise(target->Index(), Within(*target, mouse));
     }
 }
 
 void PointerMoved(Window& window, const Mouse& mouse)
 {
-    if (!App.TakesInput(window)) {
+    if (!App.TakesInput(window) || (!window.Pressed && !window.InClient(mouse.X, mouse.Y))) {
         return;
     }
     const EventScope scope;
-    const bool held = window.Pressed != nullptr || window.SurfacePressed;
-    Visual* const target = held ? window.Pressed : ControlAt(window, mouse.X, mouse.Y);
+    Visual* const target = window.Pressed.value_or(ControlAt(window, mouse.X, mouse.Y));
     if (target == nullptr) {
         window.Form_MouseMove(mouse);
     } else if (target->Enabled) {
@@ -63,16 +64,28 @@ void PointerMoved(Window& window, const Mouse& mouse)
 
 void PointerReleased(Window& window, const Mouse& mouse)
 {
-    Visual* const target = window.Pressed;
-    window.ReleaseCapture();
-    if (!App.TakesInput(window) || target == nullptr || !target->Enabled) {
+    if (!window.Pressed) {
+        return;
+    }
+    Visual* const target = *window.Pressed;
+    window.Pressed.reset();
+    if (!App.TakesInput(window)) {
         return;
     }
     const EventScope scope;
-    target->MouseUp.Raise(target->Index(), Within(*target, mouse));
-    if (mouse.Button == kLeftButton && App.TakesInput(window) && target->Reachable() &&
-        target->Covers(mouse.X, mouse.Y)) {
-        target->RaiseClick();
+    const bool left = ControlAt(window, mouse.X, mouse.Y) != target;
+    if (target != nullptr && target->Enabled) {
+        target->MouseUp.Raise(target->Index(), Within(*target, mouse));
+        if (mouse.Button == kLeftButton && App.TakesInput(window) && target->Reachable() &&
+            target->Covers(mouse.X, mouse.Y)) {
+            target->RaiseClick();
+        }
+    }
+    // The pointer has slid onto something else that knows nothing of it yet: without this movement
+    // the next press would act on a place that the player no longer points at. A pointer that has
+    // stayed has been heard of, and a click without a movement stays one.
+    if (left) {
+        PointerMoved(window, Mouse{0, mouse.Shift, mouse.X, mouse.Y});
     }
 }
 

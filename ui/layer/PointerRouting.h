@@ -10,7 +10,9 @@ Visual* ControlAt(const Window& window, Twips x, Twips y);
 
 // X and Y of the mouse are those in the client area. A press keeps the pointer: all moves, the
 // release and, for the left button and while the pointer is still inside, the click go to the
-// pressed control; after a press beside all controls the moves go to the window itself. Windows that take no input at present get nothing.
+// pressed control, or to the window where its own surface was pressed. Where the pointer has left
+// the pressed control, what lies under it hears of a movement after the release. Windows that take
+// no input at present get nothing, and nothing outside the client area can be pressed.
 void PointerPressed(Window& window, const Mouse& mouse);
 void PointerMoved(Window& window, const Mouse& mouse);
 void PointerReleased(Window& window, const Mouse& mouse);

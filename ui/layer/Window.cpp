@@ -102,12 +102,6 @@ void Window::SetFocus(Visual* control)
     }
 }
 
-void Window::ReleaseCapture()
-{
-    Pressed = nullptr;
-    SurfacePressed = false;
-}
-
 void Window::Move(Twips left, Twips top)
 {
     Left = left;
@@ -148,7 +142,8 @@ void Window::Hide()
         return;
     }
     shown_ = false;
-    ReleaseCapture();
+    Pressed.reset();
+    focus_ = nullptr;  // whoever shows it again begins with the designed focus
     App.Screen().WindowHidden(*this);
 }
 

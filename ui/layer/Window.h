@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -64,6 +65,13 @@ public:
     bool MaxButton = false;
     bool KeyPreview = true;
 
+    // Whether a place lies within the designed client area; what the design keeps beside it is
+    // neither seen nor pointed at.
+    bool InClient(Twips x, Twips y) const
+    {
+        return x >= 0 && y >= 0 && x < ClientWidth && y < ClientHeight;
+    }
+
     void Move(Twips left, Twips top);
     void Move(Twips left, Twips top, Twips width, Twips height);
 
@@ -92,11 +100,9 @@ public:
     Visual* Focus() const { return focus_; }
     void SetFocus(Visual* control);
 
-    // What holds the pointer between press and release: a control, or the window's own surface.
-    // Routing keeps both.
-    Visual* Pressed = nullptr;
-    bool SurfacePressed = false;
-    void ReleaseCapture();
+    // What holds the pointer between press and release: a control, or with null the window's own
+    // surface. Routing keeps it; without a value nothing is pressed.
+    std::optional<Visual*> Pressed;
 
     virtual void Form_Load() {}
     virtual void Form_Activate() {}

@@ -217,8 +217,7 @@ Visual* FormWidget::ControlUnder(QPointF position) const
     const QPointF place = position - Origin();
     const Twips x = ToTwips(place.x());
     const Twips y = ToTwips(place.y());
-    const bool designed = x >= 0 && y >= 0 && x < window_->ClientWidth && y < window_->ClientHeight;
-    return designed ? ControlAt(*window_, x, y) : nullptr;
+    return ControlAt(*window_, x, y);
 }
 
 Mouse FormWidget::ToMouse(const QMouseEvent& event, std::int16_t button) const
@@ -227,25 +226,12 @@ Mouse FormWidget::ToMouse(const QMouseEvent& event, std::int16_t button) const
     return {button, ToShift(event.modifiers()), ToTwips(place.x()), ToTwips(place.y())};
 }
 
-// Beside the designed client area, in a window that the player has enlarged, there is nothing to
-// point at; what the design keeps there is out of reach.
-bool FormWidget::Ignores(const QMouseEvent& event) const
-{
-    if (window_ == nullptr) {
-        return true;
-    }
-    const QPointF place = event.position() - Origin();
-    const bool held = window_->Pressed != nullptr || window_->SurfacePressed;
-    return !held && (ToTwips(place.x()) >= window_->ClientWidth ||
-                     ToTwips(place.y()) >= window_->ClientHeight);
-}
-
 void FormWidget::mousePressEvent(QMouseEvent* event)
 {
     QToolTip::hideText();
     pressedAt_ = event->globalPosition().toPoint();
     frameAtPress_ = windowHandle()->framePosition();
-    if (!Ignores(*event)) {
+    if (window_ != nullptr) {
         PointerPressed(*window_, ToMouse(*event, ToButtons(event->button())));
     }
 }
@@ -261,7 +247,7 @@ void FormWidget::mouseMoveEvent(QMouseEvent* event)
     dragging_ = dragging_ && event->buttons().testFlag(Qt::LeftButton);
     if (dragging_) {
         move(frameAtPress_ + event->globalPosition().toPoint() - pressedAt_);
-    } else if (!Ignores(*event)) {
+    } else if (window_ != nullptr) {
         PointerMoved(*window_, ToMouse(*event, ToButtons(event->buttons())));
     }
     UpdateCursor(event->position());
@@ -271,7 +257,7 @@ void FormWidget::mouseReleaseEvent(QMouseEvent* event)
 {
     if (dragging_) {
         dragging_ = event->buttons().testFlag(Qt::LeftButton);
-    } else if (!Ignores(*event)) {
+    } else if (window_ != nullptr) {
         PointerReleased(*window_, ToMouse(*event, ToButtons(event->button())));
     }
 }

@@ -72,7 +72,6 @@ private:
     void TakeSize();
     bool RouteKey(const QKeyEvent& event);
     Mouse ToMouse(const QMouseEvent& event, std::int16_t button) const;
-    bool Ignores(const QMouseEvent& event) const;
     void UpdateCursor(QPointF position);
     bool ShowTip(const QHelpEvent& event);
     void FollowBox(TextBox& box);

@@ -20,20 +20,31 @@ QString Typable(const QString& text)
     return ToQString(KeepTypable(text.toStdString()));
 }
 
-// Takes characters out of what is typed, pasted, dropped or composed, without a word.
+// Takes characters out of what is typed, pasted, dropped or composed, without a word. Where nothing
+// is left of it the text stays as it was, or a foreign letter would empty a selected name.
 class Sieve final : public QValidator
 {
 public:
-    using QValidator::QValidator;
+    Sieve(const TextBox& model, QObject* parent) : QValidator(parent), model_(model) {}
 
     State validate(QString& text, int& caret) const override
     {
         const QString before = Typable(text.left(caret));
         const QString behind = Typable(text.mid(caret));
+        const bool foreign = before.size() + behind.size() < text.size();
+        // The model still has what stood there, and what of it was to be replaced.
+        const auto kept = static_cast<qsizetype>(CharacterCount(model_.Text.Get())) -
+                          static_cast<qsizetype>(model_.SelLength.Get());
+        if (foreign && before.size() + behind.size() <= kept) {
+            return Invalid;
+        }
         text = before + behind;
         caret = static_cast<int>(before.size());
         return Acceptable;
     }
+
+private:
+    const TextBox& model_;
 };
 
 // The box keeps the design's colours on every desktop.
@@ -67,7 +78,8 @@ bool IsInput(const QEvent& event)
 NameBox::NameBox(TextBox& model, KeyRoute route, QWidget* parent)
     : QLineEdit(parent), model_(&model), route_(std::move(route))
 {
-    setValidator(new Sieve(this));
+    setValidator(new Sieve(model, this));
+    setMaxLength(static_cast<int>(model.MaxLength));
     setContextMenuPolicy(Qt::PreventContextMenu);
     setFocusPolicy(Qt::ClickFocus);  // Tab is the layer's
     setAccessibleName(QStringLiteral("Name, Platz %1").arg(model.Index() + 1));
