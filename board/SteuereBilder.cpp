@@ -192,7 +192,7 @@ void FeldLeeren()
         frmTessel->imgFeld(i).Picture = frmBilder->imgBild(0).Picture;
         frmTessel->imgFeld(i).Tag = "0";
     }
-    frmTessel->cmdSchalt(1).Visible = true;
+    frmTessel->cmdSchalt(kSchaltWiederholen).Visible = true;
 }
 
 void RechtsPruefen(int zelle, std::int16_t farbe)

@@ -57,8 +57,7 @@ void FeldFuellen()
         BildZeigen(i);
     }
     Stand.LevelPunkte = 0;
-    frmTessel->cmdSchalt(1).Visible = false;
-    frmTessel->mnuTessel(2).Enabled = false;
+    WiederholenAnbieten(false);
     StandSpeichern();
     MarkierungenLoeschen();
 }

@@ -16,19 +16,6 @@
 namespace malvone {
 namespace {
 
-// The buttons of cmdSchalt and what they do. Index 2, the manual, does nothing.
-constexpr std::int16_t kSchaltWeiter = 0;
-constexpr std::int16_t kSchaltWiederholen = 1;
-constexpr std::int16_t kSchaltEnde = 3;
-
-constexpr std::int16_t kMenuNeu = 1;
-constexpr std::int16_t kMenuWiederholen = 2;
-constexpr std::int16_t kMenuEnde = 4;
-
-constexpr std::int16_t kMenuHilfe = 1;
-constexpr std::int16_t kMenuInfo = 2;
-constexpr std::int16_t kMenuBeste = 4;
-
 constexpr Twips kBesteVersatz = -500;
 
 void BesteAnsehen()
@@ -105,7 +92,7 @@ void FrmTessel::ExternesEnde()
                      "\r\n»Neues Spiel« bestätigen")) {
         // By design (halbes-angebot): one would expect the whole offer to go. Only the next level
         // does. Test: Levelende.OnlyLevelFiveEndsTheGame
-        imgNext.Picture = frmBilder->imgPfeil(2).Picture;
+        imgNext.Picture = frmBilder->imgPfeil(kPfeilLeer).Picture;
         imgNaechsterLevel.Visible = false;
         Beste.EndPunkte = 0;
         SpielZuruecksetzen();

@@ -70,8 +70,7 @@ void FrmTessel::LevelAuswerten()
     lblMeldung.Caption = volles ? "Klicken Sie auf \r\n»Nächster Level« oder »Wiederholen«."
                                 : "Klicken Sie auf \r\n»Nächster Level«";
     FeldLeeren();
-    cmdSchalt(1).Visible = true;
-    mnuTessel(2).Enabled = true;
+    WiederholenAnbieten(true);
 }
 
 }  // namespace malvone

@@ -102,12 +102,11 @@ void Main()
 void FrmTessel::Form_Load()
 {
     Move((Screen.Width - Width) / 2, (Screen.Height - Height) / 2);
-    cmdSchalt(1).Visible = false;
-    mnuTessel(2).Enabled = false;
+    WiederholenAnbieten(false);
     lblSumme.ForeColor = 0x00C00000;
     Timer1.Enabled = true;
     Timer1.Interval = kBlinkenMs;
-    imgNext.Picture = frmBilder->imgPfeil(2).Picture;
+    imgNext.Picture = frmBilder->imgPfeil(kPfeilLeer).Picture;
     Caption = TitelMitVersion();
     SoundDirekt(kTonErfolg);
     imgNochEinmal.Visible = false;

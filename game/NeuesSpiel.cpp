@@ -10,20 +10,14 @@
 #include "ui/windows/FrmTessel.h"
 
 namespace malvone {
-namespace {
-
-constexpr int kOhnePfeil = 2;  // the entry of imgPfeil without a picture
-
-}  // namespace
-
 void SpielZuruecksetzen()
 {
     Stand.ZugPunkte = 0;
     Stand.PunkteGesamt = 0;
     Stand.RundenZahl = 0;
     Stand.MarkiertZahl = 0;
-    frmTessel->cmdSchalt(0).Caption = "Spiel begi&nnen";
-    frmTessel->cmdSchalt(0).ToolTipText = "Klicken Sie hier, um das Spiel zu beginnen";
+    frmTessel->cmdSchalt(kSchaltWeiter).Caption = "Spiel begi&nnen";
+    frmTessel->cmdSchalt(kSchaltWeiter).ToolTipText = "Klicken Sie hier, um das Spiel zu beginnen";
 }
 
 // Nothing turns the timer on again.
@@ -31,8 +25,8 @@ void FrmTessel::PfeileAus()
 {
     Timer1.Enabled = false;
     Timer1.Interval = 0;
-    imgStart.Picture = frmBilder->imgPfeil(kOhnePfeil).Picture;
-    imgNext.Picture = frmBilder->imgPfeil(kOhnePfeil).Picture;
+    imgStart.Picture = frmBilder->imgPfeil(kPfeilLeer).Picture;
+    imgNext.Picture = frmBilder->imgPfeil(kPfeilLeer).Picture;
 }
 
 void FrmTessel::AngebotAus()

@@ -30,20 +30,11 @@ constexpr Meldungstext kNichtLesbar = {
     "\r\nBeim Einlesen der Werte für die Wiederholung des Levels ist ein Fehler aufgetreten.",
     "\r\n»Level wiederholen« ist nicht möglich."};
 
-constexpr int kEintragWiederholen = 2;
-constexpr int kSchalterWiederholen = 1;
-
 using Zellwerte = std::array<std::int16_t, kZellen + 1>;  // index 1 to 140
 
 std::string StandDatei()
 {
     return DatenPfad() + "tessel.ini";
-}
-
-void WiederholenSperren()
-{
-    frmTessel->mnuTessel(kEintragWiederholen).Enabled = false;
-    frmTessel->cmdSchalt(kSchalterWiederholen).Visible = false;
 }
 
 void NurNaechsterLevel()
@@ -94,7 +85,7 @@ bool WerteAufsBrett(const Zellwerte& werte)
 
 void LesefehlerMelden()
 {
-    WiederholenSperren();
+    WiederholenAnbieten(false);
     SoundSpielen(kTonFehler);
     MeldungZeigen(kNichtLesbar);
     NurNaechsterLevel();
@@ -123,7 +114,7 @@ void StandLaden()
     const std::string pfad = StandDatei();
     if (!ExistiertDatei(pfad)) {
         MeldungZeigen(kNichtGespeichert);
-        WiederholenSperren();
+        WiederholenAnbieten(false);
         NurNaechsterLevel();
         return;
     }
@@ -133,7 +124,7 @@ void StandLaden()
         return;
     }
     ++Stand.RundenZahl;
-    WiederholenSperren();
+    WiederholenAnbieten(false);
 }
 
 }  // namespace malvone

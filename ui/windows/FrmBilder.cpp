@@ -10,10 +10,9 @@ Instance<FrmBilder> frmBilder{"frmBilder"};
 FrmBilder::FrmBilder() : Window("frmBilder", 6000, 4500)
 {
     Caption = "Form1";
-    constexpr int kPfeilOhneBild = 2;
     for (Control* const control : Controls()) {
         auto* const image = dynamic_cast<Image*>(control);
-        if (image != nullptr && image != &imgPfeil(kPfeilOhneBild)) {
+        if (image != nullptr && image != &imgPfeil(kPfeilLeer)) {
             image->Picture = PictureNamed("frmBilder." + control->FullName());
         }
     }

@@ -5,6 +5,9 @@
 
 namespace malvone {
 
+inline constexpr int kPfeilLeer =
+    2;  // the entry of imgPfeil that has no picture and wipes an arrow
+
 class FrmBilder final : public Window
 {
 public:
@@ -16,7 +19,7 @@ public:
     ControlArray<Image> imgNeutral{Named("imgNeutral"), IndexRange{0, 4}};    // a lone stone
     Image imgGrund{Named("imgGrund")};                                        // the empty cell
 
-    // The two looks of the arrow; 2 has no picture and wipes an arrow.
+    // The two looks of the arrow, and kPfeilLeer.
     ControlArray<Image> imgPfeil{Named("imgPfeil"), IndexRange{0, 2}};
 
     Image cmdHilfeAuswahl{Named("cmdHilfeAuswahl")};

@@ -8,6 +8,12 @@ namespace malvone {
 
 Instance<FrmTessel> frmTessel{"frmTessel"};
 
+void WiederholenAnbieten(bool angeboten)
+{
+    frmTessel->mnuTessel(kMenuWiederholen).Enabled = angeboten;
+    frmTessel->cmdSchalt(kSchaltWiederholen).Visible = angeboten;
+}
+
 FrmTessel::FrmTessel() : Window("frmTessel", 11325, 6945)
 {
     Caption = "Form1";
@@ -102,11 +108,11 @@ void FrmTessel::SetLooks()
     design::Apply(tips);
     design::Apply(pictures);
 
-    cmdSchalt(3).Caption = "b&eenden";
+    cmdSchalt(kSchaltEnde).Caption = "b&eenden";
     cmdSchalt(2).Caption = "Spiel&anleitung";
-    cmdSchalt(1).Caption = "Spiel &wiederholen";
-    cmdSchalt(0).Caption = "Spiel &beginnen";
-    cmdSchalt(0).Default = true;
+    cmdSchalt(kSchaltWiederholen).Caption = "Spiel &wiederholen";
+    cmdSchalt(kSchaltWeiter).Caption = "Spiel &beginnen";
+    cmdSchalt(kSchaltWeiter).Default = true;
     for (int i = 0; i < cmdSchalt.End(); ++i) {
         cmdSchalt(i).TabIndex = static_cast<std::int16_t>(i);
     }
@@ -116,19 +122,19 @@ void FrmTessel::SetMenu()
 {
     const design::Entry entries[] = {
         {mnuTesselMenu, "&Spiel             ", {}},
-        {mnuTessel(1), "&Neues Spiel    ", {'N', kCtrlKey}},
-        {mnuTessel(2), "Spiel &wiederholen", {'W', kCtrlKey}},
+        {mnuTessel(kMenuNeu), "&Neues Spiel    ", {'N', kCtrlKey}},
+        {mnuTessel(kMenuWiederholen), "Spiel &wiederholen", {'W', kCtrlKey}},
         {mnuTessel(3), "-", {}},
-        {mnuTessel(4), "b&eenden", {'E', kCtrlKey}},
+        {mnuTessel(kMenuEnde), "b&eenden", {'E', kCtrlKey}},
         {mnuOptionen, "&Optionen            ", {}},
         {mnuSound, "Sound", {}},
         {mnuSoundan, "an", {}},
         {mnuSoundaus, "aus", {}},
         {mnuMenuInfo, "&Information               ", {}},
-        {mnuInfo(1), "Spielanleitung      ", {kKeyF1, 0}},
-        {mnuInfo(2), "allgemeines...", {}},
+        {mnuInfo(kMenuHilfe), "Spielanleitung      ", {kKeyF1, 0}},
+        {mnuInfo(kMenuInfo), "allgemeines...", {}},
         {mnuInfo(3), "-", {}},
-        {mnuInfo(4), "Beste Spieler...", {}},
+        {mnuInfo(kMenuBeste), "Beste Spieler...", {}},
     };
     design::Apply(entries);
     mnuSoundan.Checked = true;

@@ -97,4 +97,20 @@ private:
 
 extern Instance<FrmTessel> frmTessel;
 
+// The buttons of cmdSchalt and what they do. Index 2, the manual, does nothing.
+inline constexpr std::int16_t kSchaltWeiter = 0;
+inline constexpr std::int16_t kSchaltWiederholen = 1;
+inline constexpr std::int16_t kSchaltEnde = 3;
+
+// The entries of mnuTessel and of mnuInfo.
+inline constexpr std::int16_t kMenuNeu = 1;
+inline constexpr std::int16_t kMenuWiederholen = 2;
+inline constexpr std::int16_t kMenuEnde = 4;
+inline constexpr std::int16_t kMenuHilfe = 1;
+inline constexpr std::int16_t kMenuInfo = 2;
+inline constexpr std::int16_t kMenuBeste = 4;
+
+// Whether menu and keyboard offer to repeat the level.
+void WiederholenAnbieten(bool angeboten);
+
 }  // namespace malvone
