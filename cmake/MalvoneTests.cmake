@@ -22,12 +22,6 @@ if(TARGET malvone_drehbuch)
     target_link_libraries(drehbuch PRIVATE malvone_drehbuch)
 endif()
 
-# What several test programs share. Nothing in it knows a binding.
-malvone_library(malvone_testhilfe tests/support)
-if(TARGET malvone_testhilfe)
-    target_link_libraries(malvone_testhilfe PUBLIC malvone_core GTest::gtest)
-endif()
-
 # malvone_tests(NAME LIBRARY... SOURCES PATTERN... [ENVIRONMENT VAR=VALUE...])
 # A test program of all sources that match; without any source there is no such program.
 function(malvone_tests NAME)
@@ -39,9 +33,6 @@ function(malvone_tests NAME)
     endif()
     add_executable(${NAME} ${sources})
     malvone_target(${NAME})
-    if(TARGET malvone_testhilfe)
-        target_link_libraries(${NAME} PRIVATE malvone_testhilfe)
-    endif()
     target_compile_definitions(${NAME} PRIVATE
         MALVONE_SOURCE_DIR="${PROJECT_SOURCE_DIR}" MALVONE_BINARY_DIR="${PROJECT_BINARY_DIR}")
     target_link_libraries(${NAME} PRIVATE ${ARG_UNPARSED_ARGUMENTS} GTest::gtest GTest::gtest_main)
@@ -52,7 +43,7 @@ function(malvone_tests NAME)
 endfunction()
 
 if(TARGET malvone_core)
-    malvone_tests(core_tests malvone_core SOURCES
+    malvone_tests(core_tests malvone_drehbuch SOURCES
         tests/layer/*Test.cpp tests/windows/*Test.cpp tests/board/*Test.cpp
         tests/storage/*Test.cpp tests/game/*Test.cpp tests/ui/*Test.cpp
         tests/random/*Test.cpp)

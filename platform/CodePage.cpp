@@ -121,6 +121,18 @@ std::string ToWindows1252(std::string_view utf8)
     return bytes;
 }
 
+bool IsUtf8(std::string_view text)
+{
+    while (!text.empty()) {
+        const Decoded next = Decode(text);
+        if (next.Character == kNoCharacter) {
+            return false;
+        }
+        text.remove_prefix(next.Length);
+    }
+    return true;
+}
+
 std::string KeepTypable(std::string_view utf8)
 {
     std::string kept;

@@ -15,6 +15,8 @@ std::string FromWindows1252(std::string_view bytes);
 // A character that the code page lacks, or a byte that is no UTF-8, becomes "?".
 std::string ToWindows1252(std::string_view utf8);
 
+bool IsUtf8(std::string_view text);
+
 // Only the characters that a player may type and a file can hold: no control characters.
 std::string KeepTypable(std::string_view utf8);
 

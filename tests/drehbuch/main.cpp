@@ -1,17 +1,59 @@
 // main.cpp: the script program: standard input in, standard output out.
+#include <getopt.h>
+
+#include <cstdio>
 #include <iostream>
 
-#include "tests/drehbuch/Drehbuch.h"
+#include "tests/drehbuch/Script.h"
+#include "tests/drehbuch/Text.h"
+
+namespace {
+
+using malvone::script::Options;
+
+// What the command line says; false, and a message, where it is not in order.
+bool ReadOptions(int argc, char** argv, Options& options)
+{
+    constexpr option kOptions[] = {{"daten", required_argument, nullptr, 'd'},
+                                   {"programm", required_argument, nullptr, 'p'},
+                                   {"ohne-windowsordner", no_argument, nullptr, 'o'},
+                                   {"klanggeraete", required_argument, nullptr, 'k'},
+                                   {nullptr, 0, nullptr, 0}};
+    opterr = 0;  // one message for all faults, below
+    bool good = true;
+    for (int name = 0; (name = getopt_long(argc, argv, "", kOptions, nullptr)) != -1;) {
+        const auto count =
+            name == 'k' ? malvone::script::NumberFrom<std::int32_t>(optarg) : std::nullopt;
+        switch (name) {
+        case 'd': options.Data = optarg; break;
+        case 'p': options.Program = optarg; break;
+        case 'o': options.WithoutWindowsFolder = true; break;
+        case 'k':
+            good = good && count && *count >= 0;
+            options.SoundDevices = count.value_or(0);
+            break;
+        default: good = false;
+        }
+    }
+    good = good && optind == argc && !options.Data.empty() && !options.Program.empty();
+    if (!good) {
+        std::cerr << "usage: drehbuch --daten DIR --programm DIR [--ohne-windowsordner] "
+                     "[--klanggeraete N]\n";
+    }
+    return good;
+}
+
+}  // namespace
 
 int main(int argc, char** argv)
 {
-    const std::vector<std::string> arguments(argv + 1, argv + argc);
-    const auto options = malvone::OptionenAus(arguments, std::cerr);
-    if (!options) {
+    Options options;
+    if (!ReadOptions(argc, argv, options)) {
         return 2;
     }
     std::ios::sync_with_stdio(false);
     std::cin.tie(nullptr);
-    malvone::Drehbuch(std::cin, std::cout, *options).Spielen();
+    malvone::script::ScriptPlatform platform(options, std::cout);
+    malvone::script::Script(std::cin, std::cout).Play(platform);
     return 0;
 }

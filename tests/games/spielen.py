@@ -257,6 +257,7 @@ class Vorstellung:
         self.erwartet = (name, None)
 
     def regie_neustart(self, *optionen):
+        self.beginne()
         self.schluss()
         self.mitschrift.append("-- neustart")
         self.optionen = list(optionen)

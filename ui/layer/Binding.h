@@ -18,38 +18,32 @@ public:
     virtual Twips ScreenWidth() = 0;
     virtual Twips ScreenHeight() = 0;
 
+    // What a binding does not override is nothing to it.
+
     // A window has been made in its designed state; its Form_Load comes next. Here a binding may
     // put the size of frame and menu bar, as far as it knows them, into Width and Height.
-    virtual void WindowLoaded(Window& window) { (void)window; }
+    virtual void WindowLoaded(Window& /*window*/) {}
     // A window is shown, told before its Form_Activate; told again for each Show of a window that
     // is shown already, which brings it to the front.
-    virtual void WindowShown(Window& window, ShowMode mode) = 0;
+    virtual void WindowShown(Window& /*window*/, ShowMode /*mode*/) {}
     // A shown window is hidden without being unloaded.
-    virtual void WindowHidden(Window& window) = 0;
+    virtual void WindowHidden(Window& /*window*/) {}
     // A window goes away. It is still whole; it will be destroyed when no handler runs any more.
-    virtual void WindowUnloaded(Window& window) = 0;
+    virtual void WindowUnloaded(Window& /*window*/) {}
 
     // Something of a loaded window or of one of its controls has become another value.
-    virtual void WindowChanged(Window& window, Change what)
-    {
-        (void)window;
-        (void)what;
-    }
-    virtual void ControlChanged(Control& control, Change what)
-    {
-        (void)control;
-        (void)what;
-    }
+    virtual void WindowChanged(Window& /*window*/, Change /*what*/) {}
+    virtual void ControlChanged(Control& /*control*/, Change /*what*/) {}
     // A control array of a loaded window has got a new element.
-    virtual void ControlAdded(Control& control) { (void)control; }
-    virtual void FocusChanged(Window& window) { (void)window; }
+    virtual void ControlAdded(Control& /*control*/) {}
+    virtual void FocusChanged(Window& /*window*/) {}
 
     // Handles events until ModalOver(window) or the program is over.
     virtual void RunModal(Window& window) = 0;
     // The player drags a borderless window: it follows the pointer until the button is released.
-    virtual void DragWindow(Window& window) = 0;
+    virtual void DragWindow(Window& /*window*/) {}
     // The program is over: every loop returns as soon as it can.
-    virtual void Ended() = 0;
+    virtual void Ended() {}
 };
 
 // Whether the modal loop of a window has come to its end: it is hidden or unloaded, or the program

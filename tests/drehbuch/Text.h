@@ -1,4 +1,4 @@
-// Texte.h: how the script program writes texts and numbers on its lines, and how it reads them.
+// Text.h: how the script program writes texts and numbers on its lines, and how it reads them.
 #pragma once
 
 #include <charconv>
@@ -8,22 +8,20 @@
 
 #include "ui/layer/Units.h"
 
-namespace malvone {
+namespace malvone::script {
 
 // Backslash, CR and LF become "\\", "\r" and "\n"; every text of the game goes out this way.
-std::string Maskiert(std::string_view text);
+std::string Masked(std::string_view text);
 // The way back. A backslash before any other character stands for itself.
-std::string Entmaskiert(std::string_view text);
-
-bool IstUtf8(std::string_view text);
+std::string Unmasked(std::string_view text);
 
 // Shortest form that reads back as the same number, never with an exponent.
 std::string TwipsText(Twips value);
-std::optional<Twips> TwipsAus(std::string_view text);  // finite numbers only
+std::optional<Twips> TwipsFrom(std::string_view text);  // finite numbers only
 
 // A whole number in plain decimal digits that fits its type and is all of the text.
 template<class Number>
-std::optional<Number> ZahlAus(std::string_view text)
+std::optional<Number> NumberFrom(std::string_view text)
 {
     Number number{};
     const auto [stop, fault] = std::from_chars(text.data(), text.data() + text.size(), number);
@@ -32,9 +30,9 @@ std::optional<Number> ZahlAus(std::string_view text)
 }
 
 // Cuts the text at its first separator: what stands before it is returned, the rest stays.
-std::string_view Abschneiden(std::string_view& text, char separator);
+std::string_view CutOff(std::string_view& text, char separator);
 
 // What lies behind the last backslash of a path; "-" for the empty path.
-std::string DateinameAus(std::string_view path);
+std::string FileNameOf(std::string_view path);
 
-}  // namespace malvone
+}  // namespace malvone::script

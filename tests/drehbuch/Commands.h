@@ -1,0 +1,36 @@
+// Commands.h: what a script can say, by kind: events, properties, and questions about the whole
+// game. Each command is answered by one line, or by the empty text where there is nothing to
+// answer:
+//   "= VALUE"    what was asked for, ready for the line
+//   "refused"    the event cannot reach its target at present
+//   "? REASON"   the line is not in order, and nothing has happened
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace malvone::script {
+
+using Answer = std::string;
+
+// Obeys one line.
+Answer Obey(std::string_view line);
+
+// Events.cpp
+Answer DeliverEvent(std::string_view line);  // "OBJECT EVENT [BUTTON]"
+Answer PressKey(std::string_view name);      // "Enter" or "Ctrl+Shift+N"
+Answer TypeText(std::string_view text);      // into the text box that has the focus
+
+// Properties.cpp
+Answer AskProperty(std::string_view path);  // "unloaded" where the window is not loaded
+Answer SetProperty(std::string_view line);  // "PATH VALUE", without any event
+
+// Questions.cpp. All but the first take no argument.
+Answer AskOrSetBoard(std::string_view digits);  // sets the 140 values and nothing else
+Answer AskMarks(std::string_view);
+Answer AskPreviews(std::string_view);
+Answer AskPictures(std::string_view);  // 140 letters, one for each picture that a cell can show
+Answer AskState(std::string_view);
+Answer AskWindows(std::string_view);  // names of all shown windows, sorted
+
+}  // namespace malvone::script

@@ -1,0 +1,107 @@
+// Script.cpp: the loops that wait for commands, and the lines that tell of windows.
+#include "tests/drehbuch/Script.h"
+
+#include <utility>
+
+#include "game/Main.h"
+#include "tests/drehbuch/Commands.h"
+#include "tests/drehbuch/Text.h"
+#include "ui/layer/App.h"
+
+namespace malvone::script {
+
+ScriptPlatform::ScriptPlatform(Options options, std::ostream& out)
+    : FilePlatform(options.Data, options.Program), options_(std::move(options)), out_(out)
+{}
+
+std::string ScriptPlatform::GetWindowsDirectoryA()
+{
+    return options_.WithoutWindowsFolder ? "" : FilePlatform::GetWindowsDirectoryA();
+}
+
+void ScriptPlatform::Tell(std::string_view what, const std::string& path)
+{
+    if (!Over) {
+        out_ << what << FileNameOf(path) << '\n';
+    }
+}
+
+void Script::Play(Platform& platform)
+{
+    Begin(platform);
+    while (!App.Ended()) {
+        Step("-");
+    }
+    App.Finish();
+}
+
+void Script::Begin(Platform& platform)
+{
+    App.Begin(*this, platform);
+    ZustandNeu();
+    const EventScope scope;
+    Main();
+}
+
+bool Script::ReadCommand(std::string& line)
+{
+    while (std::getline(in_, line)) {
+        if (line.ends_with('\r')) {
+            line.pop_back();
+        }
+        if (!line.empty() && !line.starts_with('#')) {
+            return true;
+        }
+    }
+    return false;
+}
+
+void Script::Step(std::string_view waiting)
+{
+    out_ << "> " << waiting << std::endl;
+    std::string line;
+    if (!ReadCommand(line)) {
+        inputOver_ = true;
+        App.Ende();
+        return;
+    }
+    const EventScope scope;
+    Tell(Obey(line));
+}
+
+void Script::Tell(std::string_view what, std::string_view whom)
+{
+    if (!what.empty() && !App.Ended()) {
+        out_ << what << whom << '\n';
+    }
+}
+
+void Script::WindowShown(Window& window, ShowMode mode)
+{
+    const std::string name(window.Name());
+    Tell("! show " + name + (mode == ShowMode::Modal ? " modal " : " ") + TwipsText(window.Left) +
+         " " + TwipsText(window.Top));
+    // The message windows are the ones that have both labels of a message.
+    const auto* const text = dynamic_cast<Label*>(window.Find("lblMeldung"));
+    const auto* const title = dynamic_cast<Label*>(window.Find("lblTitel"));
+    if (text != nullptr && title != nullptr) {
+        Tell("! text " + name + " " + Masked(text->Caption.Get()) + " | " +
+             Masked(title->Caption.Get()));
+    }
+}
+
+void Script::RunModal(Window& window)
+{
+    while (!ModalOver(window)) {
+        Step(window.Name());
+    }
+}
+
+void Script::Ended()
+{
+    if (!inputOver_) {
+        out_ << "! end" << std::endl;
+    }
+}
+
+}  // namespace malvone::script

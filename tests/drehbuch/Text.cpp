@@ -1,0 +1,67 @@
+// Text.cpp: masking, numbers and the cutting of lines.
+#include "tests/drehbuch/Text.h"
+
+#include <array>
+#include <cmath>
+
+namespace malvone::script {
+namespace {
+
+// What stands for itself, and the letter behind a backslash that stands for it.
+constexpr std::string_view kPlain = "\\\r\n";
+constexpr std::string_view kLetters = "\\rn";
+
+}  // namespace
+
+std::string Masked(std::string_view text)
+{
+    std::string masked;
+    for (const char c : text) {
+        const std::size_t at = kPlain.find(c);
+        masked += at == std::string_view::npos ? std::string{c} : std::string{'\\', kLetters[at]};
+    }
+    return masked;
+}
+
+std::string Unmasked(std::string_view text)
+{
+    std::string plain;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const bool mask = text[i] == '\\' && i + 1 < text.size();
+        const std::size_t at = mask ? kLetters.find(text[i + 1]) : std::string_view::npos;
+        plain += at == std::string_view::npos ? text[i] : kPlain[at];
+        i += at == std::string_view::npos ? 0 : 1;
+    }
+    return plain;
+}
+
+std::string TwipsText(Twips value)
+{
+    std::array<char, 128> buffer{};  // the longest numbers have 39 digits, or 55 behind the point
+    const Twips plain = value == 0 ? 0 : value;  // no sign before a zero
+    const auto end =
+        std::to_chars(buffer.data(), buffer.data() + buffer.size(), plain, std::chars_format::fixed)
+            .ptr;
+    return {buffer.data(), end};
+}
+
+std::optional<Twips> TwipsFrom(std::string_view text)
+{
+    const auto number = NumberFrom<Twips>(text);
+    return number && std::isfinite(*number) ? number : std::nullopt;
+}
+
+std::string_view CutOff(std::string_view& text, char separator)
+{
+    const std::size_t cut = text.find(separator);
+    const std::string_view head = text.substr(0, cut);
+    text.remove_prefix(cut == std::string_view::npos ? text.size() : cut + 1);
+    return head;
+}
+
+std::string FileNameOf(std::string_view path)
+{
+    return path.empty() ? "-" : std::string(path.substr(path.rfind('\\') + 1));
+}
+
+}  // namespace malvone::script

@@ -1,0 +1,233 @@
+// Game.h: the one kit of the core's tests: the whole program behind the binding of the script
+// program, in folders of its own. A test says what happens in the lines of a script and compares
+// the lines that come back.
+#pragma once
+
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <optional>
+#include <sstream>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "state/Zellen.h"
+#include "tests/drehbuch/Script.h"
+#include "ui/layer/App.h"
+
+namespace malvone::test {
+
+// A folder of its own that goes with the test.
+class Folder
+{
+public:
+    explicit Folder(const std::filesystem::path& in = std::filesystem::temp_directory_path())
+    {
+        std::string pattern = (in / "malvone-XXXXXX").string();
+        Path = ::mkdtemp(pattern.data());
+    }
+    ~Folder()
+    {
+        std::error_code error;
+        std::filesystem::remove_all(Path, error);
+    }
+    Folder(const Folder&) = delete;
+    Folder& operator=(const Folder&) = delete;
+
+    std::filesystem::path Path;
+};
+
+// A file byte for byte; nothing where there is none.
+inline std::optional<std::string> Contents(const std::filesystem::path& path)
+{
+    std::ifstream file(path, std::ios::binary);
+    return file ? std::optional(std::string(std::istreambuf_iterator<char>(file), {}))
+                : std::nullopt;
+}
+inline void WriteFile(const std::filesystem::path& path, std::string_view content)
+{
+    std::filesystem::create_directories(path.parent_path());
+    std::ofstream(path, std::ios::binary) << content;
+}
+// The names in a folder, sorted.
+inline std::vector<std::string> Names(const std::filesystem::path& folder)
+{
+    std::vector<std::string> names;
+    for (const auto& entry : std::filesystem::directory_iterator(folder)) {
+        names.push_back(entry.path().filename().string());
+    }
+    std::sort(names.begin(), names.end());
+    return names;
+}
+
+// Real files; one of the system's calls below them can be made to fail.
+class FaultyPlatform : public script::ScriptPlatform
+{
+public:
+    using ScriptPlatform::ScriptPlatform;
+
+    enum class Call { None, Open, Write, Sync, Close, Rename };
+    Call Failing = Call::None;
+    int Error = 0;                              // errno of the call that fails
+    std::size_t MostBytes = std::string::npos;  // that one call writes
+    std::optional<std::uint64_t> Clock;         // stands still at this time
+
+    std::uint64_t ClockNs() override { return Clock ? *Clock : ScriptPlatform::ClockNs(); }
+
+protected:
+    int Open(const char* path, int flags, mode_t mode) override
+    {
+        return Fails(Call::Open) ? -1 : ScriptPlatform::Open(path, flags, mode);
+    }
+    ssize_t Write(int file, const char* bytes, std::size_t count) override
+    {
+        if (MostBytes < count && !std::exchange(interrupted_, !interrupted_)) {
+            errno = EINTR;  // every other call is interrupted
+            return -1;
+        }
+        return Fails(Call::Write) ? -1
+                                  : ScriptPlatform::Write(file, bytes, std::min(count, MostBytes));
+    }
+    int Sync(int file) override { return Fails(Call::Sync) ? -1 : ScriptPlatform::Sync(file); }
+    int Close(int file) override
+    {
+        const int result = ScriptPlatform::Close(file);
+        return Fails(Call::Close) ? -1 : result;
+    }
+    int Rename(const char* from, const char* to) override
+    {
+        return Fails(Call::Rename) ? -1 : ScriptPlatform::Rename(from, to);
+    }
+
+private:
+    bool interrupted_ = false;
+
+    bool Fails(Call call)
+    {
+        if (Failing == call) {
+            errno = Error;
+        }
+        return Failing == call;
+    }
+};
+
+// A stage for the program or for the layer alone: folders, a platform, and a binding that reads and
+// writes lines. Nothing has begun.
+template<class TheBinding = script::Script>
+class Stage
+{
+public:
+    const Folder Home;
+    const std::filesystem::path Disk = Home.Path / "daten";  // the root of the drive
+    const std::filesystem::path Program = Home.Path / "programm";
+    const std::filesystem::path DataFolder = Disk / "lindenspiele";
+    const std::filesystem::path BestList = DataFolder / "malvone.txt";
+    const std::filesystem::path Snapshot = DataFolder / "tessel.ini";
+
+private:
+    std::istringstream in_;
+    std::ostringstream out_;
+
+public:
+    FaultyPlatform Platform;
+    TheBinding Binding{in_, out_};
+
+    explicit Stage(script::Options options = {}) : Platform(Complete(std::move(options)), out_)
+    {
+        std::filesystem::create_directory(Disk);
+        for (const char* const name :
+             {"TADA.WAV", "WHOOSH.WAV", "CHIMES.WAV", "FRAGE.WAV", "FEHLER.WAV", "BLIP.WAV",
+              "ding.wav", "Malvone.pdf", "Meldefenster.pdf", "Bestespieler.pdf"}) {
+            WriteFile(Program / name, "");
+        }
+    }
+    ~Stage() { App.Finish(); }
+    Stage(const Stage&) = delete;
+    Stage& operator=(const Stage&) = delete;
+
+    // Runs Main. The lines are for the messages that stop it.
+    std::string Start(const std::string& lines = "")
+    {
+        in_.clear();
+        in_.str(lines);
+        Binding.Begin(Platform);
+        return Told();
+    }
+    // Plays the lines; what came back, without those lines that only say who waits. Lines that end
+    // while a modal window waits end the program.
+    std::string operator()(const std::string& lines)
+    {
+        in_.clear();
+        in_.str(lines);
+        while (!App.Ended() && in_.peek() != std::istringstream::traits_type::eof()) {
+            Binding.Step("-");
+        }
+        return Told();
+    }
+    // What has been told since the last time.
+    std::string Told()
+    {
+        std::istringstream all(std::exchange(out_, std::ostringstream()).str());
+        std::string told;
+        for (std::string line; std::getline(all, line);) {
+            told += line.starts_with("> ") ? "" : line + "\n";
+        }
+        return told;
+    }
+
+private:
+    script::Options Complete(script::Options options) const
+    {
+        options.Data = Disk;
+        options.Program = Program;
+        return options;
+    }
+};
+
+// The program after its start.
+struct Game : Stage<>
+{
+    explicit Game(const std::string& bestList = "")
+    {
+        if (!bestList.empty()) {
+            WriteFile(BestList, bestList);
+        }
+        Start();
+    }
+};
+
+// 140 digits from the rows of a board, '.' for an empty cell. What is not given is empty: rows at
+// the top, columns at the right.
+inline std::string Board(const std::vector<std::string_view>& rows)
+{
+    std::string cells(kZellen, '0');
+    std::size_t row = kReihen - rows.size();
+    for (const std::string_view text : rows) {
+        for (std::size_t column = 0; column < text.size(); ++column) {
+            cells[column * kReihen + row] = text[column] == '.' ? '0' : text[column];
+        }
+        ++row;
+    }
+    return cells;
+}
+
+inline std::string Field(int cell)
+{
+    return "frmTessel.imgFeld(" + std::to_string(cell) + ")";
+}
+inline std::string PointAt(int cell)
+{
+    return "do " + Field(cell) + " MouseMove\n";
+}
+inline std::string Press(int cell)
+{
+    return "do " + Field(cell) + " MouseDown\n";
+}
+
+}  // namespace malvone::test
