@@ -1,7 +1,7 @@
 // Sound without a server: which files are waves, and that a game without sound is held up nowhere.
-#include "ui/sound/Klang.h"
-#include "ui/sound/Briefkasten.h"
-#include "ui/sound/Welle.h"
+#include "ui/sound/Mailbox.h"
+#include "ui/sound/Sound.h"
+#include "ui/sound/Wave.h"
 
 #include <gtest/gtest.h>
 
@@ -50,10 +50,10 @@ std::string Riff(const std::string& stuecke)
     return Stueck("RIFF", "WAVE" + stuecke);
 }
 
-std::optional<Welle> Lesen(const std::string& datei)
+std::optional<Wave> Lesen(const std::string& datei)
 {
     const Bytes bytes(datei.begin(), datei.end());
-    return WelleLesen(bytes);
+    return ReadWave(bytes);
 }
 
 const std::string kFormat = Format(1, 1, 44100, 16);
@@ -83,11 +83,11 @@ public:
     std::filesystem::path Pfad;
 };
 
-TEST(Welle, KnowsTheFormatsThatCanSound)
+TEST(Wave, KnowsTheFormatsThatCanSound)
 {
     struct Fall
     {
-        std::uint32_t Kanaele, Rate, Bits;
+        std::uint32_t Channels, Rate, Bits;
         bool Klingt;
     };
     for (const Fall& fall : {
@@ -105,11 +105,11 @@ TEST(Welle, KnowsTheFormatsThatCanSound)
              Fall{1, 999, 16, false},
              Fall{1, 4294967295U, 16, false},
          }) {
-        const auto welle = Lesen(Riff(Format(1, fall.Kanaele, fall.Rate, fall.Bits) + kDaten));
+        const auto welle = Lesen(Riff(Format(1, fall.Channels, fall.Rate, fall.Bits) + kDaten));
         ASSERT_EQ(welle.has_value(), fall.Klingt)
-            << fall.Kanaele << " channels, " << fall.Rate << " Hz, " << fall.Bits << " bits";
+            << fall.Channels << " channels, " << fall.Rate << " Hz, " << fall.Bits << " bits";
         if (welle) {
-            EXPECT_EQ(welle->Kanaele, fall.Kanaele);
+            EXPECT_EQ(welle->Channels, fall.Channels);
             EXPECT_EQ(welle->Rate, fall.Rate);
             EXPECT_EQ(welle->Bits, fall.Bits);
         }
@@ -117,7 +117,7 @@ TEST(Welle, KnowsTheFormatsThatCanSound)
     EXPECT_FALSE(Lesen(Riff(Format(3, 1, 44100, 16) + kDaten))) << "samples that are not PCM";
 }
 
-TEST(Welle, TakesFromADamagedFileWhatIsThere)
+TEST(Wave, TakesFromADamagedFileWhatIsThere)
 {
     const std::string fremd = Stueck("LIST", "odd");
     const std::string langesFormat =
@@ -158,14 +158,14 @@ TEST(Welle, TakesFromADamagedFileWhatIsThere)
     };
     for (const Fall& fall : faelle) {
         const auto welle = Lesen(fall.Datei);
-        EXPECT_EQ(welle ? std::string(welle->Daten.begin(), welle->Daten.end()) : "", fall.Daten)
+        EXPECT_EQ(welle ? std::string(welle->Data.begin(), welle->Data.end()) : "", fall.Daten)
             << fall.Was;
     }
 }
 
 // Every byte once wrong and every length: whatever is read holds whole frames, and under the
 // sanitizers nothing is read that is not there.
-TEST(Welle, NoSingleDamageBreaksTheReader)
+TEST(Wave, NoSingleDamageBreaksTheReader)
 {
     const std::string gut = Riff(Stueck("LIST", "odd") + kFormat + kDaten);
     std::vector<std::string> dateien;
@@ -178,59 +178,59 @@ TEST(Welle, NoSingleDamageBreaksTheReader)
     }
     for (const std::string& datei : dateien) {
         if (const auto welle = Lesen(datei)) {
-            ASSERT_FALSE(welle->Daten.empty());
-            ASSERT_EQ(welle->Daten.size() % welle->RahmenBytes(), 0U);
+            ASSERT_FALSE(welle->Data.empty());
+            ASSERT_EQ(welle->Data.size() % welle->FrameBytes(), 0U);
         }
     }
 }
 
-TEST(Welle, OnlyOrdinaryFilesAreOpened)
+TEST(Wave, OnlyOrdinaryFilesAreOpened)
 {
     const Ordner ordner;
-    EXPECT_TRUE(WelleLaden(ordner.Datei("Größe.WAV", kWelle)));
-    EXPECT_FALSE(WelleLaden(ordner.Pfad.string())) << "a folder";
-    EXPECT_FALSE(WelleLaden((ordner.Pfad / "fehlt.WAV").string()));
-    EXPECT_FALSE(WelleLaden(""));
+    EXPECT_TRUE(LoadWave(ordner.Datei("Größe.WAV", kWelle)));
+    EXPECT_FALSE(LoadWave(ordner.Pfad.string())) << "a folder";
+    EXPECT_FALSE(LoadWave((ordner.Pfad / "fehlt.WAV").string()));
+    EXPECT_FALSE(LoadWave(""));
     const std::string rohr = (ordner.Pfad / "rohr").string();
     ASSERT_EQ(::mkfifo(rohr.c_str(), 0600), 0);
-    EXPECT_FALSE(WelleLaden(rohr)) << "a pipe, whose other end nobody opens";
+    EXPECT_FALSE(LoadWave(rohr)) << "a pipe, whose other end nobody opens";
 }
 
-TEST(Welle, TheSevenSoundsOfTheGameAreWaves)
+TEST(Wave, TheSevenSoundsOfTheGameAreWaves)
 {
     for (const char* name : {"TADA.WAV", "WHOOSH.WAV", "CHIMES.WAV", "FRAGE.WAV", "FEHLER.WAV",
                              "BLIP.WAV", "ding.wav"}) {
-        const auto welle = WelleLaden(std::string(MALVONE_SOURCE_DIR "/assets/sounds/") + name);
+        const auto welle = LoadWave(std::string(MALVONE_SOURCE_DIR "/assets/sounds/") + name);
         ASSERT_TRUE(welle) << name;
-        const std::size_t dauerMs = 1000 * welle->Daten.size() / welle->RahmenBytes() / welle->Rate;
+        const std::size_t dauerMs = 1000 * welle->Data.size() / welle->FrameBytes() / welle->Rate;
         EXPECT_GE(dauerMs, 80U) << name;
         EXPECT_LE(dauerMs, 1200U) << name;
     }
 }
 
-TEST(Briefkasten, OnlyTheLastSoundIsKept)
+TEST(Mailbox, OnlyTheLastSoundIsKept)
 {
-    Briefkasten kasten;
-    kasten.Einwerfen("a");
-    kasten.Einwerfen("b");
-    EXPECT_EQ(kasten.Holen().Pfad, "b");
-    EXPECT_EQ(kasten.Holen().Pfad, std::nullopt);
+    Mailbox kasten;
+    kasten.Post("a");
+    kasten.Post("b");
+    EXPECT_EQ(kasten.Take().Path, "b");
+    EXPECT_EQ(kasten.Take().Path, std::nullopt);
 }
 
-TEST(Briefkasten, TheThreadIsWokenOnceUntilItHasLooked)
+TEST(Mailbox, TheThreadIsWokenOnceUntilItHasLooked)
 {
-    Briefkasten kasten;
+    Mailbox kasten;
     int geweckt = 0;
-    kasten.WeckerStellen([&] { ++geweckt; });
-    kasten.Einwerfen("a");
-    kasten.Einwerfen("b");
+    kasten.SetWaker([&] { ++geweckt; });
+    kasten.Post("a");
+    kasten.Post("b");
     EXPECT_EQ(geweckt, 1);
-    kasten.Holen();
-    kasten.Schliessen();
+    kasten.Take();
+    kasten.Close();
     EXPECT_EQ(geweckt, 2);
-    EXPECT_TRUE(kasten.Holen().Ende);
-    kasten.WeckerStellen({});
-    kasten.Einwerfen("c");
+    EXPECT_TRUE(kasten.Take().End);
+    kasten.SetWaker({});
+    kasten.Post("c");
     EXPECT_EQ(geweckt, 2);
 }
 
@@ -241,27 +241,27 @@ protected:
     OhneServer() { ::setenv("PULSE_SERVER", "unix:/nirgends/pulse", 1); }
     ~OhneServer() override { ::unsetenv("PULSE_SERVER"); }
 
-    Klang Sound{GetParam()};
-    const std::string Welle = MALVONE_SOURCE_DIR "/assets/sounds/TADA.WAV";
+    Sound Klang{GetParam()};
+    const std::string Ton = MALVONE_SOURCE_DIR "/assets/sounds/TADA.WAV";
 };
 
 TEST_P(OhneServer, ThereIsNoDeviceAndNothingIsSaid)
 {
     testing::internal::CaptureStderr();
-    EXPECT_EQ(Sound.GeraeteZahl(), 0) << "before the start";
-    Sound.Vorbereiten();
-    Sound.Vorbereiten();
-    for (int i = 0; i < 20 && Sound.GeraeteZahl() != 0; ++i) {
+    EXPECT_EQ(Klang.DeviceCount(), 0) << "before the start";
+    Klang.Prepare();
+    Klang.Prepare();
+    for (int i = 0; i < 20 && Klang.DeviceCount() != 0; ++i) {
         // The library may take longer to load than the game would wait.
     }
-    EXPECT_EQ(Sound.GeraeteZahl(), 0);
-    Sound.Spielen(Welle);
-    Sound.Spielen("");
-    Sound.Spielen("/nirgends/TADA.WAV");
-    Sound.Beenden();
-    EXPECT_EQ(Sound.GeraeteZahl(), 0) << "after the end";
-    Sound.Spielen(Welle);
-    Sound.Beenden();
+    EXPECT_EQ(Klang.DeviceCount(), 0);
+    Klang.Play(Ton);
+    Klang.Play("");
+    Klang.Play("/nirgends/TADA.WAV");
+    Klang.Finish();
+    EXPECT_EQ(Klang.DeviceCount(), 0) << "after the end";
+    Klang.Play(Ton);
+    Klang.Finish();
     EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
 }
 
@@ -271,11 +271,11 @@ TEST_P(OhneServer, ManyThreadsMayPlayCountAndLeaveAtOnce)
     for (int faden = 0; faden < 4; ++faden) {
         faeden.emplace_back([this, faden] {
             for (int i = 0; i < 200; ++i) {
-                Sound.Vorbereiten();
-                Sound.Spielen(Welle);
-                Sound.GeraeteZahl();
+                Klang.Prepare();
+                Klang.Play(Ton);
+                Klang.DeviceCount();
                 if (faden == 0 && i % 20 == 19) {
-                    Sound.Beenden();
+                    Klang.Finish();
                 }
             }
         });
@@ -283,12 +283,12 @@ TEST_P(OhneServer, ManyThreadsMayPlayCountAndLeaveAtOnce)
     for (std::thread& faden : faeden) {
         faden.join();
     }
-    Sound.Beenden();
-    EXPECT_EQ(Sound.GeraeteZahl(), 0);
+    Klang.Finish();
+    EXPECT_EQ(Klang.DeviceCount(), 0);
 }
 
 // The library itself, none, and one without the functions.
-INSTANTIATE_TEST_SUITE_P(Klang, OhneServer,
+INSTANTIATE_TEST_SUITE_P(Sound, OhneServer,
                          testing::Values("libpulse.so.0", "libgibtesnicht.so.0", "libm.so.6"));
 
 }  // namespace

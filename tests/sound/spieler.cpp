@@ -2,7 +2,7 @@
 //   spieler [--bibliothek NAME] {FILE | MILLISECONDS | leer | zaehlen} ...
 // A number pauses, "leer" plays the empty path, "zaehlen" counts the devices. Prints how long the
 // game would have been held up: by each kind of call, the longest.
-#include "ui/sound/Klang.h"
+#include "ui/sound/Sound.h"
 
 #include <algorithm>
 #include <chrono>
@@ -38,22 +38,22 @@ int main(int argc, char** argv)
         bibliothek = liste[1];
         liste.erase(liste.begin(), liste.begin() + 2);
     }
-    malvone::Klang klang(bibliothek);
-    std::printf("Vorbereiten %.2f ms\n", Gemessen([&] { klang.Vorbereiten(); }));
+    malvone::Sound klang(bibliothek);
+    std::printf("Vorbereiten %.2f ms\n", Gemessen([&] { klang.Prepare(); }));
     double spielen = 0;
     for (const std::string& wort : liste) {
         if (wort == "zaehlen") {
             std::int32_t geraete = 0;
-            const double dauerMs = Gemessen([&] { geraete = klang.GeraeteZahl(); });
+            const double dauerMs = Gemessen([&] { geraete = klang.DeviceCount(); });
             std::printf("Geraete %d\nZaehlen %.2f ms\n", geraete, dauerMs);
         } else if (IstZahl(wort)) {
             std::this_thread::sleep_for(std::chrono::milliseconds(std::stoi(wort)));
         } else {
             const std::string pfad = wort == "leer" ? "" : wort;
-            spielen = std::max(spielen, Gemessen([&] { klang.Spielen(pfad); }));
+            spielen = std::max(spielen, Gemessen([&] { klang.Play(pfad); }));
         }
     }
     std::printf("Spielen %.2f ms\n", spielen);
-    std::printf("Beenden %.2f ms\n", Gemessen([&] { klang.Beenden(); }));
+    std::printf("Beenden %.2f ms\n", Gemessen([&] { klang.Finish(); }));
     return 0;
 }

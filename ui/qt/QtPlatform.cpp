@@ -6,24 +6,24 @@
 #include <QUrl>
 #include <utility>
 
-#include "ui/sound/Klang.h"
+#include "ui/sound/Sound.h"
 
 namespace malvone::qt {
 
 QtPlatform::QtPlatform(std::optional<std::filesystem::path> root,
-                       std::filesystem::path programFolder, Klang& klang)
-    : FilePlatform(std::move(root), std::move(programFolder)), klang_(klang)
+                       std::filesystem::path programFolder, Sound& sound)
+    : FilePlatform(std::move(root), std::move(programFolder)), sound_(sound)
 {}
 
 void QtPlatform::sndPlaySoundA(const std::string& path)
 {
     const std::optional<std::filesystem::path> file = Translate(path);
-    klang_.Spielen(file ? file->string() : std::string());
+    sound_.Play(file ? file->string() : std::string());
 }
 
 std::int32_t QtPlatform::waveOutGetNumDevs()
 {
-    return klang_.GeraeteZahl();
+    return sound_.DeviceCount();
 }
 
 void QtPlatform::ShellExecuteA(const std::string& path)

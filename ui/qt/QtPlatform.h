@@ -7,7 +7,7 @@
 #include "platform/Files.h"
 
 namespace malvone {
-class Klang;
+class Sound;
 }
 
 namespace malvone::qt {
@@ -17,14 +17,14 @@ class QtPlatform final : public FilePlatform
 public:
     // The sound has to outlive the platform.
     QtPlatform(std::optional<std::filesystem::path> root, std::filesystem::path programFolder,
-               Klang& klang);
+               Sound& sound);
 
     void sndPlaySoundA(const std::string& path) override;
     std::int32_t waveOutGetNumDevs() override;
     void ShellExecuteA(const std::string& path) override;
 
 private:
-    Klang& klang_;
+    Sound& sound_;
 };
 
 // The folder of the executable if the sounds lie there, else the folder they are installed in.

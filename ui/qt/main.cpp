@@ -10,7 +10,7 @@
 #include "ui/qt/FirstPictures.h"
 #include "ui/qt/QtBinding.h"
 #include "ui/qt/QtPlatform.h"
-#include "ui/sound/Klang.h"
+#include "ui/sound/Sound.h"
 
 namespace malvone::qt {
 namespace {
@@ -32,9 +32,9 @@ void StartQt(std::optional<QApplication>& application, int& argc, char** argv)
     }
 }
 
-int Play(Klang& klang, FirstPictures& first)
+int Play(Sound& sound, FirstPictures& first)
 {
-    QtPlatform platform(DefaultDataRoot(), ProgramFolder(), klang);
+    QtPlatform platform(DefaultDataRoot(), ProgramFolder(), sound);
     QtBinding binding(&first);
     App.Begin(binding, platform);
     {
@@ -54,13 +54,13 @@ int Run(int argc, char** argv)
                    stderr);
         return 1;
     }
-    Klang klang;
-    klang.Vorbereiten();  // beside Qt's own start
+    Sound sound;
+    sound.Prepare();  // beside Qt's own start
     std::optional<QApplication> application;
     StartQt(application, argc, argv);
     FirstPictures first;  // beside the start of the game
-    const int status = Play(klang, first);
-    klang.Beenden();
+    const int status = Play(sound, first);
+    sound.Finish();
     return status;
 }
 

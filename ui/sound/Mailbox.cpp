@@ -1,0 +1,72 @@
+// Mailbox.cpp: the letter box between the game and the thread that plays.
+#include "ui/sound/Mailbox.h"
+
+#include <utility>
+
+namespace malvone {
+
+void Mailbox::Post(std::string path)
+{
+    const std::lock_guard lock(mutex_);
+    mail_.Path = std::move(path);
+    Wake();
+}
+
+void Mailbox::Close()
+{
+    const std::lock_guard lock(mutex_);
+    mail_.End = true;
+    Wake();
+}
+
+void Mailbox::Wake()
+{
+    if (waker_ && !woken_) {
+        woken_ = true;
+        waker_();
+    }
+}
+
+std::optional<std::int32_t> Mailbox::AwaitAnswer(std::chrono::milliseconds atMost)
+{
+    std::unique_lock lock(mutex_);
+    news_.wait_for(lock, atMost, [this] { return devices_.has_value(); });
+    return devices_;
+}
+
+bool Mailbox::AwaitThreadEnd(std::chrono::milliseconds atMost)
+{
+    std::unique_lock lock(mutex_);
+    return news_.wait_for(lock, atMost, [this] { return threadEnded_; });
+}
+
+void Mailbox::SetWaker(std::function<void()> waker)
+{
+    const std::lock_guard lock(mutex_);
+    waker_ = std::move(waker);
+}
+
+Mailbox::Mail Mailbox::Take()
+{
+    const std::lock_guard lock(mutex_);
+    woken_ = false;
+    Mail mail{mail_.End, std::move(mail_.Path)};
+    mail_.Path.reset();
+    return mail;
+}
+
+void Mailbox::Answer(std::int32_t devices)
+{
+    const std::lock_guard lock(mutex_);
+    devices_ = devices;
+    news_.notify_all();
+}
+
+void Mailbox::ThreadEnds()
+{
+    const std::lock_guard lock(mutex_);
+    threadEnded_ = true;
+    news_.notify_all();
+}
+
+}  // namespace malvone
