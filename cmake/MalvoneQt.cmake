@@ -7,30 +7,30 @@ pkg_check_modules(XCB IMPORTED_TARGET xcb)
 
 # libpulse is loaded at run time, beside the start; only its headers are needed here.
 malvone_library(malvone_klang ui/sound)
-if(TARGET malvone_klang)
-    target_include_directories(malvone_klang SYSTEM PRIVATE ${LIBPULSE_INCLUDE_DIRS})
-    target_link_libraries(malvone_klang PUBLIC Threads::Threads ${CMAKE_DL_LIBS})
-endif()
+target_include_directories(malvone_klang SYSTEM PRIVATE ${LIBPULSE_INCLUDE_DIRS})
+target_link_libraries(malvone_klang PUBLIC Threads::Threads ${CMAKE_DL_LIBS})
 
 malvone_library(malvone_qt ui/qt)
-if(TARGET malvone_qt)
-    set_target_properties(malvone_qt PROPERTIES AUTOMOC ON)
-    target_compile_definitions(malvone_qt PUBLIC QT_NO_CAST_FROM_ASCII QT_NO_KEYWORDS)
-    target_link_libraries(malvone_qt PUBLIC Qt6::Widgets Qt6::Svg)
-    foreach(lower IN ITEMS malvone_core malvone_klang)
-        if(TARGET ${lower})
-            target_link_libraries(malvone_qt PUBLIC ${lower})
-        endif()
-    endforeach()
-    if(TARGET PkgConfig::XCB)
-        target_compile_definitions(malvone_qt PRIVATE MALVONE_XCB)
-        target_link_libraries(malvone_qt PRIVATE PkgConfig::XCB)
-    endif()
+set_target_properties(malvone_qt PROPERTIES AUTOMOC ON)
+target_compile_definitions(malvone_qt PUBLIC QT_NO_CAST_FROM_ASCII QT_NO_KEYWORDS)
+target_link_libraries(malvone_qt PUBLIC Qt6::Widgets Qt6::Svg malvone_core malvone_klang)
+if(TARGET PkgConfig::XCB)
+    target_compile_definitions(malvone_qt PRIVATE MALVONE_XCB)
+    target_link_libraries(malvone_qt PRIVATE PkgConfig::XCB)
 endif()
 
+# Where an installed executable finds its sounds and manuals, as seen from its own folder.
+cmake_path(ABSOLUTE_PATH MALVONE_GAMESDIR BASE_DIRECTORY "${CMAKE_INSTALL_PREFIX}"
+    OUTPUT_VARIABLE games_folder)
+cmake_path(ABSOLUTE_PATH MALVONE_SHAREDIR BASE_DIRECTORY "${CMAKE_INSTALL_PREFIX}"
+    OUTPUT_VARIABLE share_folder)
+cmake_path(RELATIVE_PATH share_folder BASE_DIRECTORY "${games_folder}")
+target_compile_definitions(malvone_qt PRIVATE MALVONE_DATADIR="${share_folder}")
+
 # The pictures as Qt resources :/pictures/NAME.svg and the icon as :/malvone.svg. They are kept as
-# they are: unpacking them would cost time at every start. An object library goes into every
-# program whole, so that no program has to initialise the resources by hand.
+# they are: unpacking them would cost time at every start. Format 1 leaves their dates out. An
+# object library goes into every program whole, so that no program has to initialise the resources
+# by hand.
 malvone_glob(pictures assets/pictures/*.svg)
 set(qrc "<RCC>\n<qresource prefix=\"/pictures\">\n")
 foreach(picture IN LISTS pictures)
@@ -38,14 +38,12 @@ foreach(picture IN LISTS pictures)
     string(APPEND qrc "<file alias=\"${name}\">${picture}</file>\n")
 endforeach()
 string(APPEND qrc "</qresource>\n<qresource prefix=\"/\">\n")
-if(EXISTS "${PROJECT_SOURCE_DIR}/packaging/malvone.svg")
-    string(APPEND qrc
-        "<file alias=\"malvone.svg\">${PROJECT_SOURCE_DIR}/packaging/malvone.svg</file>\n")
-endif()
-string(APPEND qrc "</qresource>\n</RCC>\n")
+string(APPEND qrc
+    "<file alias=\"malvone.svg\">${PROJECT_SOURCE_DIR}/packaging/malvone.svg</file>\n"
+    "</qresource>\n</RCC>\n")
 file(CONFIGURE OUTPUT generated/bilder.qrc CONTENT "${qrc}" @ONLY)
 qt_add_resources(picture_sources "${PROJECT_BINARY_DIR}/generated/bilder.qrc"
-    OPTIONS --no-compress --no-zstd)
+    OPTIONS --no-compress --no-zstd --format-version 1)
 add_library(malvone_bilder OBJECT ${picture_sources})
 target_link_libraries(malvone_bilder PRIVATE Qt6::Core)
 
@@ -55,8 +53,5 @@ function(malvone_qt_program NAME)
     target_link_libraries(${NAME} PRIVATE malvone_qt malvone_bilder)
 endfunction()
 
-malvone_glob(main_source ui/qt/main.cpp)
-if(main_source AND TARGET malvone_qt)
-    add_executable(malvone ${main_source})
-    malvone_qt_program(malvone)
-endif()
+add_executable(malvone "${PROJECT_SOURCE_DIR}/ui/qt/main.cpp")
+malvone_qt_program(malvone)

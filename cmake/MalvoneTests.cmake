@@ -1,5 +1,4 @@
 # The tests: GoogleTest programs, played games, and scripts that drive real windows.
-enable_testing()
 find_package(GTest REQUIRED)
 find_package(Python3 REQUIRED COMPONENTS Interpreter)
 include(GoogleTest)
@@ -15,22 +14,16 @@ if(MALVONE_SANITIZE)
 endif()
 
 malvone_library(malvone_drehbuch tests/drehbuch)
-if(TARGET malvone_drehbuch)
-    target_link_libraries(malvone_drehbuch PUBLIC malvone_core)
-    add_executable(drehbuch tests/drehbuch/main.cpp)
-    malvone_target(drehbuch)
-    target_link_libraries(drehbuch PRIVATE malvone_drehbuch)
-endif()
+target_link_libraries(malvone_drehbuch PUBLIC malvone_core)
+add_executable(drehbuch tests/drehbuch/main.cpp)
+malvone_target(drehbuch)
+target_link_libraries(drehbuch PRIVATE malvone_drehbuch)
 
 # malvone_tests(NAME LIBRARY... SOURCES PATTERN... [ENVIRONMENT VAR=VALUE...])
-# A test program of all sources that match; without any source there is no such program.
+# A test program of all sources that match.
 function(malvone_tests NAME)
     cmake_parse_arguments(ARG "" "" "SOURCES;ENVIRONMENT" ${ARGN})
     malvone_glob(sources ${ARG_SOURCES})
-    if(NOT sources)
-        message(STATUS "${NAME}: no tests yet")
-        return()
-    endif()
     add_executable(${NAME} ${sources})
     malvone_target(${NAME})
     target_compile_definitions(${NAME} PRIVATE
@@ -42,49 +35,39 @@ function(malvone_tests NAME)
         TEST_PREFIX "${NAME}." DISCOVERY_TIMEOUT 120 PROPERTIES TIMEOUT 300)
 endfunction()
 
-if(TARGET malvone_core)
-    malvone_tests(core_tests malvone_drehbuch SOURCES
-        tests/layer/*Test.cpp tests/windows/*Test.cpp tests/board/*Test.cpp
-        tests/storage/*Test.cpp tests/game/*Test.cpp tests/ui/*Test.cpp
-        tests/random/*Test.cpp)
-endif()
-if(TARGET malvone_drehbuch)
-    malvone_tests(drehbuch_tests malvone_drehbuch SOURCES tests/games/*Test.cpp)
-endif()
-if(TARGET malvone_klang)
+malvone_tests(core_tests malvone_drehbuch SOURCES
+    tests/layer/*Test.cpp tests/windows/*Test.cpp tests/board/*Test.cpp
+    tests/storage/*Test.cpp tests/game/*Test.cpp tests/ui/*Test.cpp)
+malvone_tests(drehbuch_tests malvone_drehbuch SOURCES tests/games/*Test.cpp)
+
+if(MALVONE_QT)
     malvone_tests(sound_tests malvone_klang SOURCES tests/sound/*Test.cpp)
-endif()
-if(TARGET malvone_qt)
     malvone_tests(qt_tests malvone_qt malvone_bilder SOURCES tests/qt/*Test.cpp tests/qt/main.cpp
         ENVIRONMENT QT_QPA_PLATFORM=offscreen)
-    if(TARGET qt_tests)
-        set_target_properties(qt_tests PROPERTIES AUTOMOC ON)
-    endif()
-endif()
+    set_target_properties(qt_tests PROPERTIES AUTOMOC ON)
 
-# Other programs in tests/sound are driven by the scripts there: one program to a file.
-malvone_glob(sound_programs tests/sound/*.cpp)
-list(FILTER sound_programs EXCLUDE REGEX "Test\\.cpp$")
-foreach(source IN LISTS sound_programs)
-    cmake_path(GET source STEM name)
-    add_executable(${name} ${source})
-    malvone_target(${name})
-    target_link_libraries(${name} PRIVATE malvone_klang)
-endforeach()
-
-# Played games: NAME.drehbuch is played, and what comes out must equal NAME.soll beside it.
-if(TARGET drehbuch)
-    malvone_glob(scripts tests/games/*.drehbuch)
-    foreach(script IN LISTS scripts)
-        cmake_path(GET script STEM name)
-        add_test(NAME games.${name}
-            COMMAND "${Python3_EXECUTABLE}" "${PROJECT_SOURCE_DIR}/tests/games/spielen.py"
-                    "$<TARGET_FILE:drehbuch>" "${script}"
-            WORKING_DIRECTORY "${PROJECT_SOURCE_DIR}")
-        set_tests_properties(games.${name} PROPERTIES
-            ENVIRONMENT "${test_environment}" LABELS games TIMEOUT 120)
+    # Other programs in tests/sound are driven by the scripts there: one program to a file.
+    malvone_glob(sound_programs tests/sound/*.cpp)
+    list(FILTER sound_programs EXCLUDE REGEX "Test\\.cpp$")
+    foreach(source IN LISTS sound_programs)
+        cmake_path(GET source STEM name)
+        add_executable(${name} ${source})
+        malvone_target(${name})
+        target_link_libraries(${name} PRIVATE malvone_klang)
     endforeach()
 endif()
+
+# Played games: NAME.drehbuch is played, and what comes out must equal NAME.soll beside it.
+malvone_glob(scripts tests/games/*.drehbuch)
+foreach(script IN LISTS scripts)
+    cmake_path(GET script STEM name)
+    add_test(NAME games.${name}
+        COMMAND "${Python3_EXECUTABLE}" "${PROJECT_SOURCE_DIR}/tests/games/spielen.py"
+                "$<TARGET_FILE:drehbuch>" "${script}"
+        WORKING_DIRECTORY "${PROJECT_SOURCE_DIR}")
+    set_tests_properties(games.${name} PROPERTIES
+        ENVIRONMENT "${test_environment}" LABELS games TIMEOUT 120)
+endforeach()
 
 # malvone_script_tests(LABEL SOURCES PATTERN... [ARGUMENTS ARG...])
 # One test for each script that matches; names with a leading underscore are modules.
@@ -109,28 +92,19 @@ endfunction()
 
 # Scripts that drive real windows or a real sound server; each starts what it needs by itself.
 # They measure times and so have the machine for themselves.
-set(display_scripts "")
-if(TARGET malvone)
-    list(APPEND display_scripts tests/qt/*.py)
-endif()
-if(TARGET malvone_klang)
-    list(APPEND display_scripts tests/sound/*_e2e.py)
-endif()
-if(display_scripts)
-    malvone_script_tests(display SOURCES ${display_scripts})
+if(MALVONE_QT)
+    malvone_script_tests(display SOURCES tests/qt/*.py tests/sound/*_e2e.py)
 endif()
 
 # What is the same in every build is looked at in the one that players run.
-if(NOT MALVONE_SANITIZE)
+if(MALVONE_QT AND NOT MALVONE_SANITIZE)
     # Scripts that look at what lies in the repository or in the build folder.
     malvone_script_tests(files SOURCES tests/manuals/*.py tests/docs/*.py
         ARGUMENTS "${PROJECT_BINARY_DIR}")
 
-    if(TARGET malvone)
-        add_test(NAME packaging COMMAND "${Python3_EXECUTABLE}"
-            "${PROJECT_SOURCE_DIR}/packaging/pruefen.py" "${CMAKE_COMMAND}"
-            "${PROJECT_BINARY_DIR}" "${CMAKE_INSTALL_PREFIX}")
-        set_tests_properties(packaging PROPERTIES
-            ENVIRONMENT "${test_environment}" LABELS files TIMEOUT 120)
-    endif()
+    add_test(NAME packaging COMMAND "${Python3_EXECUTABLE}"
+        "${PROJECT_SOURCE_DIR}/packaging/pruefen.py" "${CMAKE_COMMAND}"
+        "${PROJECT_BINARY_DIR}" "${CMAKE_INSTALL_PREFIX}")
+    set_tests_properties(packaging PROPERTIES
+        ENVIRONMENT "${test_environment}" LABELS files TIMEOUT 120)
 endif()

@@ -36,11 +36,10 @@ void QtPlatform::ShellExecuteA(const std::string& path)
 std::filesystem::path ProgramFolder()
 {
     std::error_code ignored;
-    std::filesystem::path folder = std::filesystem::read_symlink("/proc/self/exe", ignored);
-    folder = folder.parent_path();
-    return std::filesystem::exists(folder / "TADA.WAV", ignored)
-               ? folder
-               : std::filesystem::path(MALVONE_DATADIR);
+    const std::filesystem::path built =
+        std::filesystem::read_symlink("/proc/self/exe", ignored).parent_path();
+    const std::filesystem::path installed = (built / MALVONE_DATADIR).lexically_normal();
+    return std::filesystem::is_directory(installed, ignored) ? installed : built;
 }
 
 }  // namespace malvone::qt

@@ -27,7 +27,8 @@ private:
     Sound& sound_;
 };
 
-// The folder of the executable if the sounds lie there, else the folder they are installed in.
+// The folder of sounds and manuals: of an installed game the one that lies where the installation
+// puts it, seen from the executable; of a built one the executable's own. No file has to be there.
 std::filesystem::path ProgramFolder();
 
 }  // namespace malvone::qt
