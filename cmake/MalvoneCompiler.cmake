@@ -1,4 +1,9 @@
 # How every file of the game is compiled: language level, warnings, sanitizers, compiler cache.
+include(CheckCXXCompilerFlag)
+
+if(NOT CMAKE_BUILD_TYPE)
+    set(CMAKE_BUILD_TYPE Release CACHE STRING "Release is what players run" FORCE)
+endif()
 set(CMAKE_CXX_STANDARD 20)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
 set(CMAKE_CXX_EXTENSIONS OFF)
@@ -39,3 +44,19 @@ if(malvone_sanitizers)
     add_link_options(${malvone_sanitizers})
 endif()
 add_link_options(-Wl,--as-needed)
+
+# What players run is hardened: addresses drawn at every start, a symbol table that is bound and
+# locked before main(), guarded stacks and copies, jumps only to where one may land. And it is the
+# same wherever it is built: no path of the building machine gets in.
+if(NOT MALVONE_SANITIZE AND NOT CMAKE_BUILD_TYPE STREQUAL "Debug")
+    add_compile_options(-fPIE -fstack-protector-strong -U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=2
+        "-ffile-prefix-map=${PROJECT_SOURCE_DIR}=." "-ffile-prefix-map=${PROJECT_BINARY_DIR}=build")
+    foreach(flag IN ITEMS -fstack-clash-protection -fcf-protection -mbranch-protection=standard)
+        string(MAKE_C_IDENTIFIER "MALVONE_HAS${flag}" known)
+        check_cxx_compiler_flag(${flag} ${known})
+        if(${known})
+            add_compile_options(${flag})
+        endif()
+    endforeach()
+    add_link_options(-pie -Wl,-z,relro -Wl,-z,now)
+endif()

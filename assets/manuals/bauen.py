@@ -5,8 +5,8 @@
 
 DIR of --pictures holds the game's own SVG pictures; a source names them as "spiel/NAME.svg".
 They are drawn as fine pixels by rsvg-convert, because PDF viewers differ in how they draw shaded
-shapes: many show torn rims and lines where there are none. Screenshots lie in "bilder" beside this script. The same input gives the same bytes; a date is
-written only where SOURCE_DATE_EPOCH sets one. Everything that WeasyPrint warns about stops the
+shapes: many show torn rims and lines where there are none. Screenshots lie in "bilder" beside this script. The same input gives the same
+bytes wherever and whenever it is built; a date is written only where SOURCE_DATE_EPOCH sets one. Everything that WeasyPrint warns about stops the
 build, so no manual is shipped with a hole in it.
 """
 
@@ -23,6 +23,8 @@ from pathlib import Path
 from urllib.parse import unquote, urlparse
 
 SOURCES = Path(__file__).resolve().parent
+# Pictures are named in the PDF after their address, so the addresses are no paths of this machine.
+ADDRESS = Path("/handbuch")
 MANUALS = ("Malvone", "Meldefenster", "Bestespieler")
 FONT = "Liberation-Sans"
 PICTURE_ZOOM = 6  # A stone of 32 pixels printed 7.6 mm wide gets 640 dots per inch.
@@ -127,10 +129,10 @@ def fetcher(pictures):
         path = Path(unquote(urlparse(url).path))
         if urlparse(url).scheme != "file":
             raise ValueError("only local files may be used")
-        if path.parent == SOURCES / "spiel":
+        if path.parent == ADDRESS / "spiel":
             return {"string": drawn(pictures / path.name), "mime_type": "image/png"}
         mime = {".png": "image/png", ".css": "text/css"}[path.suffix]
-        return {"string": path.read_bytes(), "mime_type": mime}
+        return {"string": (SOURCES / path.relative_to(ADDRESS)).read_bytes(), "mime_type": mime}
 
     return fetch
 
@@ -150,10 +152,10 @@ def finish(_document, pdf):
                      "install the package fonts-liberation2")
 
 
-def make(weasyprint, name, pictures, out, complaints):
+def make(weasyprint, name, created, pictures, out, complaints):
     complaints.texts.clear()
-    document = weasyprint.HTML(string=read_source(name, creation_date()),
-                               base_url=(SOURCES / f"{name}.html").as_uri(),
+    document = weasyprint.HTML(string=read_source(name, created),
+                               base_url=(ADDRESS / f"{name}.html").as_uri(),
                                url_fetcher=fetcher(pictures)).render()
     data = document.write_pdf(finisher=finish)
     if complaints.texts:
@@ -177,8 +179,11 @@ def main():
     complaints = Complaints()
     logging.getLogger("weasyprint").handlers = [complaints]
     arguments.out.mkdir(parents=True, exist_ok=True)
+    created = creation_date()
+    # The fonts get a date in any case: where none is set, one that does not pass.
+    os.environ.setdefault("SOURCE_DATE_EPOCH", "0")
     for name in MANUALS:
-        make(weasyprint, name, pictures, arguments.out, complaints)
+        make(weasyprint, name, created, pictures, arguments.out, complaints)
 
 
 if __name__ == "__main__":

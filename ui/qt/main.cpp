@@ -2,6 +2,7 @@
 #include "game/Main.h"
 
 #include <QApplication>
+#include <cerrno>
 #include <cstdio>
 #include <optional>
 
@@ -49,9 +50,10 @@ int Play(Sound& sound, FirstPictures& first)
 int Run(int argc, char** argv)
 {
     if (!DisplayReachable()) {
-        std::fputs("malvone: there is no display to play on "
-                   "(neither DISPLAY nor WAYLAND_DISPLAY leads to one)\n",
-                   stderr);
+        std::fprintf(stderr,
+                     "%s: there is no display to play on "
+                     "(neither DISPLAY nor WAYLAND_DISPLAY leads to one)\n",
+                     program_invocation_short_name);
         return 1;
     }
     Sound sound;
