@@ -6,13 +6,11 @@ import sys
 import tempfile
 import time
 
-HERE = os.path.dirname(os.path.abspath(__file__))
-sys.path += [HERE, os.path.join(HERE, os.pardir, "qt")]
-
-import fenster_e2e as fenster
+sys.path.append(os.path.join(os.path.dirname(os.path.abspath(__file__)), os.pardir, "support"))
 import hoeren
+from desktop import INFO, NEW_GAME, YES, Desktop, Game
+from processes import script, until
 
-INFO = (66, 149)
 # The menu lies above the client area and opens over it.
 OPTIONS, SOUND, AN, AUS = (110, -10), (145, 10), (256, 10), (256, 32)
 # Long enough for each sound to be heard whole before the next one takes its place.
@@ -27,30 +25,16 @@ def sound_menu(game, entry):
         time.sleep(0.4)
 
 
-def play_level_to_its_end(game):
-    """Clicks on every cell, again and again, until no move is left."""
-    left, top, _, _ = game.desktop.place(game.main)
-    for _ in range(40):
-        for column in range(14):
-            steps = []
-            for row in range(9, -1, -1):
-                x, y = game.cell(column, row)
-                steps += ["mousemove", left + x, top + game.menu + y - 1,
-                          "mousemove", left + x, top + game.menu + y, "click", 1]
-            game.desktop.do(*steps)
-            if game.open_messages():
-                return
-    raise fenster.Failed("the level does not end")
-
-
 def close_message(game):
     game.key("Escape")
     game.no_message()
 
 
 def short_game(game):
-    fenster.new_game(game)
-    fenster.hover_and_move(game)
+    game.click(NEW_GAME)
+    until(game.snapshot, "the snapshot")
+    stones = game.snapshot()
+    game.take(next(i for i in range(2, 141) if i % 10 != 1 and stones[i - 2] == stones[i - 1]))
     time.sleep(0.3)
 
 
@@ -68,8 +52,7 @@ def whole_game(game):
     time.sleep(PAUSE)
     close_message(game)
     sound_menu(game, AUS)
-    play_level_to_its_end(game)
-    close_message(game)
+    game.play_to_end()
     sound_menu(game, AN)
     snapshot = os.path.join(os.environ["XDG_DATA_HOME"], "lindenspiele", "tessel.ini")
     with open(snapshot, "w", encoding="ascii") as file:
@@ -84,20 +67,16 @@ def whole_game(game):
 def play(steps):
     """The part that runs beside the server: a desktop, the game, and the way out."""
     with tempfile.TemporaryDirectory(prefix="malvone-") as folder:
-        desktop = fenster.Desktop(folder, 1)
-        for name in ("HOME", "XDG_RUNTIME_DIR", "XDG_DATA_HOME", "XDG_CONFIG_HOME"):
-            desktop.env[name] = os.environ[name]
-        game = None
-        try:
-            game = fenster.Game(desktop, 1)
+        paths = ("HOME", "XDG_RUNTIME_DIR", "XDG_DATA_HOME", "XDG_CONFIG_HOME")
+        with Desktop(folder=folder, **{name: os.environ[name] for name in paths}) as desktop, \
+                Game(desktop) as game:
             time.sleep(PAUSE)
             steps(game)
-            fenster.leave(game)
-        finally:
-            if game is not None and game.process.poll() is None:
-                game.process.kill()
-                game.process.wait()
-            desktop.close()
+            game.key("alt+F4")
+            game.message()
+            time.sleep(PAUSE)
+            game.click(YES, game.message())
+            game.end()
 
 
 CASES = {
@@ -125,4 +104,4 @@ def main():
 
 
 if __name__ == "__main__":
-    sys.exit(main())
+    script(main)
