@@ -57,7 +57,7 @@ if(MALVONE_QT)
     endforeach()
 endif()
 
-# Played games: NAME.drehbuch is played, and what comes out must equal NAME.soll beside it.
+# Played games: each script is its own transcript.
 malvone_glob(scripts tests/games/*.drehbuch)
 foreach(script IN LISTS scripts)
     cmake_path(GET script STEM name)

@@ -1,14 +1,15 @@
 #!/usr/bin/env python3
-"""Plays one script with the program `drehbuch` and compares the transcript with NAME.soll beside it.
+"""Plays a script with the program `drehbuch`, or with a build of it for Node, and compares.
 
-    spielen.py [--schreiben] DREHBUCH-EXE NAME.drehbuch
+    spielen.py [--schreiben] PROGRAM NAME.drehbuch      PROGRAM: drehbuch, or drehbuch.js
 
-A difference is printed as a unified diff and ends with status 1. --schreiben writes NAME.soll
-instead, which then has to be read line by line before it is worth anything.
+A script is its own transcript. Behind the line that says that the program waits, `> WINDOW`, stands
+the command that it is given there; the other lines are its answers. A difference is printed as a
+unified diff and ends with status 1. --schreiben writes the answers of today into the script, which
+then has to be read line by line before it is worth anything; for a new command any window will do.
 
 Each script is played in fresh folders: `daten` stands for the root of the drive and `programm` for
-the program's folder, which holds the seven sounds as empty files and the three manuals. The
-transcript holds what was sent behind each `> ` line and what came back.
+the program's folder, which holds the seven sounds as empty files and the three manuals.
 
 Lines that begin with `#:` are for the player. Those before the first command are done before the
 program starts, the others in their place, while the program waits:
@@ -17,7 +18,7 @@ program starts, the others in their place, while the program waits:
     #: ohne TADA.WAV Malvone.pdf      removes files of the program's folder
     #: datei daten/x.ini              a file of the `#|` and `#*` lines that follow, in Windows-1252
                                       with CR LF; folders above it are made; without lines it is empty
-    #: roh daten/x.ini 61 0d          a file of these bytes
+    #: roh daten/x.ini 610d           a file of these bytes
     #: ordner daten/x.ini             a folder, empty
     #: verweis daten/x nirgends       a symbolic link
     #: weg daten/lindenspiele         removes a file or a whole folder
@@ -31,271 +32,202 @@ program starts, the others in their place, while the program waits:
     #|text                            one line of a file
     #*139 text                        139 such lines
 """
-
-import argparse
 import difflib
+import os
 import pathlib
 import re
 import shutil
-import subprocess
 import sys
 import tempfile
-import threading
 
-KLAENGE = ("TADA.WAV", "WHOOSH.WAV", "CHIMES.WAV", "FRAGE.WAV", "FEHLER.WAV", "BLIP.WAV", "ding.wav")
-HANDBUECHER = ("Malvone.pdf", "Meldefenster.pdf", "Bestespieler.pdf")
-GEDULD_S = 60
+sys.path.append(os.path.join(os.path.dirname(os.path.abspath(__file__)), os.pardir, "support"))
+from processes import Failed, end, script, start
 
-
-class Regiefehler(Exception):
-    """A directive that is not in order: a mistake in the script, not in the game."""
+FILES = ("TADA.WAV", "WHOOSH.WAV", "CHIMES.WAV", "FRAGE.WAV", "FEHLER.WAV", "BLIP.WAV", "ding.wav",
+         "Malvone.pdf", "Meldefenster.pdf", "Bestespieler.pdf")
+LIMIT_S = 100
 
 
-def lesbar(zeile):
-    """A line as it stands in the transcript: bytes that are no UTF-8 and a CR are spelled out."""
-    text = zeile.encode("utf-8", "surrogateescape").decode("utf-8", "backslashreplace")
-    return text.replace("\r", "\\x0d")
+def readable(raw):
+    """A line as it stands in the script: bytes that are no UTF-8 and a CR are spelled out."""
+    return raw.decode("utf-8", "backslashreplace").removesuffix("\n").replace("\r", "\\x0d")
 
 
-class Programm:
-    """One run of `drehbuch`, driven line by line."""
+class Play:
+    def __init__(self, program, lines, folder):
+        self.call = (["node"] if program.suffix == ".js" else []) + [
+            program.resolve(), "--daten", folder / "daten", "--programm", folder / "programm"]
+        self.lines, self.folder = lines, folder
+        self.at, self.transcript, self.options = 0, [], []
+        self.process = self.prompt = None
+        self.kept, self.wanted = {}, None   # (name, regex): the next answer is kept or compared
+        for name in ("daten", "programm"):
+            (folder / name).mkdir()
+        for name in FILES:
+            (folder / "programm" / name).touch()
 
-    def __init__(self, exe, ordner, optionen):
-        aufruf = [exe, "--daten", ordner / "daten", "--programm", ordner / "programm", *optionen]
-        self.prozess = subprocess.Popen(aufruf, stdin=subprocess.PIPE, stdout=subprocess.PIPE,
-                                        stderr=subprocess.PIPE)
-        self.wecker = threading.Timer(GEDULD_S, self.prozess.kill)
-        self.wecker.start()
-        self.fehlertext = b""
-        self.lauscher = threading.Thread(target=self.fehler_lesen)
-        self.lauscher.start()
-        self.wartet = False
+    def play(self):
+        while self.at < len(self.lines):
+            line = self.lines[self.at]
+            self.at += 1
+            if line.startswith("#") or not line:
+                if line.startswith("#: neustart"):
+                    self.begin()
+                    self.finish()
+                self.transcript.append(line)
+                if line.startswith("#:"):
+                    self.direct(*line[2:].split())
+                continue
+            self.begin()
+            if line.startswith("> ") and line.count(" ") > 1:
+                self.command(line.split(" ", 2)[2])
+        self.begin()
+        self.finish()
+        return self.transcript
 
-    def fehler_lesen(self):
-        self.fehlertext = self.prozess.stderr.read()
+    def begin(self):
+        if self.process is None:
+            self.errors = tempfile.TemporaryFile()
+            self.process = start([*self.call, *self.options], stdin=-1, stdout=-1, stderr=self.errors)
+            self.read()
 
-    def lies(self):
-        """All lines up to the next one that says that the program waits, or up to the end."""
-        zeilen = []
-        self.wartet = False
-        for roh in self.prozess.stdout:
-            zeilen.append(lesbar(roh.decode("utf-8", "surrogateescape").removesuffix("\n")))
-            if zeilen[-1].startswith("> "):
-                self.wartet = True
-                break
-        return zeilen
+    def read(self):
+        """All lines up to the next one that says that the program waits, or up to its end."""
+        self.prompt = None
+        for raw in self.process.stdout:
+            line = readable(raw)
+            if line.startswith("> "):
+                self.prompt = line
+                return
+            self.transcript.append(self.disguised(line))
 
-    def sende(self, zeile):
-        try:
-            self.prozess.stdin.write(zeile.encode("utf-8", "surrogateescape") + b"\n")
-            self.prozess.stdin.flush()
-        except BrokenPipeError:
-            pass
+    def command(self, text):
+        if self.prompt is None:
+            raise Failed("the program has ended before this command")
+        self.transcript.append(f"{self.prompt} {text}")
+        self.process.stdin.write(text.encode("utf-8", "surrogateescape") + b"\n")
+        self.process.stdin.flush()
+        if text.rstrip("\r") and not text.startswith("#"):
+            self.read()
 
-    def ende(self):
-        """Ends the input; what is still written, the exit status and complaints are lines, too."""
-        try:
-            self.prozess.stdin.close()
-        except BrokenPipeError:
-            pass
-        zeilen = self.lies()
-        status = self.prozess.wait()
-        self.lauscher.join()
-        self.wecker.cancel()
-        if status != 0:
-            zeilen.append(f"status {status}")
-        if self.fehlertext:
-            zeilen += ["stderr " + z for z in self.fehlertext.decode("utf-8", "replace").splitlines()]
-        return zeilen
-
-
-class Vorstellung:
-    """A script on its way: folders, program, transcript."""
-
-    def __init__(self, exe, ordner, skript):
-        self.exe = exe
-        self.ordner = ordner
-        self.zeilen = skript.read_bytes().decode("utf-8", "surrogateescape").split("\n")
-        if self.zeilen[-1] == "":
-            self.zeilen.pop()
-        self.stelle = 0
-        self.mitschrift = []
-        self.optionen = []
-        self.programm = None
-        self.gemerkt = {}
-        self.erwartet = None  # (name, regex): the next answer is kept or compared under the name
-
-        (ordner / "daten").mkdir()
-        (ordner / "programm").mkdir()
-        for name in KLAENGE + HANDBUECHER:
-            (ordner / "programm" / name).touch()
-
-    def spiele(self):
-        while self.stelle < len(self.zeilen):
-            zeile = self.zeilen[self.stelle]
-            self.stelle += 1
-            if zeile.startswith("#:"):
-                self.regie(zeile[2:].split())
-            else:
-                self.befehl(zeile)
-        self.beginne()
-        self.schluss()
-        return "".join(zeile + "\n" for zeile in self.mitschrift)
-
-    def beginne(self):
-        if self.programm is None:
-            self.programm = Programm(self.exe, self.ordner, self.optionen)
-            self.mitschrift += self.programm.lies()
-
-    def schluss(self):
-        self.mitschrift += self.programm.ende()
-        self.programm = None
-
-    def befehl(self, zeile):
-        ist_kommentar = zeile.rstrip("\r") == "" or zeile.startswith("#")
-        if ist_kommentar and self.programm is None:
-            return
-        self.beginne()
-        if not ist_kommentar and not self.programm.wartet:
-            raise Regiefehler("the program has ended before this command")
-        self.programm.sende(zeile)
-        self.mitschrift.append(lesbar(zeile))
-        if not ist_kommentar:
-            self.mitschrift += [self.verkleidet(z) for z in self.programm.lies()]
-
-    def verkleidet(self, zeile):
+    def disguised(self, line):
         """Stands a name in for an answer that is different each time."""
-        if self.erwartet is None or not zeile.startswith("= "):
-            return zeile
-        (name, muster), self.erwartet = self.erwartet, None
-        wert = zeile[2:]
-        if muster is not None:
-            if not re.fullmatch(muster, wert):
-                return zeile
-            self.gemerkt[name] = wert
-        return "= {" + name + "}" if self.gemerkt.get(name) == wert else zeile
+        if self.wanted is None or not line.startswith("= "):
+            return line
+        (name, pattern), self.wanted = self.wanted, None
+        if pattern and re.fullmatch(pattern, line[2:]):
+            self.kept[name] = line[2:]
+        return "= {" + name + "}" if self.kept.get(name) == line[2:] else line
 
-    def regie(self, worte):
-        name, argumente = worte[0], worte[1:]
-        anweisung = getattr(self, "regie_" + name, None)
-        if anweisung is None:
-            raise Regiefehler("unknown directive")
+    def finish(self):
+        """Ends the input; an open window, the exit status and complaints are lines, too."""
+        if self.prompt not in (None, "> -"):
+            self.transcript.append(self.prompt)
+        self.process.stdin.close()
+        self.read()
+        status = self.process.wait()
+        if status != 0:
+            self.transcript.append(f"status {status}")
+        self.errors.seek(0)
+        self.transcript += ["stderr " + readable(line) for line in self.errors]
+        self.process = None
+
+    def direct(self, name, *arguments):
         try:
-            anweisung(*argumente)
-        except (KeyError, OSError, TypeError, ValueError) as fehler:
-            raise Regiefehler(f"{name}: {fehler!r}") from fehler
+            getattr(self, "do_" + name)(*arguments)
+        except (AttributeError, KeyError, OSError, TypeError, ValueError) as fault:
+            raise Failed(f"{name}: {fault!r}") from fault
 
-    def pfad(self, name):
-        ziel = self.ordner / name
-        if ziel.parts[len(self.ordner.parts)] not in ("daten", "programm") or ".." in ziel.parts:
-            raise Regiefehler("a path begins with daten or programm")
-        return ziel
+    def path(self, name):
+        if name.split("/")[0] not in ("daten", "programm") or ".." in name:
+            raise Failed("a path begins with daten or programm")
+        return self.folder / name
 
     def text(self):
         """The lines of a file that follow here."""
-        zeilen = []
-        while self.stelle < len(self.zeilen) and self.zeilen[self.stelle][:2] in ("#|", "#*"):
-            zeile = self.zeilen[self.stelle]
-            self.stelle += 1
-            if zeile.startswith("#|"):
-                zeilen.append(zeile[2:])
-            else:
-                mal, _, was = zeile[2:].partition(" ")
-                zeilen += [was] * int(mal)
-        return "".join(z + "\r\n" for z in zeilen).encode("cp1252")
+        lines = []
+        while self.at < len(self.lines) and self.lines[self.at][:2] in ("#|", "#*"):
+            line = self.lines[self.at]
+            self.at += 1
+            self.transcript.append(line)
+            times, _, what = line[2:].partition(" ") if line[1] == "*" else ("1", "", line[2:])
+            lines += [what] * int(times)
+        return "".join(line + "\r\n" for line in lines).encode("cp1252")
 
-    def neue_datei(self, name, inhalt):
-        self.pfad(name).parent.mkdir(parents=True, exist_ok=True)
-        self.pfad(name).write_bytes(inhalt)
+    def do_optionen(self, *options):
+        self.options = options
 
-    def regie_optionen(self, *optionen):
-        self.optionen = list(optionen)
+    def do_ohne(self, *names):
+        for name in names:
+            self.path("programm/" + name).unlink()
 
-    def regie_ohne(self, *namen):
-        for name in namen:
-            (self.ordner / "programm" / name).unlink()
+    def do_datei(self, name):
+        self.path(name).parent.mkdir(parents=True, exist_ok=True)
+        self.path(name).write_bytes(self.text())
 
-    def regie_datei(self, name):
-        self.neue_datei(name, self.text())
+    def do_roh(self, name, values):
+        self.path(name).write_bytes(bytes.fromhex(values))
 
-    def regie_roh(self, name, *werte):
-        self.neue_datei(name, bytes.fromhex("".join(werte)))
+    def do_ordner(self, name):
+        self.path(name).mkdir(parents=True)
 
-    def regie_ordner(self, name):
-        self.pfad(name).mkdir(parents=True)
+    def do_verweis(self, name, target):
+        self.path(name).symlink_to(target)
 
-    def regie_verweis(self, name, ziel):
-        self.pfad(name).symlink_to(ziel)
+    def do_weg(self, name):
+        target = self.path(name)
+        (shutil.rmtree if target.is_dir() and not target.is_symlink() else pathlib.Path.unlink)(target)
 
-    def regie_weg(self, name):
-        ziel = self.pfad(name)
-        if ziel.is_dir() and not ziel.is_symlink():
-            shutil.rmtree(ziel)
-        else:
-            ziel.unlink()
-
-    def regie_pruefe(self, name, *wie):
-        soll = self.text()
-        if wie:
-            soll = "".join(z + "\r\n" for z in self.gemerkt[wie[1]]).encode("cp1252")
+    def do_pruefe(self, name, *like):
+        wanted = self.text()
+        if like:
+            wanted = "".join(value + "\r\n" for value in self.kept[like[1]]).encode("cp1252")
         try:
-            ist = self.pfad(name).read_bytes()
-        except OSError as fehler:
-            self.mitschrift.append(f"pruefe {name}: {fehler.strerror}")
-            return
-        if ist != soll:
-            self.mitschrift.append(f"pruefe {name}: is {ist!r}, should be {soll!r}")
+            found = self.path(name).read_bytes()
+        except OSError as fault:
+            found = fault.strerror
+        if found != wanted:
+            self.transcript.append(f"pruefe {name}: is {found!r}, should be {wanted!r}")
 
-    def regie_fehlt(self, name):
-        if self.pfad(name).exists():
-            self.mitschrift.append(f"fehlt {name}: it is there")
+    def do_fehlt(self, name):
+        if os.path.lexists(self.path(name)):
+            self.transcript.append(f"fehlt {name}: it is there")
 
-    def regie_merke(self, name, muster=".*"):
-        self.erwartet = (name, muster)
+    def do_merke(self, name, pattern=".*"):
+        self.wanted = (name, pattern)
 
-    def regie_gleich(self, name):
-        self.erwartet = (name, None)
+    def do_gleich(self, name):
+        self.wanted = (name, None)
 
-    def regie_neustart(self, *optionen):
-        self.beginne()
-        self.schluss()
-        self.mitschrift.append("-- neustart")
-        self.optionen = list(optionen)
+    def do_neustart(self, *options):
+        self.options = options      # The end of the run before it is told above this line.
 
 
 def main():
-    argumente = argparse.ArgumentParser(description="Plays one script and compares the transcript.")
-    argumente.add_argument("--schreiben", action="store_true", help="write the expected transcript")
-    argumente.add_argument("exe", type=pathlib.Path)
-    argumente.add_argument("skript", type=pathlib.Path)
-    wahl = argumente.parse_args()
-    soll_datei = wahl.skript.with_suffix(".soll")
-
-    with tempfile.TemporaryDirectory(prefix="malvone-") as ordner:
-        vorstellung = Vorstellung(wahl.exe.resolve(), pathlib.Path(ordner), wahl.skript)
+    arguments = sys.argv[1:]
+    writing = "--schreiben" in arguments
+    if writing:
+        arguments.remove("--schreiben")
+    if len(arguments) != 2:
+        sys.exit(__doc__)
+    program, source = map(pathlib.Path, arguments)
+    lines = source.read_bytes().decode("utf-8", "surrogateescape").removesuffix("\n").split("\n")
+    with tempfile.TemporaryDirectory(prefix="malvone-") as folder:
+        play = Play(program, lines, pathlib.Path(folder))
         try:
-            ist = vorstellung.spiele()
-        except Regiefehler as fehler:
-            print("\n".join(vorstellung.mitschrift[-20:]))
-            print(f"{wahl.skript}:{vorstellung.stelle}: {fehler}")
-            return 1
+            played = play.play()
+        except Failed as failure:
+            print("\n".join(play.transcript[-20:]))
+            raise Failed(f"{source}:{play.at}: {failure}") from failure
         finally:
-            if vorstellung.programm is not None:
-                vorstellung.schluss()
-
-    if wahl.schreiben:
-        soll_datei.write_text(ist, encoding="utf-8", newline="\n")
+            end(play.process)
+    if writing:
+        source.write_bytes("".join(line + "\n" for line in played).encode("utf-8", "surrogateescape"))
         return 0
-    if not soll_datei.exists():
-        print(f"{soll_datei} is missing; --schreiben writes it")
-        return 1
-    soll = soll_datei.read_text(encoding="utf-8")
-    unterschied = list(difflib.unified_diff(soll.split("\n"), ist.split("\n"), soll_datei.name,
-                                            wahl.skript.name, lineterm=""))
-    if unterschied:
-        print("\n".join(unterschied))
-    return 1 if unterschied else 0
+    difference = list(difflib.unified_diff(lines, played, str(source), "played", lineterm=""))
+    sys.stdout.buffer.write("\n".join(difference).encode("utf-8", "backslashreplace"))
+    return 1 if difference else 0
 
 
 if __name__ == "__main__":
-    sys.exit(main())
+    script(main, LIMIT_S)
