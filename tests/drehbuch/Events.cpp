@@ -117,12 +117,18 @@ struct NamedKey
     std::string_view Name;
     std::int16_t Code;
 };
-constexpr std::array<NamedKey, 5> kKeys = {{
+constexpr std::array<NamedKey, 11> kKeys = {{
     {"Enter", kKeyEnter},
     {"Space", kKeySpace},
     {"Esc", kKeyEsc},
     {"Tab", kKeyTab},
     {"F1", kKeyF1},
+    {"Left", kKeyLeft},
+    {"Up", kKeyUp},
+    {"Right", kKeyRight},
+    {"Down", kKeyDown},
+    {"Delete", kKeyDelete},
+    {"Back", kKeyBack},
 }};
 constexpr std::array<NamedKey, 3> kModifiers = {{
     {"Ctrl+", kCtrlKey},

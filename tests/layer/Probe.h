@@ -209,7 +209,7 @@ private:
     {
         static constexpr const char* kArten[] = {"Geometry", "Visible", "Enabled", "Picture",
                                                  "Text",     "Look",    "State",   "Select",
-                                                 "Tip",      "Data"};
+                                                 "Tip",      "Place",   "Data"};
         if (MitAenderungen) {
             Notizen.push_back("changed " + name + " " + kArten[static_cast<int>(what)]);
         }

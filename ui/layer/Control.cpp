@@ -81,6 +81,7 @@ void Visual::CopyFrom(const Visual& other)
     ToolTipText = other.ToolTipText.Get();
     MousePointer = other.MousePointer.Get();
     Tag = other.Tag.Get();
+    ByArrows = other.ByArrows;
 }
 
 }  // namespace malvone

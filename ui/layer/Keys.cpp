@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "ui/layer/App.h"
+#include "ui/layer/Place.h"
 
 namespace malvone {
 namespace {
@@ -118,7 +119,12 @@ bool RouteKey(Window& window, Key key)
     }
     return TakenByShortcut(window, key) || TakenByAccessKey(window, key) ||
            TakenByDefaultButton(window, key) || TakenByFocusedButton(window, key) ||
-           TakenByTab(window, key);
+           TakenByTab(window, key) || TakenByPlace(window, key);
+}
+
+bool MayRepeat(Key key)
+{
+    return key.Code >= kKeyLeft && key.Code <= kKeyDown;
 }
 
 }  // namespace malvone

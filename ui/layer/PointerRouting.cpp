@@ -2,6 +2,7 @@
 #include "ui/layer/PointerRouting.h"
 
 #include "ui/layer/App.h"
+#include "ui/layer/Place.h"
 
 namespace malvone {
 namespace {
@@ -42,6 +43,10 @@ void PointerPressed(Window& window, const Mouse& mouse)
     const EventScope scope;
     if (!window.Pressed) {
         window.Pressed = ControlAt(window, mouse.X, mouse.Y);
+        // Keys may have pointed elsewhere since: nothing is pressed that was not pointed at last.
+        if (window.Place() != nullptr && window.Place() != window.Pressed) {
+            Hover(window, mouse);
+        }
     }
     if (Visual* const target = *window.Pressed; target != nullptr && target->Enabled) {
         target->MouseDown.Raise(target->Index(), Within(*target, mouse));
@@ -50,11 +55,23 @@ void PointerPressed(Window& window, const Mouse& mouse)
 
 void PointerMoved(Window& window, const Mouse& mouse)
 {
+    const bool rests = window.PointerX == mouse.X && window.PointerY == mouse.Y;
+    if (rests && window.Place() != nullptr) {
+        return;
+    }
+    window.PointerX = mouse.X;
+    window.PointerY = mouse.Y;
+    Hover(window, mouse);
+}
+
+void Hover(Window& window, const Mouse& mouse)
+{
     if (!App.TakesInput(window) || (!window.Pressed && !window.InClient(mouse.X, mouse.Y))) {
         return;
     }
     const EventScope scope;
     Visual* const target = window.Pressed.value_or(ControlAt(window, mouse.X, mouse.Y));
+    LeavePlace(window, target);
     if (target == nullptr) {
         window.Form_MouseMove(mouse);
     } else if (target->Enabled) {
@@ -85,7 +102,7 @@ void PointerReleased(Window& window, const Mouse& mouse)
     // the next press would act on a place that the player no longer points at. A pointer that has
     // stayed has been heard of, and a click without a movement stays one.
     if (left) {
-        PointerMoved(window, Mouse{0, mouse.Shift, mouse.X, mouse.Y});
+        Hover(window, Mouse{0, mouse.Shift, mouse.X, mouse.Y});
     }
 }
 

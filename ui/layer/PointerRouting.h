@@ -17,4 +17,8 @@ void PointerPressed(Window& window, const Mouse& mouse);
 void PointerMoved(Window& window, const Mouse& mouse);
 void PointerReleased(Window& window, const Mouse& mouse);
 
+// What a movement does. A pointer that rests is moved by nobody, though browsers tell so when
+// something changes below it: it leaves the place of the arrow keys alone.
+void Hover(Window& window, const Mouse& mouse);
+
 }  // namespace malvone

@@ -17,6 +17,7 @@ enum class Change {
     State,   // Checked, Locked, TabStop, Interval
     Select,  // SelStart, SelLength
     Tip,     // ToolTipText, MousePointer
+    Place,   // the frame of the arrow keys has come to a control, or left it
     Data,    // Tag: nothing that can be seen
 };
 

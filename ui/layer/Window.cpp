@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cassert>
+#include <utility>
 
 #include "ui/layer/App.h"
 
@@ -99,6 +100,16 @@ void Window::SetFocus(Visual* control)
     focus_ = control;
     if (instance_ != nullptr && !App.Ended()) {
         App.Screen().FocusChanged(*this);
+    }
+}
+
+void Window::SetPlace(Visual* control)
+{
+    Visual* const old = std::exchange(place_, control);
+    for (Visual* const changed : {old, control}) {
+        if (changed != nullptr && old != control) {
+            changed->Changed(Change::Place);
+        }
     }
 }
 

@@ -104,6 +104,16 @@ public:
     // surface. Routing keeps it; without a value nothing is pressed.
     std::optional<Visual*> Pressed;
 
+    // Where the arrow keys have led to, null while they lead nowhere; bindings draw a frame there
+    // and hear of its coming and going as Change::Place. Place.h keeps both.
+    Visual* Place() const { return place_; }
+    void SetPlace(Visual* control);
+    // Where the pointer, or a key in its stead, has last been on a control that keys can lead to.
+    Visual* LastPlace = nullptr;
+    // Where the pointer itself was told last.
+    Twips PointerX = -1;
+    Twips PointerY = -1;
+
     virtual void Form_Load() {}
     virtual void Form_Activate() {}
     // A handler that sets KeyCode to 0 has taken the key.
@@ -135,6 +145,7 @@ private:
     std::vector<Control*> controls_;
     mutable std::vector<Visual*> frontToBack_;
     Visual* focus_ = nullptr;
+    Visual* place_ = nullptr;
     bool shown_ = false;
     bool modal_ = false;
 

@@ -21,6 +21,7 @@ FrmTessel::FrmTessel() : Window("frmTessel", 11325, 6945)
     Picture = PictureNamed("frmTessel");
     Icon = PictureNamed("frmTessel.Icon");
     Picture1.Picture = PictureNamed("frmTessel.Picture1");
+    imgFeld(0).ByArrows = true;  // and so are its copies, the cells
     PlaceControls();
     SetLooks();
     SetMenu();

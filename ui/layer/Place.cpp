@@ -1,0 +1,133 @@
+// Place.cpp: from an arrow key to a movement of the pointer.
+#include "ui/layer/Place.h"
+
+#include <cmath>
+#include <vector>
+
+#include "ui/layer/App.h"
+#include "ui/layer/PointerRouting.h"
+
+namespace malvone {
+namespace {
+
+struct Direction
+{
+    std::int16_t Code;
+    int Across;
+    int Down;
+};
+constexpr Direction kDirections[] = {
+    {kKeyLeft, -1, 0},
+    {kKeyRight, 1, 0},
+    {kKeyUp, 0, -1},
+    {kKeyDown, 0, 1},
+};
+
+Mouse MiddleOf(const Visual& visual, std::int16_t button)
+{
+    return {button, 0, visual.WindowLeft() + visual.Width / 2,
+            visual.WindowTop() + visual.Height / 2};
+}
+
+bool LedTo(const Visual& visual)
+{
+    return visual.ByArrows && visual.Reachable();
+}
+
+Visual* BottomLeft(const Window& window)
+{
+    Visual* best = nullptr;
+    for (Visual* const visual : window.FrontToBack()) {
+        const bool better =
+            LedTo(*visual) && (best == nullptr || visual->Left < best->Left ||
+                               (visual->Left == best->Left && visual->Top > best->Top));
+        best = better ? visual : best;
+    }
+    return best;
+}
+
+// The nearest control straight ahead; where there is none, the place stays.
+Visual& Next(const Window& window, Visual& from, const Direction& direction)
+{
+    const Mouse here = MiddleOf(from, 0);
+    Visual* nearest = &from;
+    Twips least = 0;
+    for (Visual* const visual : window.FrontToBack()) {
+        const Mouse there = MiddleOf(*visual, 0);
+        const Twips across = there.X - here.X;
+        const Twips down = there.Y - here.Y;
+        const bool straight = direction.Down == 0 ? std::abs(down) < from.Height / 2
+                                                  : std::abs(across) < from.Width / 2;
+        const Twips ahead = across * static_cast<Twips>(direction.Across) +
+                            down * static_cast<Twips>(direction.Down);
+        if (LedTo(*visual) && straight && ahead > 0 && (nearest == &from || ahead < least)) {
+            nearest = visual;
+            least = ahead;
+        }
+    }
+    return *nearest;
+}
+
+// The movement takes the frame away, as every movement does.
+void PointAt(Window& window, Visual& visual)
+{
+    Hover(window, MiddleOf(visual, 0));
+    window.SetPlace(&visual);
+}
+
+bool TakenByArrow(Window& window, const Direction& direction)
+{
+    if (Visual* const place = window.Place()) {
+        PointAt(window, Next(window, *place, direction));
+        return true;
+    }
+    const bool known = window.LastPlace != nullptr && LedTo(*window.LastPlace);
+    Visual* const start = known ? window.LastPlace : BottomLeft(window);
+    if (start != nullptr) {
+        PointAt(window, *start);
+    }
+    return start != nullptr;
+}
+
+// What lies there when all is done is pointed at, so that the next press takes what is shown.
+bool TakenByPress(Window& window)
+{
+    Visual* const place = window.Place();
+    if (place == nullptr) {
+        return false;
+    }
+    PointerPressed(window, MiddleOf(*place, kLeftButton));
+    PointerReleased(window, MiddleOf(*place, kLeftButton));
+    if (App.TakesInput(window)) {
+        PointAt(window, *place);
+    }
+    return true;
+}
+
+}  // namespace
+
+bool TakenByPlace(Window& window, Key key)
+{
+    if (key.Shift != 0 || window.Pressed) {
+        return false;
+    }
+    if (key.Code == kKeyDelete || key.Code == kKeyBack) {
+        return TakenByPress(window);
+    }
+    for (const Direction& direction : kDirections) {
+        if (direction.Code == key.Code) {
+            return TakenByArrow(window, direction);
+        }
+    }
+    return false;
+}
+
+void LeavePlace(Window& window, Visual* under)
+{
+    window.SetPlace(nullptr);
+    if (under != nullptr && under->ByArrows) {
+        window.LastPlace = under;
+    }
+}
+
+}  // namespace malvone
