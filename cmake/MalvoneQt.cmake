@@ -3,7 +3,7 @@ find_package(Threads REQUIRED)
 find_package(Qt6 6.4 REQUIRED COMPONENTS Widgets Svg)
 find_package(PkgConfig REQUIRED)
 pkg_check_modules(LIBPULSE REQUIRED libpulse)
-pkg_check_modules(XCB IMPORTED_TARGET xcb)
+pkg_check_modules(XCB IMPORTED_TARGET xcb xcb-render)
 
 # libpulse is loaded at run time, beside the start; only its headers are needed here.
 malvone_library(malvone_klang ui/sound)

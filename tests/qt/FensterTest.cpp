@@ -12,6 +12,7 @@
 #include "state/Spielstand.h"
 #include "state/Zellen.h"
 #include "tests/qt/Spieltisch.h"
+#include "ui/qt/BackdropWindow.h"
 #include "ui/qt/PictureStore.h"
 
 namespace malvone::qt {
@@ -50,6 +51,15 @@ protected:
             wrong += painted.copy(place) == expected ? 0 : 1;
         }
         return wrong;
+    }
+
+    static BackdropWindow& Backdrop()
+    {
+        const QWindowList all = QGuiApplication::topLevelWindows();
+        return *qobject_cast<BackdropWindow*>(
+            *std::find_if(all.begin(), all.end(), [](const QWindow* window) {
+                return qobject_cast<const BackdropWindow*>(window) != nullptr;
+            }));
     }
 
     PictureStore pictures_;
@@ -261,12 +271,13 @@ TEST_F(Fenster, YesEndsTheProgramFromInsideItsLoops)
 
 TEST_F(Fenster, TheBackdropCoversTheScreenAndGivesTheFrontBack)
 {
-    FormWidget& backdrop = Form(*frmHintergrund);
+    BackdropWindow& backdrop = Backdrop();
     EXPECT_EQ(backdrop.geometry(), QGuiApplication::primaryScreen()->geometry());
     EXPECT_TRUE(Form(*frmTessel).isActiveWindow());
-    backdrop.activateWindow();
+    backdrop.requestActivate();
     QCoreApplication::processEvents();
     EXPECT_TRUE(Form(*frmTessel).isActiveWindow());
+    backdrop.setWindowStates(Qt::WindowNoState);
     backdrop.resize(600, 500);
     QCoreApplication::processEvents();
     EXPECT_FLOAT_EQ(frmHintergrund->Image1.Width, ToTwips(600));

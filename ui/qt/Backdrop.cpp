@@ -1,18 +1,11 @@
 // Backdrop.cpp: hints to the window manager, and the size of the backdrop.
 #include "ui/qt/Backdrop.h"
 
-#include <QGuiApplication>
-#include <QWidget>
+#include <string_view>
 
 #include "ui/qt/Scale.h"
+#include "ui/qt/X11.h"
 #include "ui/windows/FrmHintergrund.h"
-
-#ifdef MALVONE_XCB
-#include <xcb/xcb.h>
-
-#include <memory>
-#include <string_view>
-#endif
 
 namespace malvone::qt {
 namespace {
@@ -23,14 +16,9 @@ xcb_intern_atom_cookie_t Ask(xcb_connection_t* connection, std::string_view name
     return xcb_intern_atom(connection, 0, static_cast<std::uint16_t>(name.size()), name.data());
 }
 
-xcb_atom_t Answer(xcb_connection_t* connection, xcb_intern_atom_cookie_t cookie)
+xcb_atom_t Atom(xcb_connection_t* connection, xcb_intern_atom_cookie_t cookie)
 {
-    struct Freed
-    {
-        void operator()(void* memory) const { std::free(memory); }
-    };
-    const std::unique_ptr<xcb_intern_atom_reply_t, Freed> reply(
-        xcb_intern_atom_reply(connection, cookie, nullptr));
+    const Answer<xcb_intern_atom_reply_t> reply(xcb_intern_atom_reply(connection, cookie, nullptr));
     return reply ? reply->atom : xcb_atom_t{XCB_ATOM_NONE};
 }
 #endif
@@ -42,23 +30,21 @@ bool IsBackdrop(const Window& window)
     return window.Name() == frmHintergrund.Name();
 }
 
-void KeepOffTaskBar(QWidget& widget)
+void KeepOffTaskBar(WId window)
 {
 #ifdef MALVONE_XCB
-    const auto* const x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-    // Other platforms answer too, without a connection.
-    xcb_connection_t* const connection = x11 != nullptr ? x11->connection() : nullptr;
-    if (connection == nullptr || QGuiApplication::platformName() != QLatin1String("xcb")) {
+    xcb_connection_t* const connection = X11Connection();
+    if (connection == nullptr) {
         return;
     }
     const auto state = Ask(connection, "_NET_WM_STATE");
     const auto taskBar = Ask(connection, "_NET_WM_STATE_SKIP_TASKBAR");
     const auto pager = Ask(connection, "_NET_WM_STATE_SKIP_PAGER");
-    const xcb_atom_t hints[] = {Answer(connection, taskBar), Answer(connection, pager)};
-    xcb_change_property(connection, XCB_PROP_MODE_APPEND, static_cast<xcb_window_t>(widget.winId()),
-                        Answer(connection, state), XCB_ATOM_ATOM, 32, 2, hints);
+    const xcb_atom_t hints[] = {Atom(connection, taskBar), Atom(connection, pager)};
+    xcb_change_property(connection, XCB_PROP_MODE_APPEND, static_cast<xcb_window_t>(window),
+                        Atom(connection, state), XCB_ATOM_ATOM, 32, 2, hints);
 #else
-    (void)widget;
+    static_cast<void>(window);
 #endif
 }
 

@@ -10,7 +10,6 @@
 
 #include "ui/layer/App.h"
 #include "ui/layer/PointerRouting.h"
-#include "ui/qt/Backdrop.h"
 #include "ui/qt/HandCursor.h"
 #include "ui/qt/KeyTable.h"
 #include "ui/qt/LabelText.h"
@@ -76,7 +75,7 @@ void FormWidget::TakeSize()
         menu_->setGeometry(0, 0, client.width(), menu_->heightForWidth(client.width()));
     }
     resize(client.grownBy(QMargins(0, Origin().y(), 0, 0)));
-    if (window_->BorderStyle != Border::Sizable && !IsBackdrop(*window_)) {
+    if (window_->BorderStyle != Border::Sizable) {
         setFixedSize(size());
     }
 }
@@ -102,13 +101,6 @@ void FormWidget::Present(const QWidget* below)
         placement_.ToScreen();
         winId();
         windowHandle()->setTransientParent(below != nullptr ? below->windowHandle() : nullptr);
-        if (IsBackdrop(*window_)) {
-            // The size too: where no window manager is, nobody else sets it.
-            resize(ToWholePixels(window_->Width), ToWholePixels(window_->Height));
-            KeepOffTaskBar(*this);
-            showFullScreen();
-            return;
-        }
         show();
         placement_.FromScreen();
     }
@@ -136,7 +128,7 @@ void FormWidget::Follow(Change what)
 {
     switch (what) {
     case Change::Geometry:
-        if (isVisible() && !IsBackdrop(*window_)) {
+        if (isVisible()) {
             placement_.ToScreen();
         }
         break;
@@ -346,7 +338,7 @@ void FormWidget::closeEvent(QCloseEvent* event)
 void FormWidget::moveEvent(QMoveEvent* event)
 {
     QWidget::moveEvent(event);
-    if (window_ != nullptr && !IsBackdrop(*window_)) {
+    if (window_ != nullptr) {
         placement_.FromScreen();
     }
 }
@@ -357,13 +349,7 @@ void FormWidget::resizeEvent(QResizeEvent* event)
     if (menu_ != nullptr) {
         menu_->setGeometry(0, 0, width(), menu_->heightForWidth(width()));
     }
-    if (window_ == nullptr || !isVisible()) {
-        return;
-    }
-    if (IsBackdrop(*window_)) {
-        FitBackdrop(*window_, width(), height());
-        update();
-    } else {
+    if (window_ != nullptr && isVisible()) {
         placement_.FromScreen();
     }
 }

@@ -98,7 +98,7 @@ void Painting::Paint(const Image& image, const QRectF& place) const
     }
     const QRect target = OnThisScreen(place);
     if (target.width() * target.height() > kLargestKept) {
-        pictures_.PaintOnce(painter_, picture, place);
+        painter_.drawImage(place, pictures_.Coarse(picture));
     } else {
         Put(pictures_.Get(picture, target.size()), target.topLeft());
     }

@@ -1,8 +1,6 @@
 // PictureStore.cpp: renders pictures and keeps them.
 #include "ui/qt/PictureStore.h"
 
-#include <QPainter>
-
 #include "ui/qt/FirstPictures.h"
 #include "ui/qt/PictureFiles.h"
 
@@ -48,9 +46,9 @@ const QImage& PictureStore::Get(const Picture& picture, QSize size, QSize seen)
     return found->second;
 }
 
-void PictureStore::PaintOnce(QPainter& painter, const Picture& picture, const QRectF& place) const
+QImage PictureStore::Coarse(const Picture& picture) const
 {
-    painter.drawImage(place, Render(CoarseLook(picture)));
+    return Render(CoarseLook(picture));
 }
 
 QImage PictureStore::Render(const Look& look) const

@@ -9,8 +9,6 @@
 #include "ui/layer/Picture.h"
 #include "ui/qt/Look.h"
 
-class QPainter;
-
 namespace malvone::qt {
 
 class FirstPictures;
@@ -29,9 +27,9 @@ public:
     // under it: most of a large picture is just that.
     const QImage& GetGround(const Picture& picture, QSize size, QSize seen, QRgb under);
 
-    // Paints a picture coarsely, stretched, and keeps nothing: for a cloudy ground as large as the
-    // screen, which is painted once and would take a quarter of the start if it were fine.
-    void PaintOnce(QPainter& painter, const Picture& picture, const QRectF& place) const;
+    // A picture rendered coarsely, to be stretched, and not kept: for a cloudy ground as large as
+    // the screen, which is painted once and would take a quarter of the start if it were fine.
+    QImage Coarse(const Picture& picture) const;
 
 private:
     FirstPictures* first_;

@@ -9,6 +9,7 @@
 #include "ui/layer/App.h"
 #include "ui/qt/Accessibility.h"
 #include "ui/qt/Backdrop.h"
+#include "ui/qt/BackdropWindow.h"
 #include "ui/qt/FormWidget.h"
 #include "ui/qt/Scale.h"
 
@@ -54,7 +55,7 @@ FormWidget& QtBinding::Make(Window& window, ShowMode mode)
     auto* const form = new FormWidget(window, mode, pictures_);
     forms_.push_back(form);
     QObject::connect(form, &FormWidget::Activated, [this, form] { Activated(*form); });
-    QObject::connect(form, &FormWidget::CloseWished, [this, form] { CloseWished(*form); });
+    QObject::connect(form, &FormWidget::CloseWished, [form] { RaiseClose(*form->Model()); });
     return *form;
 }
 
@@ -73,7 +74,7 @@ QWidget* QtBinding::ParentOf(const Window& window) const
     QWidget* parent = nullptr;
     for (FormWidget* const form : forms_) {
         const Window* const other = form->Model();
-        if (other != &window && other->Shown() && form->isVisible() && !IsBackdrop(*other)) {
+        if (other != &window && other->Shown() && form->isVisible()) {
             parent = form;
         }
     }
@@ -82,6 +83,10 @@ QWidget* QtBinding::ParentOf(const Window& window) const
 
 void QtBinding::WindowShown(Window& window, ShowMode mode)
 {
+    if (IsBackdrop(window)) {
+        ShowBackdrop(window);
+        return;
+    }
     FormWidget* form = FormOf(window);
     if (form == nullptr) {
         form = &Make(window, mode);
@@ -98,8 +103,23 @@ void QtBinding::WindowShown(Window& window, ShowMode mode)
     form->FollowFocus();
 }
 
+void QtBinding::ShowBackdrop(Window& window)
+{
+    if (backdrop_ == nullptr) {
+        backdrop_ = std::make_unique<BackdropWindow>(window, pictures_);
+        QObject::connect(backdrop_.get(), &BackdropWindow::Activated,
+                         [this] { BackdropActivated(); });
+        QObject::connect(backdrop_.get(), &BackdropWindow::CloseWished,
+                         [this] { CloseMainWindow(); });
+    }
+    backdrop_->Present();
+}
+
 void QtBinding::WindowHidden(Window& window)
 {
+    if (IsBackdrop(window) && backdrop_ != nullptr) {
+        backdrop_->hide();
+    }
     if (FormWidget* const form = FormOf(window)) {
         form->hide();
     }
@@ -109,6 +129,10 @@ void QtBinding::WindowHidden(Window& window)
 void QtBinding::WindowUnloaded(Window& window)
 {
     timers_.Forget(window);
+    if (IsBackdrop(window) && backdrop_ != nullptr) {
+        // One of its own events may be what unloads the window.
+        backdrop_.release()->deleteLater();
+    }
     if (FormWidget* const form = FormOf(window)) {
         std::erase(forms_, form);
         form->Detach();
@@ -176,22 +200,32 @@ void QtBinding::Ended()
     for (FormWidget* const form : forms_) {
         form->hide();
     }
+    if (backdrop_ != nullptr) {
+        backdrop_->hide();
+    }
     QCoreApplication::exit(0);
 }
 
-// A modal window gives the front to nobody. A backdrop that has come to the front gives it back:
-// without a modal window the game does that itself.
+// A modal window gives the front to nobody.
 // By design (aktiv-nur-beim-zeigen): one would expect Form_Activate for every window that comes
 // back to the front. Only the backdrop gets it: the window of the best players would put its list's
 // names back over one that is being typed. Test: Namen.ANameBeingTypedSurvivesAnotherWindow
 void QtBinding::Activated(const FormWidget& form)
 {
     const Window* const modal = App.TopModal();
-    const bool backdrop = IsBackdrop(*form.Model());
-    if (modal == nullptr && backdrop) {
-        RaiseActivate(*form.Model());
-    } else if (modal != nullptr && form.Model() != modal) {
-        BringToFront(backdrop ? nullptr : modal);
+    if (modal != nullptr && form.Model() != modal) {
+        BringToFront(modal);
+    }
+}
+
+// A backdrop that has come to the front gives it back: without a modal window the game does that
+// itself.
+void QtBinding::BackdropActivated()
+{
+    if (App.TopModal() == nullptr) {
+        RaiseActivate(backdrop_->Model());
+    } else {
+        BringToFront(nullptr);
     }
 }
 
@@ -200,8 +234,7 @@ void QtBinding::Activated(const FormWidget& form)
 void QtBinding::BringToFront(const Window* only)
 {
     for (FormWidget* const form : forms_) {
-        const Window* const window = form->Model();
-        if (form->isVisible() && !IsBackdrop(*window) && (only == nullptr || only == window)) {
+        if (form->isVisible() && (only == nullptr || only == form->Model())) {
             form->raise();
             form->activateWindow();
         }
@@ -209,17 +242,13 @@ void QtBinding::BringToFront(const Window* only)
 }
 
 // The backdrop goes with the game: whoever closes it closes the game.
-void QtBinding::CloseWished(const FormWidget& form)
+void QtBinding::CloseMainWindow()
 {
-    Window* window = form.Model();
-    if (IsBackdrop(*window)) {
-        const auto main = std::find_if(forms_.begin(), forms_.end(), [](const FormWidget* other) {
-            return !other->Model()->MenuEntries().empty();
-        });
-        window = main == forms_.end() ? nullptr : (*main)->Model();
-    }
-    if (window != nullptr) {
-        RaiseClose(*window);
+    const auto main = std::find_if(forms_.begin(), forms_.end(), [](const FormWidget* form) {
+        return !form->Model()->MenuEntries().empty();
+    });
+    if (main != forms_.end()) {
+        RaiseClose(*(*main)->Model());
     }
 }
 

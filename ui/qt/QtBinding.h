@@ -11,6 +11,7 @@
 
 namespace malvone::qt {
 
+class BackdropWindow;
 class FormWidget;
 
 // Needs a QApplication that lives longer.
@@ -33,7 +34,7 @@ public:
     void DragWindow(Window& window) override;
     void Ended() override;
 
-    // What shows a window on the screen; null while nothing does.
+    // What shows a window on the screen; null while nothing does, and for the backdrop.
     FormWidget* FormOf(const Window& window) const;
 
 private:
@@ -48,13 +49,16 @@ private:
     // In the order in which they were made: the windows that are shown first lie lowest.
     std::vector<FormWidget*> forms_;
     std::vector<ModalLoop> loops_;
+    std::unique_ptr<BackdropWindow> backdrop_;
 
     FormWidget& Make(Window& window, ShowMode mode);
     QWidget* ParentOf(const Window& window) const;
+    void ShowBackdrop(Window& window);
     void Activated(const FormWidget& form);
+    void BackdropActivated();
     // All windows of the game from the lowest to the topmost, or only one of them.
     void BringToFront(const Window* only);
-    void CloseWished(const FormWidget& form);
+    void CloseMainWindow();
     void LeaveLoop(const Window& window);
 };
 

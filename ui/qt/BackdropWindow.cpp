@@ -1,0 +1,102 @@
+// BackdropWindow.cpp: shows the backdrop, and paints it where the display server does not.
+#include "ui/qt/BackdropWindow.h"
+
+#include <QCloseEvent>
+#include <QPaintEvent>
+#include <QPainter>
+#include <QScreen>
+
+#include "ui/layer/App.h"
+#include "ui/qt/Backdrop.h"
+#include "ui/qt/Painting.h"
+#include "ui/qt/PictureStore.h"
+#include "ui/qt/ServerGround.h"
+#include "ui/windows/FrmHintergrund.h"
+
+namespace malvone::qt {
+
+BackdropWindow::BackdropWindow(malvone::Window& model, PictureStore& pictures)
+    : model_(model), pictures_(pictures)
+{
+    setFlags(Qt::Window | Qt::FramelessWindowHint);
+    setSurfaceType(QSurface::RasterSurface);
+    // Its caption is not meant to be seen, but a list of windows shows some name.
+    setTitle(QStringLiteral("Malvone"));
+    connect(this, &QWindow::activeChanged, this, [this] {
+        if (isActive()) {
+            Q_EMIT Activated();
+        }
+    });
+}
+
+// The size too is set here: where no window manager is, nobody else sets it.
+void BackdropWindow::Present()
+{
+    if (isVisible()) {
+        return;
+    }
+    setGeometry(screen()->geometry());
+    create();
+    KeepOffTaskBar(winId());
+    TryServer();
+    setWindowStates(Qt::WindowFullScreen);
+    setVisible(true);
+}
+
+void BackdropWindow::TryServer()
+{
+    const Image& image = static_cast<FrmHintergrund&>(model_).Image1;
+    painted_ = PaintOnServer(*this, pictures_.Coarse(image.Picture));
+    if (painted_) {
+        store_.reset();
+    }
+}
+
+void BackdropWindow::paintEvent(QPaintEvent* event)
+{
+    if (!painted_) {
+        PaintHere(event->region());
+    }
+}
+
+void BackdropWindow::PaintHere(const QRegion& region)
+{
+    if (store_ == nullptr) {
+        store_ = std::make_unique<QBackingStore>(this);
+    }
+    const bool fresh = store_->size() != size();
+    const QRegion dirty = fresh ? QRegion(QRect(QPoint(), size())) : region;
+    store_->resize(size());
+    store_->beginPaint(dirty);
+    {
+        QPainter painter(store_->paintDevice());
+        painter.setClipRegion(dirty);
+        PaintWindow(painter, model_, pictures_, dirty, size());
+    }
+    store_->endPaint();
+    store_->flush(dirty);
+}
+
+void BackdropWindow::resizeEvent(QResizeEvent* event)
+{
+    QWindow::resizeEvent(event);
+    FitBackdrop(model_, width(), height());
+    if (painted_) {
+        TryServer();
+    }
+}
+
+// The game decides whether its windows close.
+bool BackdropWindow::event(QEvent* event)
+{
+    if (event->type() == QEvent::Close) {
+        event->setAccepted(App.Ended());
+        if (!App.Ended()) {
+            Q_EMIT CloseWished();
+        }
+        return true;
+    }
+    return QWindow::event(event);
+}
+
+}  // namespace malvone::qt

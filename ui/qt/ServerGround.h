@@ -1,0 +1,14 @@
+// ServerGround.h: lets an X server paint a window by itself, so that the program holds no memory of
+// the window's size and does nothing when a part of it comes to light again.
+#pragma once
+
+class QImage;
+class QWindow;
+
+namespace malvone::qt {
+
+// Makes a picture, stretched to the window's size, the window's ground. False where the display is
+// no X server, or one that cannot stretch: then the window has to be painted here.
+bool PaintOnServer(QWindow& window, const QImage& picture);
+
+}  // namespace malvone::qt
