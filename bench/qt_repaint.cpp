@@ -12,7 +12,7 @@
 #include "ui/qt/Painting.h"
 #include "ui/qt/QtBinding.h"
 #include "ui/qt/QtPlatform.h"
-#include "ui/sound/Klang.h"
+#include "ui/sound/Sound.h"
 #include "ui/windows/FrmTessel.h"
 
 namespace malvone::qt {
@@ -37,7 +37,7 @@ void Click(FormWidget& form, const Visual& target)
 struct Table
 {
     QTemporaryDir folder;
-    Klang klang;
+    Sound klang;
     QtPlatform platform{folder.path().toStdString(), folder.path().toStdString(), klang};
     QtBinding binding;
 

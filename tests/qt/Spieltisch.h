@@ -19,7 +19,7 @@
 #include "ui/qt/QtBinding.h"
 #include "ui/qt/QtPlatform.h"
 #include "ui/qt/Scale.h"
-#include "ui/sound/Klang.h"
+#include "ui/sound/Sound.h"
 #include "ui/windows/FrmBeste.h"
 #include "ui/windows/FrmHintergrund.h"
 #include "ui/windows/FrmMsgJa.h"
@@ -115,7 +115,7 @@ protected:
     static QImage Painted(FormWidget& form) { return form.grab().toImage(); }
 
     QTemporaryDir folder_;
-    Klang klang_;  // never made ready: silent
+    Sound klang_;  // never made ready: silent
     std::unique_ptr<QtPlatform> platform_;
     std::unique_ptr<QtBinding> binding_;
 };
