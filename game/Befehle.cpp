@@ -31,9 +31,9 @@ void FrmTessel::cmdSchalt_Click(std::int16_t Index)
 {
     switch (Index) {
     // By design (taste-ueberspringt): one would expect a question, or a price, for a level that is
-    // left. There is none. Test: Befehle.EnterSkipsALevelWithoutLoss
+    // left. There is none. Test: games.befehle_wirkung
     // By design (pfeil-blinkt-weiter): one would expect the arrow to go. It stays until a picture
-    // or label is clicked. Test: Start.EnterBeginsALevelAndLeavesTheArrowBlinking
+    // or label is clicked. Test: games.neues_spiel
     case kSchaltWeiter:
         Stand.KeinSpielBegonnen = false;
         FeldFuellen();
@@ -41,7 +41,7 @@ void FrmTessel::cmdSchalt_Click(std::int16_t Index)
         break;
     // By design (wiederholung-zaehlt): one would expect the level to keep its number and its
     // points to go. By menu or keyboard the number rises by one and all points stay; only the
-    // picture gives them back. Test: Befehle.RepeatByMenuRaisesTheLevel
+    // picture gives them back. Test: games.befehle_wirkung
     case kSchaltWiederholen:
         StandLaden();
         SoundSpielen(kTonBeginn);
@@ -61,7 +61,7 @@ void FrmTessel::imgNaechsterLevel_Click()
     Stand.LevelWiederholt = 0;
     // By design (level-anzeige-spaeter): one would expect the new number at once. The displays are
     // painted before it rises and show it with the first removal of the level.
-    // Test: Befehle.LevelDisplayLagsUntilTheFirstRemoval
+    // Test: games.verlauf
     AnzeigenAktualisieren();
     cmdSchalt_Click(kSchaltWeiter);
 }
@@ -74,7 +74,7 @@ void FrmTessel::imgWiederholen_Click()
     AngebotAus();
     // By design (wiederholung-nimmt-alles): one would expect only the points of this level to go.
     // An emptied level before it has noted nothing, so its points go too.
-    // Test: Befehle.RepeatTakesBackWhatAnEmptiedLevelHasEarned
+    // Test: games.verlauf
     Stand.PunkteGesamt = Stand.PunkteLevelStart;
     Stand.LevelPunkte = 0;
     --Stand.RundenZahl;
@@ -91,7 +91,8 @@ void FrmTessel::ExternesEnde()
                      "Möchten Sie ein neues Spiel beginnen?\"",
                      "\r\n»Neues Spiel« bestätigen")) {
         // By design (halbes-angebot): one would expect the whole offer to go. Only the next level
-        // does. Test: Levelende.OnlyLevelFiveEndsTheGame
+        // does. Test:
+        // Levelende.TheEndOfAGameTakesOnePictureOfTheOfferAndItsArrow
         imgNext.Picture = frmBilder->imgPfeil(kPfeilLeer).Picture;
         imgNaechsterLevel.Visible = false;
         Beste.EndPunkte = 0;

@@ -36,7 +36,7 @@ void FrmTessel::BelegteFelderZaehlen()
 }
 
 // By design (bonus-spaeter): one would expect the displays to count the bonus at once. They change
-// with the first removal of the new level. Test: Levelende.BonusShowsWithTheNextRemoval
+// with the first removal of the new level. Test: games.leeres_brett
 void FrmTessel::LeeresFeldBelohnen()
 {
     lblSumme.Caption = "";
@@ -52,7 +52,7 @@ void FrmTessel::LevelAuswerten()
     MeldungZeigen("\r\nEs ist kein weiterer Zug mehr möglich.\r\n" + RestText(Stand.BelegtZahl),
                   "\r\nSie erhalten keine Bonuspunkte in diesem Level.", Versatz{-1000, -1000});
     // By design (level-sechs): one would expect every level from 5 on to end the game. Only level 5
-    // does; who empties it plays on without an end. Test: Levelende.OnlyLevelFiveEndsTheGame
+    // does; who empties it plays on without an end. Test: games.leeres_brett
     if (Stand.RundenZahl == kLetzterLevel) {
         BestePruefen();
         lblSumme.Caption = "";
@@ -61,7 +61,7 @@ void FrmTessel::LevelAuswerten()
     lblSumme.Caption = "";
     // By design (nur-einmal): one would expect a new level to be offered in full. The mark of a
     // repeat outlives a level that is emptied.
-    // Test: Levelende.EmptiedRepeatStillMakesTheReducedOffer
+    // Test: games.leeres_brett
     const bool volles = Stand.LevelWiederholt == 0;
     imgNaechsterLevel.Visible = true;
     imgWiederholen.Visible = volles;

@@ -139,7 +139,7 @@ void FrmBeste::cmdEnde_Click()
     if (Beste.EintragModus == True) {
         TextBox& name = txtSpieler(Beste.EintragPlatz);
         // By design (blanker-name): one would expect a name of blanks to count as empty. It is
-        // saved as typed. Test: BesteFenster.OnlyAnEmptyNameBecomesSpieler
+        // saved as typed. Test: games.eintrag
         if (name.Text.Get().empty()) {
             name.Text = kNeuerName;
             lstName.SetList(Beste.EintragPlatz, kNeuerName);
@@ -158,7 +158,7 @@ void FrmBeste::cmdTessel_Click()
     }
     // By design (niemand-ist-frei): one would expect an entry of a player who calls himself
     // "Niemand" to be worth a wipe. His name counts as a free place.
-    // Test: BesteFenster.AListOfNobodyIsNeverWiped
+    // Test: games.eintrag
     if (!alleFrei && FrageStellen(kAlleLoeschen)) {
         if (ExistiertDatei(BesteDatei())) {
             App.System().DeleteFileA(BesteDatei());
@@ -170,7 +170,7 @@ void FrmBeste::cmdTessel_Click()
     }
     // By design (fenster-geht-zu): one would expect the answer no to lead back to the list. The
     // window closes whatever the answer was. Test:
-    // BesteFenster.TheWipeClosesTheWindowWhateverTheAnswer
+    // games.beste_liste
     Visible = false;
 }
 
@@ -189,7 +189,7 @@ void FrmBeste::Form_KeyDown(std::int16_t& KeyCode, std::int16_t /*Shift*/)
 void FrmBeste::Form_Unload()
 {
     // By design (verlorener-eintrag): one would expect an entry to be saved by the title bar's
-    // close box too. Only cmdEnde saves. Test: BesteFenster.TheTitleBarLosesTheEntry
+    // close box too. Only cmdEnde saves. Test: games.eintrag
     Visible = false;
 }
 

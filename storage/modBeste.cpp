@@ -55,7 +55,7 @@ std::string BesteDatei()
 {
     // By design (wurzel-der-platte): one would expect DatenPfad. The list takes the data folder
     // directly, so without one it lies in the root of the drive, while the snapshot goes to the
-    // program's folder. Test: Datenordner.WithoutAWindowsFolderTheTwoFilesGoDifferentWays
+    // program's folder. Test: games.start_ohne_windowsordner
     return MitBackslash(Daten.DatenOrdner) + "malvone.txt";
 }
 

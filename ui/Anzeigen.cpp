@@ -33,7 +33,7 @@ void Schreiben(const Stellen& stellen, std::int32_t zahl)
 
 // By design (volle-anzeige): one would expect the digits that fit. A number with more digits than
 // the display has places shows a 9 in every place, which says "at least so many" and never names
-// fewer points than there are. Test: Anzeigen.MorePointsThanPlacesShowNines
+// fewer points than there are. Test: Anzeigen.NumbersStandAtTheRightAndNinesWhereTheyEnd
 void PunkteSchreiben(const Stellen& stellen, std::int32_t punkte)
 {
     std::int32_t hoechste = 0;
@@ -57,7 +57,8 @@ void AnzeigenAktualisieren()
     PunkteSchreiben(frmTessel->imgDiggiPunkte, Stand.PunkteGesamt);
     PunkteSchreiben(frmTessel->imgDiggiLevelPunkte, Stand.LevelPunkte);
     // By design (dunkler-level): one would expect two digits from level 10 on. The second place is
-    // never lit, and a number without room leaves both dark. Test: Anzeigen.LevelTenIsDark
+    // never lit, and a number without room leaves both dark.
+    // Test: Anzeigen.NumbersStandAtTheRightAndNinesWhereTheyEnd
     if (Stand.RundenZahl >= 0 && Stand.RundenZahl <= 9) {
         Schreiben(level, Stand.RundenZahl);
     }

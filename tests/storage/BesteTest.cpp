@@ -1,252 +1,89 @@
-// BesteTest.cpp: the best list in its file and in memory, and which result comes into it.
+// BesteTest.cpp: the best list where no script comes: results of any size, numbers that are none,
+// and files that fail. What the player sees and types stands in the played games.
 #include <gtest/gtest.h>
 
+#include "state/Beste.h"
 #include "state/Spielstand.h"
 #include "storage/modBeste.h"
-#include "tests/support/StilleBindung.h"
+#include "tests/support/Game.h"
 #include "ui/windows/FrmBeste.h"
-#include "ui/windows/FrmTessel.h"
 
-namespace malvone {
+namespace malvone::test {
 namespace {
 
-namespace fs = std::filesystem;
-using Texte = std::vector<std::string>;
+const std::string kDefault = "Niemand\r\nNiemand\r\nNiemand\r\nNiemand\r\nNiemand\r\n"
+                             "5000\r\n4700\r\n4400\r\n4100\r\n3800\r\n";
+using Call = FaultyPlatform::Call;
 
-const std::string kNamen = "Niemand\r\nNiemand\r\nNiemand\r\nNiemand\r\nNiemand\r\n";
-const std::string kVorgabe = kNamen + "5000\r\n4700\r\n4400\r\n4100\r\n3800\r\n";
-
-const std::string kKeinEintrag =
-    "frmMsgOk: Ein Eintrag in die Liste der »Besten Spieler«\r\nist leider nicht möglich! | "
-    "\r\nMehr Erfolg beim nächsten Spiel.";
-const std::string kNeueBestmarke =
-    "frmMsgJa: Sehr gut!!\r\nSie haben eine neue Bestmarke erreicht. | "
-    "Möchten Sie sich in die Liste der »Besten Spieler« eintragen?";
-const std::string kNeuesSpiel =
-    "frmMsgJa: \r\nDas aktuelle Spiel ist beendet.\r\nMöchten Sie ein neues Spiel beginnen?\" | "
-    "\r\n»Neues Spiel« bestätigen";
-const std::string kNichtGespeichert =
-    "frmMsgOk: \r\nDie Werte für »Beste Spieler«\r\nkonnten nicht gespeichert werden. | "
-    "\r\n\r\nFehler beim Speichern";
-
-std::string NichtLesbar(int nummer)
+// One row of digit places as it is seen, dark places as ".".
+std::string Digits(int place)
 {
-    return "frmMsgOk: \r\nDie Daten für »Beste Spieler«\r\nkonnten nicht gelesen werden! | "
-           "\r\nFehlernummer: " +
-           std::to_string(nummer);
-}
-
-Texte Inhalt(const ListBox& liste)
-{
-    Texte texte;
-    for (int i = 0; i < liste.ListCount(); ++i) {
-        texte.push_back(liste.List(i));
-    }
-    return texte;
-}
-
-// Started, with a list of the test's own in the file.
-struct Gestartet : Programm
-{
-    explicit Gestartet(const std::string& liste = kVorgabe)
-    {
-        DateiSchreiben(Bestendatei(), liste);
-        Starten();
-    }
-    // The end of a game with so many points.
-    void Ende(std::int32_t punkte, std::deque<Antwort> antworten)
-    {
-        Antworten(std::move(antworten));
-        Stand.PunkteGesamt = punkte;
-        BestePruefen();
-    }
-};
-
-TEST(BesteLesen, ADamagedFileIsReadAsFarAsItGoes)
-{
-    const Texte niemand(5, "Niemand");
-    const struct
-    {
-        const char* Was;
-        std::string Inhalt;
-        int Fehlernummer;
-        Texte Namen;
-        Texte Punkte;
-    } cases[] = {
-        {"default", kVorgabe, 0, niemand, {"5000", "4700", "4400", "4100", "3800"}},
-        {"eleven lines", kVorgabe + "x\r\n", 0, niemand, {"5000", "4700", "4400", "4100", "3800"}},
-        {"nine lines", kNamen + "1\n2\n3\n4\n", 62, niemand, {"1", "2", "3", "4"}},
-        {"three lines", "a\rb\rc", 62, {"a", "b", "c"}, {}},
-        {"empty", "", 62, {}, {}},
-        {"zeros", std::string(100, '\0'), 62, {std::string(100, '\0')}, {}},
-        {"one long line", std::string(1 << 20, 'x'), 57, {}, {}},
-        {"no numbers",
-         "a\nb\nc\nd\ne\nf\n\n-\n99999999999\n1",
-         0,
-         {"a", "b", "c", "d", "e"},
-         {"f", "", "-", "99999999999", "1"}},
-    };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.Was);
-        Gestartet programm(c.Inhalt);
-        programm.VerlaufSeitdem();
-        programm.Antworten({Klick("lblOk")});
-        EXPECT_EQ(Inhalt(frmBeste->lstName), c.Namen);  // the first touch reads the file
-        EXPECT_EQ(Inhalt(frmBeste->lstPunkte), c.Punkte);
-        EXPECT_EQ(programm.VerlaufSeitdem(),
-                  c.Fehlernummer == 0 ? Verlauf{} : Verlauf{NichtLesbar(c.Fehlernummer)});
-        EXPECT_EQ(Dateiinhalt(programm.Bestendatei()), c.Inhalt);
-    }
-}
-
-TEST(BesteLesen, AFileThatCannotBeOpenedIsToldByItsNumber)
-{
-    const struct
-    {
-        int Fehler;
-        int Nummer;
-    } cases[] = {{ENOENT, 53}, {EACCES, 70}, {EISDIR, 75}, {EIO, 57}};
-    for (const auto& c : cases) {
-        Gestartet programm;
-        programm.VerlaufSeitdem();
-        programm.Plattform.Gestoert = TestPlattform::Aufruf::Open;
-        programm.Plattform.Fehler = c.Fehler;
-        programm.Antworten({Klick("lblOk")});
-        EXPECT_EQ(frmBeste->lstName.ListCount() + frmBeste->lstPunkte.ListCount(), 0);
-        EXPECT_EQ(programm.VerlaufSeitdem(), Verlauf{NichtLesbar(c.Nummer)});
-    }
-}
-
-TEST(BesteSpeichern, NamesComeBackAsTheyWere)
-{
-    const Texte namen = {"Jürgen »€« Groß", "\"a\", b, 'c'", "  vorn und hinten  ", "",
-                         std::string(60000, 'x')};
-    const Texte punkte = {"9", " 8 ", "-", "", "2147483647"};
-    Gestartet programm;
-    frmBeste->lstName.Clear();
-    frmBeste->lstPunkte.Clear();
-    for (std::size_t i = 0; i < namen.size(); ++i) {
-        frmBeste->lstName.AddItem(namen[i]);
-        frmBeste->lstPunkte.AddItem(punkte[i]);
-    }
-    BesteSpeichern();
-    EXPECT_EQ(Dateiinhalt(programm.Bestendatei()),
-              "J\xFCrgen \xBB\x80\xAB Gro\xDF\r\n\"a\", b, 'c'\r\n  vorn und hinten  \r\n\r\n" +
-                  namen[4] + "\r\n9\r\n 8 \r\n-\r\n\r\n2147483647\r\n");
-    BesteLesen();
-    EXPECT_EQ(Inhalt(frmBeste->lstName), namen);
-    EXPECT_EQ(Inhalt(frmBeste->lstPunkte), punkte);
-}
-
-TEST(BesteSpeichern, AFailureIsToldAndLeavesTheFile)
-{
-    Gestartet programm;
-    frmBeste->lstName.SetList(0, "neu");
-    programm.VerlaufSeitdem();
-    programm.Plattform.Gestoert = TestPlattform::Aufruf::Sync;
-    programm.Plattform.Fehler = ENOSPC;
-    programm.Antworten({Klick("lblOk")});
-    BesteSpeichern();
-    EXPECT_EQ(programm.VerlaufSeitdem(), Verlauf{kNichtGespeichert});
-    EXPECT_EQ(Dateiinhalt(programm.Bestendatei()), kVorgabe);
-    EXPECT_EQ(frmBeste->lstName.List(0), "neu");
-}
-
-TEST(BesteVorgabe, ADefaultListThatCannotBeWrittenIsSilent)
-{
-    Gestartet programm("old");
-    programm.VerlaufSeitdem();
-    programm.Plattform.Gestoert = TestPlattform::Aufruf::Rename;
-    programm.Plattform.Fehler = EACCES;
-    BesteVorgabe();
-    EXPECT_EQ(programm.VerlaufSeitdem(), Verlauf{});
-    EXPECT_EQ(Dateiinhalt(programm.Bestendatei()), "old");
-}
-
-const std::string kFuenf = "A\r\nB\r\nC\r\nD\r\nE\r\n500\r\n400\r\n300\r\n200\r\n100\r\n";
-
-TEST(BesteEintragen, TheEntryMovesTheWorseOnesDown)
-{
-    const struct
-    {
-        std::int32_t Punkte;
-        Texte Namen;
-        Texte Werte;
-    } cases[] = {
-        {501, {"Spieler", "A", "B", "C", "D"}, {"501", "500", "400", "300", "200"}},
-        {500, {"A", "Spieler", "B", "C", "D"}, {"500", "500", "400", "300", "200"}},
-        {301, {"A", "B", "Spieler", "C", "D"}, {"500", "400", "301", "300", "200"}},
-        {201, {"A", "B", "C", "Spieler", "D"}, {"500", "400", "300", "201", "200"}},
-        {101, {"A", "B", "C", "D", "Spieler"}, {"500", "400", "300", "200", "101"}},
-    };
-    for (const auto& c : cases) {
-        Gestartet programm(kFuenf);
-        Texte namen;
-        Texte werte;
-        std::optional<std::string> datei;
-        programm.Ende(c.Punkte, {Taste('J'),
-                                 [&](Window& fenster) {
-                                     namen = Inhalt(frmBeste->lstName);
-                                     werte = Inhalt(frmBeste->lstPunkte);
-                                     datei = Dateiinhalt(programm.Bestendatei());
-                                     RaiseClick(*fenster.Find("cmdEnde"));
-                                 },
-                                 Taste('J')});
-        EXPECT_EQ(namen, c.Namen);
-        EXPECT_EQ(werte, c.Werte);
-        EXPECT_EQ(datei, kFuenf) << "the file is written when the window closes, not before";
-        std::string neu;
-        for (const Texte& texte : {c.Namen, c.Werte}) {
-            for (const std::string& text : texte) {
-                neu += text + "\r\n";
-            }
+    std::string digits;
+    for (int k = kZiffernJePlatz - 1; k >= 0; --k) {
+        const Image& image = frmBeste->imgDiggi(place * kZiffernJePlatz + k);
+        const std::string_view name = image.Picture->Name();
+        if (image.Visible) {
+            digits += name.ends_with("(10)") ? '.' : name[name.size() - 2];
         }
-        EXPECT_EQ(Dateiinhalt(programm.Bestendatei()), neu);
+    }
+    return digits;
+}
+
+TEST(BesteFenster, ARowShowsItsPoints)
+{
+    const std::pair<const char*, const char*> cases[] = {
+        {"5000", "..5000"},
+        {"1", ".....1"},
+        {"0", "......"},
+        {"000", "......"},
+        {"007", "...007"},
+        {"654321", "654321"},
+        {"7654321", "654321"},     // the first digit lies in the place that is never visible
+        {"12345678", "999999"},    // more than seven digits: at least so much
+        {"2147483647", "999999"},  //
+        {"2147483648", "......"},  // no number counts as 0
+        {"", "......"},
+        {"12x4", "......"},
+        {"-42", "....42"},
+        {"  42 ", "...42."},
+        {"0000000000042", "000042"},
+        {"四十二", "......"},
+    };
+    Game game;
+    game("do frmTessel.mnuInfo(4) Click\ndo frmBeste.cmdEnde Click\n");
+    for (const auto& [points, digits] : cases) {
+        game("set frmBeste.lstPunkte.List(2) " + std::string(points) +
+             "\ndo frmTessel.mnuInfo(4) Click\ndo frmBeste.cmdEnde Click\n");
+        EXPECT_EQ(Digits(2), digits) << points;
+        EXPECT_EQ(Digits(1) + Digits(3), "..4700..4100");
     }
 }
 
 TEST(BestePruefen, OnlyAGreaterResultTakesAPlace)
 {
-    const struct
-    {
-        std::int32_t Punkte;
-        int Platz;
-    } cases[] = {{-1, -1},  {0, -1},   {3800, -1}, {3801, 4}, {4100, 4},
-                 {4700, 2}, {4999, 1}, {5000, 1},  {5001, 0}, {2147483647, 0}};
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.Punkte);
-        Gestartet programm;
-        programm.VerlaufSeitdem();
-        programm.Ende(c.Punkte, {Taste(kKeyEsc), Taste(kKeyEsc)});
-        EXPECT_EQ(Beste.EintragPlatz, c.Platz);
-        EXPECT_EQ(Beste.EndPunkte, c.Punkte);
-        EXPECT_EQ(Beste.EintragModus, False);
-        EXPECT_EQ(programm.VerlaufSeitdem(),
-                  (Verlauf{c.Platz == -1 ? kKeinEintrag : kNeueBestmarke, kNeuesSpiel}));
-        EXPECT_TRUE(App.Ended());
-        EXPECT_EQ(Dateiinhalt(programm.Bestendatei()), kVorgabe);
+    const std::pair<std::int32_t, int> cases[] = {{-1, -1},  {0, -1},        {3800, -1}, {3801, 4},
+                                                  {4100, 4}, {4700, 2},      {4999, 1},  {5000, 1},
+                                                  {5001, 0}, {2147483647, 0}};
+    for (const auto& [points, place] : cases) {
+        SCOPED_TRACE(points);
+        Game game;
+        Stand.PunkteGesamt = points;
+        const std::string told = game("key Esc\nkey Esc\n", &BestePruefen);
+        EXPECT_EQ(Beste.EintragPlatz, place);
+        EXPECT_EQ(Beste.EndPunkte, points);
+        EXPECT_EQ(told.starts_with("! show frmMsgOk"), place == -1) << told;
+        EXPECT_TRUE(told.ends_with("! end\n")) << told;
+        EXPECT_EQ(Contents(game.BestList), kDefault);
     }
-}
-
-TEST(BestePruefen, TheEndOfAGameLeadsThroughTheEntryIntoTheNext)
-{
-    Gestartet programm;
-    programm.VerlaufSeitdem();
-    programm.Ende(6000, {Taste('J'), [](Window&) { frmBeste->txtSpieler(0).Type("Jörg €"); },
-                         Klick("cmdEnde"), Taste('J')});
-    EXPECT_EQ(programm.VerlaufSeitdem(), (Verlauf{kNeueBestmarke, "frmBeste", kNeuesSpiel}));
-    EXPECT_EQ(Dateiinhalt(programm.Bestendatei())->substr(0, 17), "J\xF6rg \x80\r\nNiemand\r\n");
-    EXPECT_EQ(Stand.RundenZahl, 1);
-    EXPECT_EQ(Beste.EndPunkte, 0);
 }
 
 TEST(BestePruefen, APlaceWithoutANumberCountsAsNothing)
 {
     const struct
     {
-        const char* Liste;
-        std::int32_t Punkte;
-        int Platz;
+        const char* List;
+        std::int32_t Points;
+        int Place;
     } cases[] = {
         {"a\nb\nc\nd\ne\n500\nx\n300\n200\n100\n", 1, 1}, {"a\nb\nc\nd\ne\n99999999999\n", 1, 0},
         {"a\nb\nc\nd\ne\n500\n400\n300\n", 10, 3},  // the last two lines are missing
@@ -254,22 +91,96 @@ TEST(BestePruefen, APlaceWithoutANumberCountsAsNothing)
         {"a\nb\nc\nd\ne\n-5\n-6\n\n\n\n", 0, 0},
     };
     for (const auto& c : cases) {
-        SCOPED_TRACE(c.Liste);
-        Gestartet programm(c.Liste);
-        static_cast<void>(frmBeste->Name());
-        programm.Ende(c.Punkte, {Taste('N'), Taste('N')});
-        EXPECT_EQ(Beste.EintragPlatz, c.Platz);
-        EXPECT_EQ(Dateiinhalt(programm.Bestendatei()), c.Liste);
+        SCOPED_TRACE(c.List);
+        Game game;
+        WriteFile(game.BestList, c.List);
+        game("key Esc\n", [] { frmBeste.Touch(); });
+        Stand.PunkteGesamt = c.Points;
+        game("key N\nkey Esc\nkey N\n", &BestePruefen);
+        EXPECT_EQ(Beste.EintragPlatz, c.Place);
+        EXPECT_EQ(Contents(game.BestList), c.List);
     }
 }
 
-TEST(BestePruefen, AnEntryInADamagedListIsSavedWithEmptyPlaces)
+TEST(BestePruefen, AnEntryMovesTheWorseOnesDownAlsoInADamagedList)
 {
-    Gestartet programm("a\nb\n");
-    programm.Ende(7, {Klick("lblOk"), Taste('J'), Klick("cmdEnde"), Taste('J')});
-    EXPECT_EQ(Dateiinhalt(programm.Bestendatei()), "Spieler\r\na\r\nb\r\n\r\n\r\n"
-                                                   "7\r\n\r\n\r\n\r\n\r\n");
+    const std::string five = "A\r\nB\r\nC\r\nD\r\nE\r\n500\r\n400\r\n300\r\n200\r\n100\r\n";
+    const struct
+    {
+        std::string Before;
+        std::int32_t Points;
+        const char* After;
+    } cases[] = {
+        {five, 501, "x\r\nA\r\nB\r\nC\r\nD\r\n501\r\n500\r\n400\r\n300\r\n200\r\n"},
+        {five, 301, "A\r\nB\r\nx\r\nC\r\nD\r\n500\r\n400\r\n301\r\n300\r\n200\r\n"},
+        {five, 101, "A\r\nB\r\nC\r\nD\r\nx\r\n500\r\n400\r\n300\r\n200\r\n101\r\n"},
+        {"a\nb\n", 7, "x\r\na\r\nb\r\n\r\n\r\n7\r\n\r\n\r\n\r\n\r\n"},
+        {"J\xFCrgen \x80\n\"a\", b\n" + std::string(60000, 'y') + "\n\n  z \n9\n 8 \n-\n\n\n", 5,
+         nullptr},
+    };
+    for (const auto& c : cases) {
+        Game game(c.Before);
+        game("key Esc\n", [] { frmBeste.Touch(); });
+        Stand.PunkteGesamt = c.Points;
+        game("key J\ntype x\ndo frmBeste.cmdEnde Click\nkey J\n", &BestePruefen);
+        EXPECT_EQ(Contents(game.BestList), c.After != nullptr
+                                               ? c.After
+                                               : "J\xFCrgen \x80\r\n\"a\", b\r\nx\r\n" +
+                                                     std::string(60000, 'y') +
+                                                     "\r\n\r\n9\r\n 8 \r\n5\r\n-\r\n\r\n");
+        EXPECT_EQ(Beste.EndPunkte, 0);
+        EXPECT_EQ(Stand.RundenZahl, 1);
+    }
+}
+
+TEST(BesteLesen, AFileThatCannotBeReadIsToldByItsNumber)
+{
+    const auto told = [](const char* number) {
+        return std::string(
+                   "! show frmMsgOk modal 11497.5 6390\n! text frmMsgOk \\r\\nDie Daten für "
+                   "»Beste Spieler«\\r\\nkonnten nicht gelesen werden! | "
+                   "\\r\\nFehlernummer: ") +
+               number + "\n! unload frmMsgOk\n";
+    };
+    const std::pair<int, const char*> faults[] = {
+        {ENOENT, "53"}, {EACCES, "70"}, {EISDIR, "75"}, {EIO, "57"}};
+    for (const auto& [error, number] : faults) {
+        Game game;
+        game.Platform.Failing = Call::Open;
+        game.Platform.Error = error;
+        EXPECT_EQ(game("key Esc\n", [] { frmBeste.Touch(); }), told(number));
+        EXPECT_EQ(frmBeste->lstName.ListCount() + frmBeste->lstPunkte.ListCount(), 0);
+    }
+    const std::pair<std::string, const char*> contents[] = {
+        {"", "62"}, {std::string(100, '\0'), "62"}, {std::string(1 << 20, 'x'), "57"}};
+    for (const auto& [content, number] : contents) {
+        Game game(content);
+        WriteFile(game.BestList, content);
+        EXPECT_EQ(game("key Esc\n", [] { frmBeste.Touch(); }), told(number));
+        EXPECT_EQ(Contents(game.BestList), content);
+    }
+}
+
+TEST(BesteSpeichern, AFailureIsToldAndLeavesTheFile)
+{
+    Game game;
+    frmBeste->lstName.SetList(0, "neu");
+    game.Platform.Failing = Call::Sync;
+    game.Platform.Error = ENOSPC;
+    const std::string told = game("key Esc\n", &BesteSpeichern);
+    EXPECT_NE(told.find("konnten nicht gespeichert werden."), std::string::npos) << told;
+    EXPECT_EQ(Contents(game.BestList), kDefault);
+    EXPECT_EQ(frmBeste->lstName.List(0), "neu");
+}
+
+TEST(BesteVorgabe, ADefaultListThatCannotBeWrittenIsSilent)
+{
+    Game game("old");
+    game.Platform.Failing = Call::Rename;
+    game.Platform.Error = EACCES;
+    EXPECT_EQ(game("", &BesteVorgabe), "");
+    EXPECT_EQ(Contents(game.BestList), "old");
 }
 
 }  // namespace
-}  // namespace malvone
+}  // namespace malvone::test

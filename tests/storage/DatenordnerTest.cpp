@@ -1,42 +1,19 @@
-// DatenordnerTest.cpp: where the data files lie, and what the player is told when there is no
-// place.
-#include "storage/Datenordner.h"
-#include "state/Pfade.h"
-
+// DatenordnerTest.cpp: paths, numbers in files, and the snapshot when a write fails.
 #include <gtest/gtest.h>
 
+#include "state/Pfade.h"
 #include "storage/Spielstanddatei.h"
 #include "storage/Zahlen.h"
-#include "storage/modBeste.h"
-#include "tests/support/StilleBindung.h"
+#include "tests/support/Game.h"
 
-namespace malvone {
+namespace malvone::test {
 namespace {
-
-namespace fs = std::filesystem;
-
-constexpr const char* kVorgabe = "Niemand\r\nNiemand\r\nNiemand\r\nNiemand\r\nNiemand\r\n"
-                                 "5000\r\n4700\r\n4400\r\n4100\r\n3800\r\n";
-constexpr const char* kOrdnerFehlt =
-    "frmMsgOk: \r\nDas Anlegen des Ordners für die Daten ist fehlgeschlagen! | "
-    "\r\nDie Daten für die Stastitik\r\nkönnen nicht gespeichert werden!";
-
-TEST(Datenordner, PathsGetOneBackslash)
-{
-    EXPECT_EQ(MitBackslash("C:"), "C:\\");
-    EXPECT_EQ(MitBackslash("C:\\"), "C:\\");
-    EXPECT_EQ(MitBackslash(""), "\\");
-}
 
 TEST(Datenordner, OnlyAFreeNameInAnExistingFolderIsAbsent)
 {
-    const Programm programm;
-    DateiSchreiben(programm.Standdatei(), "");
-    const struct
-    {
-        const char* Pfad;
-        bool Da;
-    } cases[] = {
+    const Game game;
+    WriteFile(game.Snapshot, "");
+    const std::pair<const char*, bool> cases[] = {
         {"", false},
         {"C:\\lindenspiele", true},
         {"C:\\lindenspiele\\tessel.ini", true},
@@ -47,76 +24,26 @@ TEST(Datenordner, OnlyAFreeNameInAnExistingFolderIsAbsent)
         {"P:\\ding.wav", true},
         {"P:\\fehlt.wav", false},
     };
-    for (const auto& c : cases) {
-        EXPECT_EQ(ExistiertDatei(c.Pfad), c.Da) << c.Pfad;
+    for (const auto& [path, there] : cases) {
+        EXPECT_EQ(ExistiertDatei(path), there) << path;
     }
-}
-
-TEST(Datenordner, TheFirstStartMakesFolderAndDefaultList)
-{
-    Programm programm;
-    const Verlauf still = {"sound TADA.WAV"};
-    EXPECT_EQ(programm.Starten(), still);
     EXPECT_EQ(DatenPfad(), "C:\\lindenspiele\\");
-    EXPECT_EQ(BesteDatei(), "C:\\lindenspiele\\malvone.txt");
-    EXPECT_EQ(Namen(programm.Datenordner()), (std::vector<std::string>{"malvone.txt"}));
-    EXPECT_EQ(Dateiinhalt(programm.Bestendatei()), kVorgabe);
+    EXPECT_EQ(MitBackslash("C:") + MitBackslash("C:\\") + MitBackslash(""), "C:\\C:\\\\");
+    EXPECT_EQ(ProgrammOrdner(), "P:\\");
 }
 
-TEST(Datenordner, ALaterStartLeavesFolderAndListAlone)
+TEST(Datenordner, WithoutAWindowsFolderOnlyTheProgramsFolderIsLeft)
 {
-    Programm programm;
-    DateiSchreiben(programm.Bestendatei(), "damaged");
-    EXPECT_EQ(programm.Starten(), (Verlauf{"sound TADA.WAV"}));
-    EXPECT_EQ(Dateiinhalt(programm.Bestendatei()), "damaged");
-}
-
-TEST(Datenordner, WithoutAWindowsFolderTheTwoFilesGoDifferentWays)
-{
-    Programm programm;
-    programm.Plattform.MitWindowsordner = false;
-    programm.Antworten({Klick("lblOk")});
-    EXPECT_EQ(programm.Starten(),
-              (Verlauf{"sound CHIMES.WAV", "sound TADA.WAV",
-                       "frmMsgOk: \r\nDie Festplatte auf Ihrem System wurde nicht erkannt! | "
-                       "\r\nEin Speichern von Daten ist leider nicht möglich"}));
-    EXPECT_EQ(BesteDatei(), "\\malvone.txt");
-    EXPECT_EQ(Dateiinhalt(programm.Platte / "malvone.txt"), kVorgabe);
-    EXPECT_FALSE(fs::exists(programm.Datenordner()));
-    StandSpeichern();
-    EXPECT_TRUE(fs::exists(programm.Programmordner / "tessel.ini"));
-}
-
-TEST(Datenordner, AFolderThatCannotBeMadeStaysTheDataFolder)
-{
-    Programm programm;
-    DateiSchreiben(programm.Platte, "no folder");
-    programm.Antworten({Klick("lblOk")});
-    EXPECT_EQ(programm.Starten(), (Verlauf{"sound CHIMES.WAV", "sound TADA.WAV", kOrdnerFehlt}));
-    EXPECT_EQ(DatenPfad(), "C:\\lindenspiele\\");
-    EXPECT_EQ(Dateiinhalt(programm.Platte), "no folder");
-}
-
-TEST(Datenordner, AMissingRootIsMadeWithAllAboveIt)
-{
-    Programm programm;
-    programm.Programmordner /= "";
-    const fs::path tief = programm.Ordner.Pfad / ".local" / "share" / "";  // a slash at its end
-    TestPlattform plattform(tief, programm.Programmordner, programm.Bindung.Verlauf);
-    App.Begin(programm.Bindung, plattform);
-    EXPECT_EQ(programm.Starten(), (Verlauf{"sound TADA.WAV"}));
-    EXPECT_EQ(Dateiinhalt(tief / "lindenspiele" / "malvone.txt"), kVorgabe);
+    Stage<> stage({{}, {}, true});
+    stage.Start("key Esc\n");
+    EXPECT_EQ(Daten.DatenOrdnerOk, False);
+    EXPECT_EQ(DatenPfad(), ProgrammOrdner());
 }
 
 TEST(Zahlen, OnlyDecimalNumbersInRangeAreNumbers)
 {
-    const struct
-    {
-        const char* Text;
-        std::optional<std::int32_t> Zahl;
-    } cases[] = {
+    const std::pair<const char*, std::optional<std::int32_t>> cases[] = {
         {"0", 0},
-        {"3801", 3801},
         {" +42\t", 42},
         {"-7", -7},
         {"007", 7},
@@ -133,17 +60,59 @@ TEST(Zahlen, OnlyDecimalNumbersInRangeAreNumbers)
         {"12x", std::nullopt},
         {"0x10", std::nullopt},
         {"1e3", std::nullopt},
-        {"4.5", std::nullopt},
         {"٣", std::nullopt},
     };
-    for (const auto& c : cases) {
-        EXPECT_EQ(Zahl32(c.Text), c.Zahl) << c.Text;
+    for (const auto& [text, number] : cases) {
+        EXPECT_EQ(Zahl32(text), number) << text;
     }
     EXPECT_EQ(Zahl16("32767"), 32767);
     EXPECT_EQ(Zahl16("-32768"), -32768);
     EXPECT_EQ(Zahl16("32768"), std::nullopt);
-    EXPECT_EQ(Zahl16("x"), std::nullopt);
+}
+
+// Other line ends, more lines and blanks around the numbers are no damage.
+TEST(Spielstanddatei, ARepeatReadsWhatAnyEditorHasWritten)
+{
+    std::string values;
+    std::string lines;
+    for (int i = 0; i < kZellen; ++i) {
+        values += static_cast<char>('0' + (i + i / 7) % (kFarben + 1));
+        lines += std::string(1, values.back()) + "\n";
+    }
+    std::string old = lines;
+    std::ranges::replace(old, '\n', '\r');
+    for (const std::string& file : {lines, old, lines + "more\n", lines.substr(0, lines.size() - 1),
+                                    " " + lines.substr(0, 1) + " " + lines.substr(1)}) {
+        Game game;
+        WriteFile(game.Snapshot, file);
+        StandLaden();
+        std::string shown = values;
+        std::ranges::replace(shown, '0', '.');
+        EXPECT_EQ(game("board\npictures\n"), "= " + values + "\n= " + shown + "\n");
+    }
+}
+
+TEST(Spielstanddatei, AFailedWriteIsToldAndMetByTheRepeat)
+{
+    using Call = FaultyPlatform::Call;
+    const struct
+    {
+        Call Failing;
+        const char* Repeat;  // words of the message that the repeat meets
+    } cases[] = {{Call::Write, "Beim Einlesen der Werte"},
+                 {Call::Open, "wurde nicht gespeichert."}};
+    for (const auto& c : cases) {
+        Game game;
+        game("key Enter\n");
+        game.Platform.Failing = c.Failing;
+        game.Platform.Error = ENOSPC;
+        const std::string written = game("key Esc\n", &StandSpeichern);
+        EXPECT_NE(written.find("ist fehlgeschlagen."), std::string::npos) << written;
+        game.Platform.Failing = Call::None;
+        const std::string read = game("key Esc\n", &StandLaden);
+        EXPECT_NE(read.find(c.Repeat), std::string::npos) << read;
+    }
 }
 
 }  // namespace
-}  // namespace malvone
+}  // namespace malvone::test

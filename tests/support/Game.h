@@ -9,6 +9,7 @@
 #include <cerrno>
 #include <filesystem>
 #include <fstream>
+#include <functional>
 #include <iterator>
 #include <optional>
 #include <sstream>
@@ -76,9 +77,9 @@ public:
     Call Failing = Call::None;
     int Error = 0;                              // errno of the call that fails
     std::size_t MostBytes = std::string::npos;  // that one call writes
-    std::optional<std::uint64_t> Clock;         // stands still at this time
+    std::function<std::uint64_t()> Clock;       // the test's own
 
-    std::uint64_t ClockNs() override { return Clock ? *Clock : ScriptPlatform::ClockNs(); }
+    std::uint64_t ClockNs() override { return Clock ? Clock() : ScriptPlatform::ClockNs(); }
 
 protected:
     int Open(const char* path, int flags, mode_t mode) override
@@ -167,6 +168,18 @@ public:
         in_.str(lines);
         while (!App.Ended() && in_.peek() != std::istringstream::traits_type::eof()) {
             Binding.Step("-");
+        }
+        return Told();
+    }
+    // The same of something that the test does itself; the lines are for the windows that it opens.
+    template<class Doing>
+    std::string operator()(const std::string& lines, Doing doing)
+    {
+        in_.clear();
+        in_.str(lines);
+        {
+            const EventScope scope;
+            doing();
         }
         return Told();
     }
