@@ -6,8 +6,11 @@
 //   "? REASON"   the line is not in order, and nothing has happened
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
+
+#include "ui/layer/Keys.h"
 
 namespace malvone::script {
 
@@ -20,6 +23,7 @@ Answer Obey(std::string_view line);
 Answer DeliverEvent(std::string_view line);  // "OBJECT EVENT [BUTTON]"
 Answer PressKey(std::string_view name);      // "Enter" or "Ctrl+Shift+N"
 Answer TypeText(std::string_view text);      // into the text box that has the focus
+std::optional<Key> KeyFrom(std::string_view name);
 
 // Properties.cpp
 Answer AskProperty(std::string_view path);  // "unloaded" where the window is not loaded

@@ -136,6 +136,14 @@ constexpr std::array<NamedKey, 3> kModifiers = {{
     {"Shift+", kShiftKey},
 }};
 
+// Keys go to the topmost modal window, else to the main window.
+Window* KeyWindow()
+{
+    return App.TopModal() != nullptr ? App.TopModal() : ObjectFrom("frmTessel").Window();
+}
+
+}  // namespace
+
 std::optional<Key> KeyFrom(std::string_view name)
 {
     Key key;
@@ -155,14 +163,6 @@ std::optional<Key> KeyFrom(std::string_view name)
     }
     return key;
 }
-
-// Keys go to the topmost modal window, else to the main window.
-Window* KeyWindow()
-{
-    return App.TopModal() != nullptr ? App.TopModal() : ObjectFrom("frmTessel").Window();
-}
-
-}  // namespace
 
 Answer DeliverEvent(std::string_view line)
 {

@@ -66,7 +66,12 @@ void Script::Step(std::string_view waiting)
         return;
     }
     const EventScope scope;
-    Tell(Obey(line));
+    Tell(Do(line));
+}
+
+std::string Script::Do(std::string_view line)
+{
+    return Obey(line);
 }
 
 void Script::Tell(std::string_view what, std::string_view whom)

@@ -60,6 +60,8 @@ public:
     void Ended() override;
 
 protected:
+    // Answers one command.
+    virtual std::string Do(std::string_view line);
     // After the end of the program nothing is told any more.
     void Tell(std::string_view what, std::string_view whom = "");
 

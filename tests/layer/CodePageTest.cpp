@@ -38,6 +38,7 @@ TEST(CodePage, CharactersHaveTheBytesOfTheCodePage)
     for (const auto& c : cases) {
         EXPECT_EQ(ToWindows1252(c.Text), c.Bytes);
         EXPECT_EQ(FromWindows1252(c.Bytes), c.Text);
+        EXPECT_TRUE(IsUtf8(c.Text));
     }
 }
 
@@ -86,6 +87,7 @@ TEST(CodePage, PositionsCountCharacters)
     EXPECT_EQ(CharacterCount(""), 0U);
     EXPECT_EQ(CharacterCount("Größe €"), 7U);
     EXPECT_EQ(CharacterCount("\xFF\xC3"), 2U);
+    EXPECT_FALSE(IsUtf8("a\xC3z") || IsUtf8("\xED\xA0\x80"));
     EXPECT_EQ(Characters("Größe €", 2, 3), "öße");
     EXPECT_EQ(Characters("Größe €", 6, 9), "€");
     EXPECT_EQ(Characters("Größe €", 7, 1), "");

@@ -1,26 +1,79 @@
-// Probe.h: a window with every kind of control, and a binding that writes down what it is told.
+// Probe.h: a window with every kind of control, and a binding that tells all it hears, with
+// commands of its own for what the scripts of the game do not need.
 #pragma once
 
-#include <deque>
-#include <functional>
+#include <map>
 #include <string>
-#include <utility>
-#include <vector>
 
-#include "tests/support/StilleBindung.h"
+#include "tests/drehbuch/Commands.h"
+#include "tests/drehbuch/Text.h"
+#include "tests/support/Game.h"
+#include "ui/layer/PointerRouting.h"
 
-namespace malvone {
+namespace malvone::test {
 
-// What the binding was told and which handlers have run, in one order.
-inline Verlauf Notizen;
-
-inline Verlauf NotizenSeitdem()
+// The script's binding, with a line for each of its other calls and for each handler of the probe.
+class Witness final : public script::Script
 {
-    return std::exchange(Notizen, {});
+public:
+    using Script::Script;
+
+    // Set by the commands of a hook for the handler that the hook hangs in.
+    bool Refused = false;
+
+    // Tells what has happened, and then does what has been hung in there, once.
+    void Note(const std::string& what);
+
+    void WindowLoaded(Window& window) override { Note("loaded " + std::string(window.Name())); }
+    void WindowChanged(Window& window, Change what) override
+    {
+        Changed(std::string(window.Name()), what);
+    }
+    void ControlChanged(Control& control, Change what) override
+    {
+        Changed(control.FullName(), what);
+    }
+    void ControlAdded(Control& control) override { Note("added " + control.FullName()); }
+    void FocusChanged(Window& window) override
+    {
+        Note("focus " + (window.Focus() == nullptr ? "none" : window.Focus()->FullName()));
+    }
+
+protected:
+    std::string Do(std::string_view line) override;
+
+private:
+    bool withChanges_ = false;
+    std::map<std::string, std::string, std::less<>> hooks_;
+
+    void Changed(const std::string& name, Change what)
+    {
+        static constexpr const char* kKinds[] = {"Geometry", "Visible", "Enabled", "Picture",
+                                                 "Text",     "Look",    "State",   "Select",
+                                                 "Tip",      "Place",   "Data"};
+        if (withChanges_) {
+            Note("changed " + name + " " + kKinds[static_cast<int>(what)]);
+        }
+    }
+};
+
+// Tells what a handler of a test window has heard; true where a hook has refused it.
+inline bool Heard(const std::string& what)
+{
+    auto* const witness = dynamic_cast<Witness*>(&App.Screen());
+    if (witness == nullptr) {
+        return false;
+    }
+    witness->Refused = false;
+    witness->Note(what);
+    return std::exchange(witness->Refused, false);
 }
 
-inline constexpr PictureInfo kKlein{"klein", 10, 20};
-inline constexpr PictureInfo kGross{"gross", 100, 50};
+inline std::string At(const Mouse& mouse)
+{
+    return " " + std::to_string(mouse.Button) + " at " + script::TwipsText(mouse.X) + "," +
+           script::TwipsText(mouse.Y);
+}
 
 // From front to back as declared; the places make them overlap where a test wants it.
 class Probe final : public Window
@@ -30,7 +83,7 @@ public:
     {
         const struct
         {
-            Visual& Ding;
+            Visual& Thing;
             Twips Left, Top, Width, Height;
         } places[] = {
             {kasten, 0, 0, 1000, 1000},       {innen(0), 100, 100, 300, 300},
@@ -42,14 +95,12 @@ public:
             {feld(1), 600, 1500, 500, 200},   {feld(2), 1200, 1500, 500, 200},
         };
         for (const auto& p : places) {
-            p.Ding.Move(p.Left, p.Top, p.Width, p.Height);
+            p.Thing.Move(p.Left, p.Top, p.Width, p.Height);
         }
-        std::int16_t platz = 0;
-        for (Visual* const ding :
-             {static_cast<Visual*>(&knopf(0)), static_cast<Visual*>(&feld(1)),
-              static_cast<Visual*>(&knopf(1)), static_cast<Visual*>(&feld(0)),
-              static_cast<Visual*>(&feld(2)), static_cast<Visual*>(&knopf(3))}) {
-            ding->TabIndex = platz++;
+        std::int16_t index = 0;
+        for (Visual* const thing : std::initializer_list<Visual*>{&knopf(0), &feld(1), &knopf(1),
+                                                                  &feld(0), &feld(2), &knopf(3)}) {
+            thing->TabIndex = index++;
         }
         knopf(0).Caption = "&Null";
         knopf(1).Caption = "Ei&ns";
@@ -57,10 +108,10 @@ public:
         punkt(1).Shortcut = {'N', kCtrlKey};
         punkt(4).Shortcut = {kKeyF1, 0};
         for (Control* const control : Controls()) {
-            Mithoeren(*control);
+            Listen(*control);
         }
     }
-    ~Probe() override { Notizen.emplace_back("destroyed"); }
+    ~Probe() override { Heard("destroyed"); }
 
     MenuEntry menu{Named("menu"), nullptr};
     ControlArray<MenuEntry> punkt{Named("punkt"), {1, 4}, &menu};
@@ -76,172 +127,55 @@ public:
     ControlArray<TextBox> feld{Named("feld"), {0, 1, 2}};
     ListBox liste{Named("liste")};
 
-    // What a test hangs in.
-    std::function<void(std::int16_t&)> BeiTaste;
-    std::function<void(std::int16_t&)> BeiFrage;
-    std::function<void()> BeiKlick;
-    std::function<void()> BeiDruck;
-
-    void Form_Load() override { Notizen.emplace_back("Form_Load"); }
-    void Form_Activate() override { Notizen.emplace_back("Form_Activate"); }
-    void Form_Unload() override { Notizen.emplace_back("Form_Unload"); }
+    void Form_Load() override { Heard("Form_Load"); }
+    void Form_Activate() override { Heard("Form_Activate"); }
+    void Form_Unload() override { Heard("Form_Unload"); }
     void Form_KeyDown(std::int16_t& KeyCode, std::int16_t Shift) override
     {
-        Notizen.push_back("key " + std::to_string(KeyCode) + "/" + std::to_string(Shift));
-        if (BeiTaste) {
-            BeiTaste(KeyCode);
+        if (Heard("key " + std::to_string(KeyCode) + "/" + std::to_string(Shift))) {
+            KeyCode = 0;
         }
     }
     void Form_QueryUnload(std::int16_t& Cancel, UnloadMode mode) override
     {
-        Notizen.push_back("Form_QueryUnload " + std::to_string(static_cast<int>(mode)));
-        if (BeiFrage) {
-            BeiFrage(Cancel);
+        if (Heard("Form_QueryUnload " + std::to_string(static_cast<int>(mode)))) {
+            Cancel = -1;
         }
     }
-    void Form_MouseMove(const Mouse& mouse) override { MausNotieren("move window", mouse); }
+    void Form_MouseMove(const Mouse& mouse) override { Heard("move window" + At(mouse)); }
 
 private:
-    static void MausNotieren(const std::string& was, const Mouse& mouse)
+    static void Listen(Control& control)
     {
-        Notizen.push_back(was + " " + std::to_string(mouse.Button) + " at " +
-                          std::to_string(static_cast<int>(mouse.X)) + "," +
-                          std::to_string(static_cast<int>(mouse.Y)));
-    }
-    void Mithoeren(Control& control)
-    {
-        const auto name = [&control](std::int16_t index) {
-            return std::string(control.Name()) +
+        const auto named = [&control](const char* what, std::int16_t index) {
+            return what + std::string(control.Name()) +
                    (index < 0 ? "" : "(" + std::to_string(index) + ")");
         };
-        control.Click = [this, name](std::int16_t index) {
-            Notizen.push_back("click " + name(index));
-            if (BeiKlick) {
-                BeiKlick();
-            }
+        control.Click = [named](std::int16_t i) { Heard(named("click ", i)); };
+        control.MouseDown = [named](std::int16_t i, const Mouse& mouse) {
+            Heard(named("down ", i) + At(mouse));
         };
-        control.MouseDown = [this, name](std::int16_t index, const Mouse& mouse) {
-            MausNotieren("down " + name(index), mouse);
-            if (BeiDruck) {
-                BeiDruck();
-            }
+        control.MouseUp = [named](std::int16_t i, const Mouse& mouse) {
+            Heard(named("up ", i) + At(mouse));
         };
-        control.MouseUp = [name](std::int16_t index, const Mouse& mouse) {
-            MausNotieren("up " + name(index), mouse);
-        };
-        control.MouseMove = [name](std::int16_t index, const Mouse& mouse) {
-            MausNotieren("move " + name(index), mouse);
+        control.MouseMove = [named](std::int16_t i, const Mouse& mouse) {
+            Heard(named("move ", i) + At(mouse));
         };
         if (auto* const timer = dynamic_cast<Timer*>(&control)) {
-            timer->Tick = [name](std::int16_t index) { Notizen.push_back("tick " + name(index)); };
+            timer->Tick = [named](std::int16_t i) { Heard(named("tick ", i)); };
         }
     }
 };
 
-class Nebenfenster final : public Window
+class OtherWindow final : public Window
 {
 public:
-    Nebenfenster() : Window("nebenfenster", 1000, 1000) { bild.Move(0, 0, 1000, 1000); }
+    OtherWindow() : Window("nebenfenster", 1000, 1000) { bild.Move(0, 0, 1000, 1000); }
 
     Image bild{Named("bild")};
-    Timer uhr{Named("uhr")};
 };
 
 inline Instance<Probe> probe{"probe"};
-inline Instance<Nebenfenster> nebenfenster{"nebenfenster"};
+inline Instance<OtherWindow> nebenfenster{"nebenfenster"};
 
-class Mitschrift final : public Binding
-{
-public:
-    std::deque<std::function<void(Window&)>> Antworten;
-    bool MitAenderungen = false;
-
-    Twips ScreenWidth() override { return 1600; }
-    Twips ScreenHeight() override { return 1200; }
-    void WindowLoaded(Window& window) override { Notieren("loaded", window); }
-    void WindowShown(Window& window, ShowMode mode) override
-    {
-        Notieren(mode == ShowMode::Modal ? "shown modal" : "shown", window);
-    }
-    void WindowHidden(Window& window) override { Notieren("hidden", window); }
-    void WindowUnloaded(Window& window) override { Notieren("unloaded", window); }
-    void WindowChanged(Window& window, Change what) override
-    {
-        Aenderung(std::string(window.Name()), what);
-    }
-    void ControlChanged(Control& control, Change what) override
-    {
-        Aenderung(control.FullName(), what);
-    }
-    void ControlAdded(Control& control) override
-    {
-        if (MitAenderungen) {
-            Notizen.push_back("added " + control.FullName());
-        }
-    }
-    void FocusChanged(Window& window) override
-    {
-        if (MitAenderungen) {
-            Notizen.push_back("focus " +
-                              (window.Focus() == nullptr ? "none" : window.Focus()->FullName()));
-        }
-    }
-    // Without an answer the window is hidden.
-    void RunModal(Window& window) override
-    {
-        if (Antworten.empty()) {
-            window.Hide();
-            return;
-        }
-        const auto antwort = std::move(Antworten.front());
-        Antworten.pop_front();
-        antwort(window);
-    }
-    void DragWindow(Window& window) override { Notieren("drag", window); }
-    void Ended() override { Notizen.emplace_back("ended"); }
-
-private:
-    static void Notieren(const std::string& was, const Window& window)
-    {
-        Notizen.push_back(was + " " + std::string(window.Name()));
-    }
-    void Aenderung(const std::string& name, Change what)
-    {
-        static constexpr const char* kArten[] = {"Geometry", "Visible", "Enabled", "Picture",
-                                                 "Text",     "Look",    "State",   "Select",
-                                                 "Tip",      "Place",   "Data"};
-        if (MitAenderungen) {
-            Notizen.push_back("changed " + name + " " + kArten[static_cast<int>(what)]);
-        }
-    }
-};
-
-// The layer alone, with nothing loaded.
-struct Schicht
-{
-    Testordner Ordner;
-    Mitschrift Bindung;
-    Verlauf Gehoertes;
-    TestPlattform Plattform{Ordner.Pfad, Ordner.Pfad, Gehoertes};
-
-    Schicht()
-    {
-        App.Begin(Bindung, Plattform);
-        Notizen.clear();
-    }
-    ~Schicht() { App.Finish(); }
-    Schicht(const Schicht&) = delete;
-    Schicht& operator=(const Schicht&) = delete;
-};
-
-// The same with the probe on the screen.
-struct GezeigteProbe : Schicht
-{
-    GezeigteProbe()
-    {
-        probe->Show();
-        Notizen.clear();
-    }
-};
-
-}  // namespace malvone
+}  // namespace malvone::test

@@ -164,12 +164,14 @@ public:
     // while a modal window waits end the program.
     std::string operator()(const std::string& lines)
     {
-        in_.clear();
-        in_.str(lines);
-        while (!App.Ended() && in_.peek() != std::istringstream::traits_type::eof()) {
-            Binding.Step("-");
-        }
+        Play(lines);
         return Told();
+    }
+    // The whole transcript.
+    std::string Raw(const std::string& lines)
+    {
+        Play(lines);
+        return std::exchange(out_, std::ostringstream()).str();
     }
     // The same of something that the test does itself; the lines are for the windows that it opens.
     template<class Doing>
@@ -195,6 +197,14 @@ public:
     }
 
 private:
+    void Play(const std::string& lines)
+    {
+        in_.clear();
+        in_.str(lines);
+        while (!App.Ended() && in_.peek() != std::istringstream::traits_type::eof()) {
+            Binding.Step("-");
+        }
+    }
     script::Options Complete(script::Options options) const
     {
         options.Data = Disk;
