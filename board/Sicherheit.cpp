@@ -1,11 +1,24 @@
 // Sicherheit.cpp: the run over all cells, and the fixed runs as one table.
 #include "board/Sicherheit.h"
 
+#include <span>
+
 #include "board/SteuereBilder.h"
 #include "state/Zellen.h"
 
 namespace malvone {
 namespace {
+
+// One of these runs: cells from the first to the last by a step; each gives its mark to neighbours
+// of its colour, then takes one from marked neighbours, at the offsets named in that order.
+struct Lauf
+{
+    int Erste;
+    int Letzte;
+    int Schritt;
+    std::span<const int> GibtAn;
+    std::span<const int> NimmtVon;
+};
 
 constexpr int kHoch = -1;
 constexpr int kTief = +1;
@@ -96,11 +109,6 @@ void Nehmen(int zelle, std::span<const int> abstaende, std::int16_t farbe)
 }
 
 }  // namespace
-
-std::span<const Lauf> AlleLaeufe()
-{
-    return kLaeufe;
-}
 
 void SicherheitZellenlauf(std::int16_t farbe)
 {

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <cstdint>
-#include <span>
 
 namespace malvone {
 
@@ -13,17 +12,5 @@ void SicherheitZellenlauf(std::int16_t farbe);
 // Step five: a list of fixed runs over the inner cells, one after the other, without a second
 // round.
 void SicherheitBloecke(std::int16_t farbe);
-
-// One of these runs: cells from the first to the last by a step; each gives its mark to neighbours
-// of its colour, then takes one from marked neighbours, at the offsets named in that order.
-struct Lauf
-{
-    int Erste;
-    int Letzte;
-    int Schritt;
-    std::span<const int> GibtAn;
-    std::span<const int> NimmtVon;
-};
-std::span<const Lauf> AlleLaeufe();
 
 }  // namespace malvone

@@ -146,7 +146,7 @@ TEST_F(Fenster, TheMenuFollowsTheModel)
     QList<QAction*> game = bar->actions().at(0)->menu()->actions();
     ASSERT_EQ(game.size(), 4);
     EXPECT_EQ(bar->actions().at(0)->text(), QStringLiteral("&Spiel             "));
-    EXPECT_EQ(game.at(0)->text(), QStringLiteral("&Neues Spiel\tStrg+N"));
+    EXPECT_EQ(game.at(0)->text(), QStringLiteral("&Neues Spiel    \tStrg+N"));
     EXPECT_TRUE(game.at(2)->isSeparator());
     EXPECT_FALSE(game.at(1)->isEnabled());
     frmTessel->mnuTessel(2).Enabled = true;

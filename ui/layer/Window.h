@@ -21,8 +21,9 @@ enum class ShowMode { Modeless = 0, Modal = 1 };
 
 enum class Border { None, FixedSingle, Sizable };
 
-// Why a window is to close. No handler of the game looks at it.
-enum class UnloadMode : std::int16_t { TitleBar = 0, Code = 1, Session = 2 };
+// Why a window is to close: the player closes it by its frame or through the system, or the game
+// unloads it. A question that is closed the first way has no answer.
+enum class UnloadMode : std::int16_t { TitleBar = 0, Code = 1 };
 
 // A window's Visible: reading tells whether it is shown, setting it shows or hides the window.
 class VisibleProperty

@@ -21,16 +21,12 @@ QString KeyName(Key key)
     return name + QChar(key.Code);
 }
 
-// In the bar the blanks behind a caption keep the menus apart; in a menu they would only push the
-// shortcuts away.
+// The blanks behind a caption belong to it: they keep the menus apart.
 QString CaptionOf(const MenuEntry& entry)
 {
     const QString caption = ToQString(entry.Caption.Get());
-    if (entry.Parent() == nullptr) {
-        return caption;
-    }
-    const QString words = caption.trimmed();
-    return entry.Shortcut == Key() ? words : words + QLatin1Char('\t') + KeyName(entry.Shortcut);
+    return entry.Shortcut == Key() ? caption
+                                   : caption + QLatin1Char('\t') + KeyName(entry.Shortcut);
 }
 
 }  // namespace
