@@ -20,12 +20,9 @@ if(TARGET PkgConfig::XCB)
 endif()
 
 # Where an installed executable finds its sounds and manuals, as seen from its own folder.
-cmake_path(ABSOLUTE_PATH MALVONE_GAMESDIR BASE_DIRECTORY "${CMAKE_INSTALL_PREFIX}"
-    OUTPUT_VARIABLE games_folder)
-cmake_path(ABSOLUTE_PATH MALVONE_SHAREDIR BASE_DIRECTORY "${CMAKE_INSTALL_PREFIX}"
-    OUTPUT_VARIABLE share_folder)
-cmake_path(RELATIVE_PATH share_folder BASE_DIRECTORY "${games_folder}")
-target_compile_definitions(malvone_qt PRIVATE MALVONE_DATADIR="${share_folder}")
+cmake_path(RELATIVE_PATH MALVONE_SHARE_FOLDER BASE_DIRECTORY "${MALVONE_GAMES_FOLDER}"
+    OUTPUT_VARIABLE from_games_to_share)
+target_compile_definitions(malvone_qt PRIVATE MALVONE_DATADIR="${from_games_to_share}")
 
 # The pictures as Qt resources :/pictures/NAME.svg and the icon as :/malvone.svg. They are kept as
 # they are: unpacking them would cost time at every start. Format 1 leaves their dates out. An

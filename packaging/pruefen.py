@@ -1,10 +1,11 @@
 #!/usr/bin/env python3
-"""Installs a build into an empty folder and looks at what lies there, as a desktop would.
+"""Installs a build into an empty folder, looks at what lies there as a desktop would, and takes it away.
 
     pruefen.py CMAKE BUILDDIR PREFIX
 """
 import os
 import pathlib
+import re
 import subprocess
 import sys
 import tempfile
@@ -15,13 +16,16 @@ EXPECTED = {
     "games/malvone",
     "share/applications/malvone.desktop",
     "share/doc/malvone/copyright",
-    "share/icons/hicolor/48x48/apps/malvone.png",
     "share/icons/hicolor/scalable/apps/malvone.svg",
     "share/man/man6/malvone.6",
     "share/metainfo/io.github.malvone.malvone.metainfo.xml",
 } | {"share/games/malvone/" + name for name in (
-    "TADA.WAV", "WHOOSH.WAV", "CHIMES.WAV", "FRAGE.WAV", "FEHLER.WAV", "BLIP.WAV", "ding.wav",
-    "Malvone.pdf", "Meldefenster.pdf", "Bestespieler.pdf")}
+    "TADA.WAV", "WHOOSH.WAV", "CHIMES.WAV", "FRAGE.WAV", "FEHLER.WAV", "BLIP.WAV", "ding.wav")}
+for manual in ("Malvone.pdf", "Meldefenster.pdf", "Bestespieler.pdf"):
+    EXPECTED |= {f"share/{folder}/malvone/{manual}" for folder in ("doc", "games")}
+ICONS = {f"share/icons/hicolor/{size}x{size}/apps/malvone.png": size
+         for size in (16, 22, 24, 32, 48, 64, 128, 256)}
+EXPECTED |= ICONS.keys()
 
 faults = []
 
@@ -34,19 +38,27 @@ def run_tool(*command):
 def main():
     cmake, build, prefix = sys.argv[1:]
     with tempfile.TemporaryDirectory() as top:
-        subprocess.run([cmake, "--install", build], check=True, stdout=subprocess.DEVNULL,
-                       env={**os.environ, "DESTDIR": top})
+        def run_cmake(*arguments):
+            subprocess.run([cmake, *arguments], check=True, stdout=subprocess.DEVNULL,
+                           env={**os.environ, "DESTDIR": top})
+
+        run_cmake("--install", build)
         root = pathlib.Path(top + prefix)
         there = {str(path.relative_to(root)) for path in root.rglob("*") if path.is_file()}
         faults.extend(f"missing: {name}" for name in sorted(EXPECTED - there))
         faults.extend(f"not expected: {name}" for name in sorted(there - EXPECTED))
         if not faults:
-            look_at(root)
+            look_at(root, prefix)
+            if "CMAKE_BUILD_TYPE:STRING=Debug" not in pathlib.Path(build, "CMakeCache.txt").read_text():
+                harden(root / "games/malvone")
+        run_cmake("--build", build, "--target", "uninstall")
+        faults.extend(f"stays: {path}" for path in root.rglob("*")
+                      if not path.is_dir() or path.name == "malvone")
     print("\n".join(faults))
     return 1 if faults else 0
 
 
-def look_at(root):
+def look_at(root, prefix):
     """The tools end with 0 on mere remarks too, so that any word of theirs is a fault."""
     entry = run_tool("desktop-file-validate", root / "share/applications/malvone.desktop")
     faults.extend((entry.stdout + entry.stderr).splitlines())
@@ -60,12 +72,29 @@ def look_at(root):
     faults.extend(page.stderr.splitlines())
     if page.returncode:
         faults.append("the manual page cannot be set")
-    if not os.access(root / "games/malvone", os.X_OK):
-        faults.append("games/malvone cannot be run")
-    icon = (root / "share/icons/hicolor/48x48/apps/malvone.png").read_bytes()
-    if icon[16:24] != bytes([0, 0, 0, 48] * 2):
-        faults.append("malvone.png is not of 48 x 48 pixels")
+    faults.extend(run_tool("mandoc", "-Tlint", root / "share/man/man6/malvone.6").stdout.splitlines())
+    called = set(re.findall("^(?:Try)?Exec=(.*)", (root / "share/applications/malvone.desktop").read_text(),
+                            re.MULTILINE))
+    if called != {f"{prefix}/games/malvone"} or not os.access(root / "games/malvone", os.X_OK):
+        faults.append(f"what the desktop starts cannot be run: {called}")
+    for name, size in ICONS.items():
+        if (root / name).read_bytes()[16:24] != size.to_bytes(4, "big") * 2:
+            faults.append(f"{name} is not of {size} x {size} pixels")
+    faults.extend(f"{path} leads nowhere" for path in root.rglob("*") if not path.exists())
     xml.etree.ElementTree.parse(root / "share/icons/hicolor/scalable/apps/malvone.svg")
+
+
+def harden(program):
+    """What the compiler and the linker have put into the executable that players run."""
+    look = run_tool("readelf", "--wide", "--dynamic", "--segments", "--dyn-syms", program).stdout
+    wanted = {"immediate binding at drawn addresses": r"Flags:.*\bNOW\b.*\bPIE\b",
+              "locked tables": "GNU_RELRO", "stack for data alone": r"GNU_STACK.* RW +0x",
+              "guarded stacks": "__stack_chk_fail", "guarded calls": r"__(?!stack)\w+_chk@"}
+    faults.extend(f"the executable has no {what}" for what, sign in wanted.items()
+                  if not re.search(sign, look))
+    # Every function that may be jumped to begins with endbr64; a program has hundreds.
+    if os.uname().machine == "x86_64" and program.read_bytes().count(b"\xf3\x0f\x1e\xfa") < 100:
+        faults.append("the executable has no control-flow protection")
 
 
 if __name__ == "__main__":
