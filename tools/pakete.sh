@@ -15,7 +15,7 @@ pakete_pruefung=(
     xvfb xauth openbox xdotool x11-utils imagemagick
     pulseaudio pulseaudio-utils
     python3-fonttools poppler-utils
-    desktop-file-utils appstream man-db
+    desktop-file-utils appstream man-db mandoc debhelper lintian
 )
 
 ist_installiert() {
