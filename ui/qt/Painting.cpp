@@ -3,6 +3,7 @@
 
 #include <QPaintDevice>
 #include <QPainter>
+#include <QPainterPath>
 #include <QRegion>
 #include <algorithm>
 
@@ -30,6 +31,7 @@ public:
 
     void Ground(const Window& window, const QSizeF& client) const;
     void Paint(const Visual& visual, const QRectF& place) const;
+    void Frame(const QRectF& place) const;
 
 private:
     QPainter& painter_;
@@ -137,6 +139,25 @@ void Painting::Plain(const QRectF& place, const QColor& face, const std::string&
     painter_.drawText(place, Qt::AlignCenter, ToQString(words));
 }
 
+// The place of the arrow keys: white between black, which stands out from every stone to every eye,
+// square outside and round inside, as the stone is.
+void Painting::Frame(const QRectF& place) const
+{
+    constexpr double kHalfLine = 0.5;
+    constexpr double kThickness = 3;
+    constexpr double kRounding = 10;
+    QPainterPath ring;
+    ring.addRect(place.adjusted(kHalfLine, kHalfLine, -kHalfLine, -kHalfLine));
+    ring.addRoundedRect(place.adjusted(kThickness, kThickness, -kThickness, -kThickness), kRounding,
+                        kRounding);
+    painter_.save();
+    painter_.setRenderHint(QPainter::Antialiasing);
+    painter_.setPen(QPen(Qt::black, 1));
+    painter_.setBrush(Qt::white);
+    painter_.drawPath(ring);
+    painter_.restore();
+}
+
 // Text boxes are widgets of their own and paint themselves.
 void Painting::Paint(const Visual& visual, const QRectF& place) const
 {
@@ -188,6 +209,9 @@ void PaintWindow(QPainter& painter, const Window& window, PictureStore& pictures
         const QRectF place = PlaceOf(*visual);
         if (IsSeen(*visual) && dirty.intersects(place.toAlignedRect())) {
             painting.Paint(*visual, place);
+            if (visual == window.Place()) {
+                painting.Frame(place);
+            }
         }
     });
 }
