@@ -14,6 +14,7 @@ pakete_pruefung=(
     libgtest-dev libbenchmark-dev
     xvfb xauth openbox xdotool x11-utils imagemagick
     pulseaudio pulseaudio-utils
+    at-spi2-core dbus python3-pyatspi
     python3-fonttools poppler-utils
     desktop-file-utils appstream man-db mandoc debhelper lintian
 )

@@ -1,9 +1,13 @@
-// Accessibility.h: what screen readers get to know of windows that are painted as a whole.
+// Accessibility.h: carries to screen readers what they are to know of windows that are painted as a
+// whole. What is said stands in Spoken.h.
 #pragma once
 
-#include <QString>
+#include <QObject>
+#include <QPointer>
+#include <vector>
 
 #include "ui/layer/Control.h"
+#include "ui/windows/Spoken.h"
 
 namespace malvone::qt {
 
@@ -11,11 +15,20 @@ class FormWidget;
 
 void InstallAccessibility();
 
-// What a control is called: its words, its tool tip, or the cell's column, row and colour. Empty
-// for what only decorates.
-QString SpokenName(const Visual& visual);
+// Collects changes while a handler runs and tells them when the game waits again, in the loop of a
+// message too: a display that is written digit by digit is told once.
+class ScreenReader final : public QObject
+{
+    Q_OBJECT
 
-// Tells a screen reader, where one listens, that the words of a control have changed.
-void TellScreenReader(FormWidget& form, const Control& control, Change what);
+public:
+    void Follow(FormWidget& form, Change what);
+
+private:
+    Reporter reporter_;
+    std::vector<QPointer<FormWidget>> changed_;
+
+    void Tell();
+};
 
 }  // namespace malvone::qt

@@ -1,14 +1,17 @@
 // AccessibleForm.cpp: the tree behind the painted windows.
 #include "ui/qt/AccessibleForm.h"
 
+#include <QMenuBar>
+#include <QtGlobal>
 #include <algorithm>
-#include <typeinfo>
+#include <utility>
 
 #include "ui/layer/PointerRouting.h"
-#include "ui/qt/Accessibility.h"
 #include "ui/qt/FormWidget.h"
+#include "ui/qt/LabelText.h"
 #include "ui/qt/Painting.h"
 #include "ui/qt/Scale.h"
+#include "ui/windows/FrmTessel.h"
 
 namespace malvone::qt {
 namespace {
@@ -19,80 +22,18 @@ Window* ModelOf(const FormWidget* form)
     return form != nullptr ? form->Model() : nullptr;
 }
 
-}  // namespace
-
-bool AccessibleControl::isValid() const
+// As if the player pointed at the middle of the control and clicked. The window may go away with
+// each of these, and the control with it.
+void Press(const QPointer<FormWidget>& form, const Visual* visual)
 {
-    return ModelOf(form_) != nullptr;
-}
-
-QAccessibleInterface* AccessibleControl::parent() const
-{
-    return QAccessible::queryAccessibleInterface(form_);
-}
-
-QString AccessibleControl::text(QAccessible::Text kind) const
-{
-    return kind == QAccessible::Name && isValid() ? SpokenName(*visual_) : QString();
-}
-
-QRect AccessibleControl::rect() const
-{
-    const FormWidget* const form = form_;
     if (ModelOf(form) == nullptr) {
-        return {};
-    }
-    const QRect place = PlaceOf(*visual_).toAlignedRect().translated(form->Origin());
-    return {form->mapToGlobal(place.topLeft()), place.size()};
-}
-
-QAccessible::Role AccessibleControl::role() const
-{
-    if (isValid() && Pressable()) {
-        return QAccessible::Button;
-    }
-    const bool words = isValid() && dynamic_cast<const Label*>(visual_) != nullptr;
-    return words ? QAccessible::StaticText : QAccessible::Graphic;
-}
-
-QAccessible::State AccessibleControl::state() const
-{
-    QAccessible::State state;
-    state.invalid = !isValid();
-    state.disabled = isValid() && !visual_->Reachable();
-    state.invisible = isValid() && !IsSeen(*visual_);
-    return state;
-}
-
-void* AccessibleControl::interface_cast(QAccessible::InterfaceType type)
-{
-    return type == QAccessible::ActionInterface ? static_cast<QAccessibleActionInterface*>(this)
-                                                : nullptr;
-}
-
-bool AccessibleControl::Pressable() const
-{
-    return visual_->Click.Connected() || visual_->MouseDown.Connected();
-}
-
-QStringList AccessibleControl::actionNames() const
-{
-    return isValid() && Pressable() ? QStringList{pressAction()} : QStringList();
-}
-
-// As if the player pointed at the middle of the control and clicked.
-void AccessibleControl::doAction(const QString& name)
-{
-    if (!isValid() || name != pressAction()) {
         return;
     }
     Mouse mouse;
-    mouse.X = visual_->WindowLeft() + visual_->Width / 2;
-    mouse.Y = visual_->WindowTop() + visual_->Height / 2;
-    PointerMoved(visual_->Owner(), mouse);
+    mouse.X = visual->WindowLeft() + visual->Width / 2;
+    mouse.Y = visual->WindowTop() + visual->Height / 2;
+    PointerMoved(*form->Model(), mouse);
     mouse.Button = kLeftButton;
-    // The window may go away with each of these, and this object with it.
-    const QPointer<FormWidget> form = form_;
     if (Window* const window = ModelOf(form)) {
         PointerPressed(*window, mouse);
     }
@@ -101,12 +42,116 @@ void AccessibleControl::doAction(const QString& name)
     }
 }
 
+void Tell(QAccessibleInterface* who, QAccessible::Event what)
+{
+    QAccessibleEvent event(who, what);
+    QAccessible::updateAccessibility(&event);
+}
+
+}  // namespace
+
+bool AccessibleLeaf::isValid() const
+{
+    return ModelOf(form_) != nullptr;
+}
+
+QAccessibleInterface* AccessibleLeaf::parent() const
+{
+    return QAccessible::queryAccessibleInterface(form_);
+}
+
+QString AccessiblePart::text(QAccessible::Text kind) const
+{
+    if (!isValid() || (kind != QAccessible::Name && kind != QAccessible::Description)) {
+        return {};
+    }
+    return ToQString(kind == QAccessible::Name ? NameOf(part_) : DescriptionOf(part_));
+}
+
+// Edges are rounded, not sizes: what touches in the design does not overlap here.
+QRect AccessiblePart::rect() const
+{
+    const FormWidget* const form = form_;
+    if (ModelOf(form) == nullptr) {
+        return {};
+    }
+    QRectF place = PlaceOf(*part_.Where);
+    for (const Image* const digit : part_.Digits) {
+        place |= digit->Visible ? PlaceOf(*digit) : QRectF();
+    }
+    const QRect pixels = OnScreen(place.translated(form->Origin()), 1);
+    return {form->mapToGlobal(pixels.topLeft()), pixels.size()};
+}
+
+QAccessible::Role AccessiblePart::role() const
+{
+    return Pressable() ? QAccessible::Button : QAccessible::StaticText;
+}
+
+QAccessible::State AccessiblePart::state() const
+{
+    QAccessible::State state;
+    if (!isValid()) {
+        state.invalid = true;
+        return state;
+    }
+    state.disabled = !part_.Where->Enabled;
+    state.invisible = !IsSpokenNow(part_);
+    state.focusable = part_.Kind == SpokenKind::Cell;
+    state.focused = part_.Where == form_->Model()->Place() && form_->isActiveWindow();
+    return state;
+}
+
+void* AccessiblePart::interface_cast(QAccessible::InterfaceType type)
+{
+    return type == QAccessible::ActionInterface ? static_cast<QAccessibleActionInterface*>(this)
+                                                : nullptr;
+}
+
+bool AccessiblePart::Pressable() const
+{
+    return part_.Kind == SpokenKind::Button || part_.Kind == SpokenKind::Cell;
+}
+
+QStringList AccessiblePart::actionNames() const
+{
+    return isValid() && Pressable() ? QStringList{pressAction()} : QStringList();
+}
+
+// The press may open a message, and the screen reader waits for the end of this call.
+void AccessiblePart::doAction(const QString& name)
+{
+    if (isValid() && Pressable() && name == pressAction()) {
+        QMetaObject::invokeMethod(
+            form_, [form = form_, visual = part_.Where] { Press(form, visual); },
+            Qt::QueuedConnection);
+    }
+}
+
+QString AccessibleNews::text(QAccessible::Text kind) const
+{
+    return kind == QAccessible::Name ? Words : QString();
+}
+
+QAccessible::State AccessibleNews::state() const
+{
+    QAccessible::State state;
+    state.invalid = !isValid();
+    state.invisible = Words.isEmpty();
+    return state;
+}
+
 AccessibleForm::AccessibleForm(FormWidget* form) : QAccessibleWidget(form) {}
 
 AccessibleForm::~AccessibleForm()
 {
-    for (const auto& [visual, id] : known_) {
-        QAccessible::deleteAccessibleInterface(id);
+    for (const Node& node : nodes_) {
+        if (node.Id != 0) {
+            QAccessible::deleteAccessibleInterface(node.Id);
+        }
+    }
+    if (news_ != 0) {
+        QAccessible::deleteAccessibleInterface(news_);
     }
 }
 
@@ -115,84 +160,148 @@ FormWidget* AccessibleForm::Form() const
     return static_cast<FormWidget*>(widget());
 }
 
-std::vector<Visual*> AccessibleForm::Spoken() const
+// Not before somebody asks: a window can be known to screen readers before its cells are made.
+std::vector<AccessibleForm::Node>& AccessibleForm::Nodes() const
 {
-    std::vector<Visual*> spoken;
+    FormWidget* const form = Form();
+    if (!nodes_.empty() || ModelOf(form) == nullptr) {
+        return nodes_;
+    }
+    for (Spoken& part : SpokenOn(*form->Model())) {
+        Node node{std::move(part)};
+        if (node.Part.Kind != SpokenKind::NameBox) {
+            node.Id = QAccessible::registerAccessibleInterface(new AccessiblePart(form, node.Part));
+        }
+        node.Name = ToQString(NameOf(node.Part));
+        node.Seen = IsSpokenNow(node.Part);
+        nodes_.push_back(std::move(node));
+    }
+    if (form->Model()->Name() == frmTessel.Name()) {
+        news_ = QAccessible::registerAccessibleInterface(new AccessibleNews(form));
+    }
+    return nodes_;
+}
+
+QString AccessibleForm::text(QAccessible::Text kind) const
+{
     const Window* const window = ModelOf(Form());
-    if (window == nullptr) {
-        return spoken;
-    }
-    for (Visual* const visual : window->FrontToBack()) {
-        const Visual& seen = *visual;
-        if (typeid(seen) != typeid(TextBox) && IsSeen(seen) && !SpokenName(seen).isEmpty()) {
-            spoken.push_back(visual);
-        }
-    }
-    return spoken;
-}
-
-QAccessibleInterface* AccessibleForm::InterfaceOf(Visual& visual) const
-{
-    const auto found = known_.find(&visual);
-    if (found != known_.end()) {
-        return QAccessible::accessibleInterface(found->second);
-    }
-    auto* const control = new AccessibleControl(Form(), &visual);
-    known_[&visual] = QAccessible::registerAccessibleInterface(control);
-    return control;
-}
-
-QAccessibleInterface* AccessibleForm::Of(const Visual& visual) const
-{
-    const std::vector<Visual*> spoken = Spoken();
-    const auto found = std::find(spoken.begin(), spoken.end(), &visual);
-    return found == spoken.end() ? nullptr : InterfaceOf(**found);
-}
-
-int AccessibleForm::childCount() const
-{
-    return QAccessibleWidget::childCount() + static_cast<int>(Spoken().size());
-}
-
-QAccessibleInterface* AccessibleForm::child(int index) const
-{
-    const int widgets = QAccessibleWidget::childCount();
-    if (index < widgets) {
-        return QAccessibleWidget::child(index);
-    }
-    const std::vector<Visual*> spoken = Spoken();
-    const auto place = static_cast<std::size_t>(index - widgets);
-    return place < spoken.size() ? InterfaceOf(*spoken[place]) : nullptr;
-}
-
-QAccessibleInterface* AccessibleForm::childAt(int x, int y) const
-{
-    const FormWidget* const form = Form();
-    const Visual* visual = nullptr;
-    if (ModelOf(form) != nullptr) {
-        visual = form->ControlUnder(form->mapFromGlobal(QPoint(x, y)));
-    }
-    QAccessibleInterface* const control = visual != nullptr ? Of(*visual) : nullptr;
-    return control != nullptr ? control : QAccessibleWidget::childAt(x, y);
-}
-
-int AccessibleForm::indexOfChild(const QAccessibleInterface* child) const
-{
-    const int widgets = QAccessibleWidget::childCount();
-    const std::vector<Visual*> spoken = Spoken();
-    for (std::size_t i = 0; i < spoken.size(); ++i) {
-        const auto found = known_.find(spoken[i]);
-        if (found != known_.end() && QAccessible::accessibleInterface(found->second) == child) {
-            return widgets + static_cast<int>(i);
-        }
-    }
-    return QAccessibleWidget::indexOfChild(child);
+    return kind == QAccessible::Name && window != nullptr ? ToQString(TitleOf(*window))
+                                                          : QAccessibleWidget::text(kind);
 }
 
 QAccessible::Role AccessibleForm::role() const
 {
     const Window* const window = ModelOf(Form());
+    if (window != nullptr && IsMessage(*window)) {
+        return QAccessible::AlertMessage;
+    }
     return window != nullptr && window->Modal() ? QAccessible::Dialog : QAccessible::Window;
+}
+
+QAccessibleInterface* AccessibleForm::InterfaceOf(const Node& node) const
+{
+    return node.Id != 0 ? QAccessible::accessibleInterface(node.Id)
+                        : QAccessible::queryAccessibleInterface(Form()->BoxOf(*node.Part.Where));
+}
+
+QAccessibleInterface* AccessibleForm::InterfaceOf(const Visual* visual) const
+{
+    const std::vector<Node>& nodes = Nodes();
+    const auto found = std::find_if(nodes.begin(), nodes.end(), [visual](const Node& node) {
+        const std::vector<const Image*>& digits = node.Part.Digits;
+        return node.Part.Where == visual ||
+               std::find(digits.begin(), digits.end(), visual) != digits.end();
+    });
+    return visual == nullptr || found == nodes.end() ? nullptr : InterfaceOf(*found);
+}
+
+std::vector<QAccessibleInterface*> AccessibleForm::Children() const
+{
+    std::vector<QAccessibleInterface*> children;
+    if (ModelOf(Form()) == nullptr) {
+        return children;
+    }
+    if (auto* const menu = Form()->findChild<QMenuBar*>()) {
+        children.push_back(QAccessible::queryAccessibleInterface(menu));
+    }
+    for (const Node& node : Nodes()) {
+        children.push_back(InterfaceOf(node));
+    }
+    if (news_ != 0) {
+        children.push_back(QAccessible::accessibleInterface(news_));
+    }
+    return children;
+}
+
+int AccessibleForm::childCount() const
+{
+    return static_cast<int>(Children().size());
+}
+
+QAccessibleInterface* AccessibleForm::child(int index) const
+{
+    const std::vector<QAccessibleInterface*> children = Children();
+    const auto place = static_cast<std::size_t>(index);
+    return index >= 0 && place < children.size() ? children[place] : nullptr;
+}
+
+int AccessibleForm::indexOfChild(const QAccessibleInterface* child) const
+{
+    const std::vector<QAccessibleInterface*> children = Children();
+    const auto found = std::find(children.begin(), children.end(), child);
+    return found == children.end() ? -1 : static_cast<int>(found - children.begin());
+}
+
+QAccessibleInterface* AccessibleForm::childAt(int x, int y) const
+{
+    const FormWidget* const form = Form();
+    const Visual* const visual =
+        ModelOf(form) != nullptr ? form->ControlUnder(form->mapFromGlobal(QPoint(x, y))) : nullptr;
+    QAccessibleInterface* const part = InterfaceOf(visual);
+    return part != nullptr ? part : QAccessibleWidget::childAt(x, y);
+}
+
+QAccessibleInterface* AccessibleForm::focusChild() const
+{
+    const Window* const window = ModelOf(Form());
+    QAccessibleInterface* const place =
+        window != nullptr && Form()->isActiveWindow() ? InterfaceOf(window->Place()) : nullptr;
+    return place != nullptr ? place : QAccessibleWidget::focusChild();
+}
+
+void AccessibleForm::Announce(const QString& words)
+{
+    Nodes();
+#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
+    QAccessibleAnnouncementEvent event(Form(), words);
+    QAccessible::updateAccessibility(&event);
+#endif
+    QAccessibleInterface* const news = QAccessible::accessibleInterface(news_);
+    static_cast<AccessibleNews*>(news)->Words = words;
+    Tell(news, QAccessible::NameChanged);
+    Tell(news, QAccessible::ObjectShow);
+}
+
+void AccessibleForm::TellChanges()
+{
+    for (Node& node : Nodes()) {
+        if (node.Id == 0) {
+            continue;
+        }
+        const QString name = ToQString(NameOf(node.Part));
+        const bool seen = IsSpokenNow(node.Part);
+        if (std::exchange(node.Name, name) != name) {
+            Tell(InterfaceOf(node), QAccessible::NameChanged);
+        }
+        if (std::exchange(node.Seen, seen) != seen) {
+            Tell(InterfaceOf(node), seen ? QAccessible::ObjectShow : QAccessible::ObjectHide);
+        }
+    }
+    const Visual* const place = Form()->Model()->Place();
+    if (std::exchange(place_, place) != place) {
+        QAccessibleInterface* const part = InterfaceOf(place);
+        Tell(part != nullptr ? part : this, QAccessible::Focus);
+    }
 }
 
 }  // namespace malvone::qt

@@ -1,22 +1,22 @@
-// AccessibleForm.h: a window and its painted controls as a tree for screen readers.
+// AccessibleForm.h: a window and what is spoken of it as a tree for screen readers.
 #pragma once
 
 #include <QAccessible>
 #include <QAccessibleWidget>
 #include <QPointer>
-#include <unordered_map>
+#include <vector>
 
-#include "ui/layer/Control.h"
+#include "ui/windows/Spoken.h"
 
 namespace malvone::qt {
 
 class FormWidget;
 
-// One painted control. It is named and pressed through the model.
-class AccessibleControl final : public QAccessibleInterface, public QAccessibleActionInterface
+// What has no widget of its own: a leaf of a window's tree.
+class AccessibleLeaf : public QAccessibleInterface
 {
 public:
-    AccessibleControl(FormWidget* form, Visual* visual) : form_(form), visual_(visual) {}
+    explicit AccessibleLeaf(FormWidget* form) : form_(form) {}
 
     bool isValid() const override;
     QObject* object() const override { return nullptr; }
@@ -25,8 +25,19 @@ public:
     QAccessibleInterface* childAt(int, int) const override { return nullptr; }
     int childCount() const override { return 0; }
     int indexOfChild(const QAccessibleInterface*) const override { return -1; }
-    QString text(QAccessible::Text kind) const override;
     void setText(QAccessible::Text, const QString&) override {}
+
+protected:
+    QPointer<FormWidget> form_;
+};
+
+// Something painted: named, placed and pressed through the model.
+class AccessiblePart final : public AccessibleLeaf, public QAccessibleActionInterface
+{
+public:
+    AccessiblePart(FormWidget* form, Spoken part) : AccessibleLeaf(form), part_(std::move(part)) {}
+
+    QString text(QAccessible::Text kind) const override;
     QRect rect() const override;
     QAccessible::Role role() const override;
     QAccessible::State state() const override;
@@ -37,35 +48,64 @@ public:
     QStringList keyBindingsForAction(const QString&) const override { return {}; }
 
 private:
-    QPointer<FormWidget> form_;
-    Visual* visual_;
+    Spoken part_;
 
     bool Pressable() const;
 };
 
-// The window: menu bar and text boxes are Qt's own, the named controls follow behind them.
+// What has happened, in words: screen readers say a notification when it is shown.
+class AccessibleNews final : public AccessibleLeaf
+{
+public:
+    using AccessibleLeaf::AccessibleLeaf;
+
+    QString Words;
+
+    QString text(QAccessible::Text kind) const override;
+    QRect rect() const override { return {}; }
+    QAccessible::Role role() const override { return QAccessible::Notification; }
+    QAccessible::State state() const override;
+};
+
+// The window: the menu bar, then what is spoken of in reading order; the main window has the news.
 class AccessibleForm final : public QAccessibleWidget
 {
 public:
     explicit AccessibleForm(FormWidget* form);
     ~AccessibleForm() override;
 
+    QString text(QAccessible::Text kind) const override;
     QAccessibleInterface* child(int index) const override;
     QAccessibleInterface* childAt(int x, int y) const override;
     int childCount() const override;
     int indexOfChild(const QAccessibleInterface* child) const override;
+    QAccessibleInterface* focusChild() const override;
     QAccessible::Role role() const override;
 
-    // The interface of one control; null where it has no name or cannot be seen.
-    QAccessibleInterface* Of(const Visual& visual) const;
+    void Announce(const QString& words);
+    // Tells what is called otherwise, has come or gone since it was told last, and where the place
+    // of the arrow keys is.
+    void TellChanges();
 
 private:
-    mutable std::unordered_map<const Visual*, QAccessible::Id> known_;
+    // A leaf and what a screen reader was told of it last.
+    struct Node
+    {
+        Spoken Part = {};
+        QAccessible::Id Id = 0;  // of the leaf; 0: a widget of Qt's own
+        QString Name = {};
+        bool Seen = false;
+    };
+
+    mutable std::vector<Node> nodes_;
+    mutable QAccessible::Id news_ = 0;
+    const Visual* place_ = nullptr;
 
     FormWidget* Form() const;
-    // The named controls that can be seen, the cells of the board by their numbers.
-    std::vector<Visual*> Spoken() const;
-    QAccessibleInterface* InterfaceOf(Visual& visual) const;
+    std::vector<Node>& Nodes() const;
+    QAccessibleInterface* InterfaceOf(const Node& node) const;
+    QAccessibleInterface* InterfaceOf(const Visual* visual) const;
+    std::vector<QAccessibleInterface*> Children() const;
 };
 
 }  // namespace malvone::qt

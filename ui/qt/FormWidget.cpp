@@ -169,6 +169,12 @@ void FormWidget::FollowFocus()
     }
 }
 
+QWidget* FormWidget::BoxOf(const Control& box) const
+{
+    const auto found = boxes_.find(&box);
+    return found != boxes_.end() ? found->second : nullptr;
+}
+
 // A box beside the client area is mere data and has no widget.
 void FormWidget::FollowBox(TextBox& box)
 {
@@ -291,14 +297,13 @@ bool FormWidget::ShowTip(const QHelpEvent& event)
     return true;
 }
 
-// A key that is held down speaks once: it must not answer the next question too.
 bool FormWidget::RouteKey(const QKeyEvent& event)
 {
     const Key key = ToKey(event);
     if (window_ == nullptr || key.Code == 0) {
         return false;
     }
-    if (!event.isAutoRepeat() && malvone::RouteKey(*window_, key)) {
+    if ((!event.isAutoRepeat() || MayRepeat(key)) && malvone::RouteKey(*window_, key)) {
         return true;
     }
     const bool letter = key.Shift == kAltKey && key.Code >= 'A' && key.Code <= 'Z';

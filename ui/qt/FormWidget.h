@@ -42,6 +42,8 @@ public:
     QPoint Origin() const;
     // The topmost control under a place of this widget; null beside the designed client area.
     Visual* ControlUnder(QPointF position) const;
+    // The widget of a text box; null where it has none.
+    QWidget* BoxOf(const Control& box) const;
 
 Q_SIGNALS:
     void Activated();

@@ -1,9 +1,11 @@
 // MenuBar.cpp: builds the menu and keeps it in step with the model.
 #include "ui/qt/MenuBar.h"
 
+#include <QCoreApplication>
 #include <QEvent>
 #include <QKeySequence>
 #include <QMenu>
+#include <QTranslator>
 #include <algorithm>
 
 #include "ui/layer/App.h"
@@ -12,27 +14,39 @@
 namespace malvone::qt {
 namespace {
 
-QString KeyName(Key key)
+// The name of the one key that the menu shows; everything else that Qt says is left to it.
+class KeyNames final : public QTranslator
 {
-    QString name = (key.Shift & kCtrlKey) != 0 ? QStringLiteral("Strg+") : QString();
-    if (key.Code >= kKeyF1) {
-        return name + QStringLiteral("F%1").arg(key.Code - kKeyF1 + 1);
-    }
-    return name + QChar(key.Code);
-}
+public:
+    using QTranslator::QTranslator;
 
-// The blanks behind a caption belong to it: they keep the menus apart.
-QString CaptionOf(const MenuEntry& entry)
+    bool isEmpty() const override { return false; }
+    QString translate(const char* context, const char* source, const char*, int) const override
+    {
+        const bool control = QLatin1String(context) == QLatin1String("QShortcut") &&
+                             QLatin1String(source) == QLatin1String("Ctrl");
+        return control ? QStringLiteral("Strg") : QString();
+    }
+};
+
+// Shown beside the entry, and told to screen readers apart from its name. It is the layer that
+// routes the key: Qt's own way to the entry is no wider than the open menu.
+void ShowShortcut(QAction& action, Key key)
 {
-    const QString caption = ToQString(entry.Caption.Get());
-    return entry.Shortcut == Key() ? caption
-                                   : caption + QLatin1Char('\t') + KeyName(entry.Shortcut);
+    if (key == Key()) {
+        return;
+    }
+    const int code = key.Code >= kKeyF1 ? Qt::Key_F1 + key.Code - kKeyF1 : key.Code;
+    const int control = (key.Shift & kCtrlKey) != 0 ? static_cast<int>(Qt::CTRL) : 0;
+    action.setShortcut(QKeySequence(control | code));
+    action.setShortcutContext(Qt::WidgetShortcut);
 }
 
 }  // namespace
 
 MenuBar::MenuBar(const Window& window, QWidget* parent) : QMenuBar(parent), window_(&window)
 {
+    QCoreApplication::installTranslator(new KeyNames(this));
     const std::vector<MenuEntry*> entries = window.MenuEntries();
     for (MenuEntry* const entry : entries) {
         Add(*entry, std::any_of(entries.begin(), entries.end(), [entry](const MenuEntry* other) {
@@ -55,7 +69,11 @@ void MenuBar::Add(MenuEntry& entry, bool opensMenu)
     } else {
         action = new QAction(parent);
         action->setSeparator(entry.Separator());
-        connect(action, &QAction::triggered, this, [this, &entry] { Chosen(entry); });
+        ShowShortcut(*action, entry.Shortcut);
+        // A screen reader that chooses an entry waits for the end of its call.
+        connect(
+            action, &QAction::triggered, this, [this, &entry] { Chosen(entry); },
+            Qt::QueuedConnection);
     }
     // Desktops have ideas of their own about entries with certain words.
     action->setMenuRole(QAction::NoRole);
@@ -67,7 +85,8 @@ void MenuBar::Add(MenuEntry& entry, bool opensMenu)
 void MenuBar::Follow(const MenuEntry& entry)
 {
     QAction* const action = actions_.at(&entry);
-    action->setText(entry.Separator() ? QString() : CaptionOf(entry));
+    // The blanks behind a caption belong to it: they keep the menus apart.
+    action->setText(entry.Separator() ? QString() : ToQString(entry.Caption.Get()));
     action->setEnabled(entry.Enabled);
     action->setVisible(entry.Visible);
     // Only a checked entry shows a mark, and room for it.

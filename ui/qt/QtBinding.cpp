@@ -7,7 +7,6 @@
 #include <algorithm>
 
 #include "ui/layer/App.h"
-#include "ui/qt/Accessibility.h"
 #include "ui/qt/Backdrop.h"
 #include "ui/qt/BackdropWindow.h"
 #include "ui/qt/FormWidget.h"
@@ -155,7 +154,7 @@ void QtBinding::ControlChanged(Control& control, Change what)
         timers_.Follow(*timer);
     } else if (FormWidget* const form = FormOf(control.Owner())) {
         form->Follow(control, what);
-        TellScreenReader(*form, control, what);
+        reader_.Follow(*form, what);
     }
 }
 

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "ui/layer/Binding.h"
+#include "ui/qt/Accessibility.h"
 #include "ui/qt/PictureStore.h"
 #include "ui/qt/Timers.h"
 
@@ -46,6 +47,7 @@ private:
 
     PictureStore pictures_;
     Timers timers_;
+    ScreenReader reader_;
     // In the order in which they were made: the windows that are shown first lie lowest.
     std::vector<FormWidget*> forms_;
     std::vector<ModalLoop> loops_;

@@ -179,7 +179,9 @@ std::string NameOf(const Spoken& spoken)
 
 std::string DescriptionOf(const Spoken& spoken)
 {
-    return OneLine(spoken.Where->ToolTipText.Get());
+    const bool pointedAt = spoken.Kind == SpokenKind::Cell && spoken.Where->Tag->Number() != 0 &&
+                           spoken.Where == spoken.Where->Owner().Place();
+    return OneLine(pointedAt ? frmTessel->lblSumme.Caption.Get() : spoken.Where->ToolTipText.Get());
 }
 
 bool IsSpokenNow(const Spoken& spoken)

@@ -42,7 +42,8 @@ std::vector<Spoken> SpokenOn(Window& window);
 
 // What it is called at the moment: "Neues Spiel", "Punkte: 36", "Spalte 3, Reihe 5, orange".
 std::string NameOf(const Spoken& spoken);
-// The tool tip; empty where there is none.
+// The tool tip; for the stone that the arrow keys have led to, what a move there is worth. Empty
+// where there is nothing to add.
 std::string DescriptionOf(const Spoken& spoken);
 // Whether it is seen on the window and has words at the moment.
 bool IsSpokenNow(const Spoken& spoken);

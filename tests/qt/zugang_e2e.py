@@ -1,0 +1,163 @@
+#!/usr/bin/env python3
+"""Plays the game as a screen reader does, over the real bus of the desktop's accessibility: reads the
+tree, listens to its events and presses what it finds; the board is played by keys alone."""
+import importlib.util
+import itertools
+import os
+import re
+import subprocess
+import sys
+
+if importlib.util.find_spec("pyatspi") is None and sys.executable != "/usr/bin/python3":
+    os.execv("/usr/bin/python3", ["/usr/bin/python3", *sys.argv])   # where Debian's modules are
+
+sys.path.append(os.path.join(os.path.dirname(os.path.abspath(__file__)), os.pardir, "support"))
+from desktop import Desktop, Game
+from processes import expect, script, until
+
+COLOURS = ["leer", "orange", "hellgrün", "gelb", "himmelblau"]
+TITLE = "Malvone Vers.: 3.1.0"
+
+
+class Reader:
+    def __init__(self, desktop):
+        bus = desktop.start("dbus-daemon", "--session", "--nofork", "--print-address",
+                            stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True)
+        desktop.env["DBUS_SESSION_BUS_ADDRESS"] = bus.stdout.readline().strip()
+        os.environ.update(desktop.env)
+        global pyatspi, GLib
+        import pyatspi
+        from gi.repository import Gio, GLib
+        Gio.bus_get_sync(Gio.BusType.SESSION).call_sync(
+            "org.a11y.Bus", "/org/a11y/bus", "org.freedesktop.DBus.Properties", "Set",
+            GLib.Variant("(ssv)", ("org.a11y.Status", "ScreenReaderEnabled", GLib.Variant("b", True))),
+            None, Gio.DBusCallFlags.NONE, -1)
+        self.heard = []
+        pyatspi.Registry.registerEventListener(
+            self.hear, "window:activate", "object:state-changed:focused",
+            "object:state-changed:showing", "object:property-change:accessible-name")
+
+    def hear(self, event):
+        try:
+            self.heard.append((event.type.name or str(event.type), event.detail1,
+                               event.source.getRoleName(), event.source.name))
+        except GLib.GError:
+            pass    # what has gone meanwhile
+
+    def wait(self, condition, what):
+        def looked():
+            while GLib.MainContext.default().iteration(False):
+                pass
+            try:
+                return condition()
+            except GLib.GError:
+                return None
+        return until(looked, what)
+
+    def hears(self, kind, role, words, detail=None):
+        """Waits for an event, and forgets it with all before it."""
+        def found():
+            for number, (type_, number1, whose, name) in enumerate(self.heard):
+                if kind in type_ and whose == role and re.fullmatch(words, name) and \
+                        detail in (None, number1):
+                    del self.heard[:number + 1]
+                    return name
+            return None
+        return self.wait(found, f"{kind} of {role} {words}; heard: {self.heard[-5:]}")
+
+    def windows(self):
+        program = next(one for one in pyatspi.Registry.getDesktop(0) if one.name == "malvone")
+        return list(program)
+
+    def window(self, role):
+        return self.wait(lambda: next((one for one in self.windows() if one.getRoleName() == role),
+                                      None), "a window: " + role)
+
+    @staticmethod
+    def words(window):
+        """What can be read at the moment, from top to bottom; not the menu."""
+        return [one.name for one in window if one.getState().contains(pyatspi.STATE_SHOWING)
+                and one.getRoleName() != "menu bar"]
+
+    def press(self, window, name):
+        """The call comes back at once, also where a message opens: nobody closes it meanwhile."""
+        expect(next(one for one in window if one.name == name).queryAction().doAction(0), name)
+
+
+def all_below(node):
+    yield node
+    for child in node:
+        yield from all_below(child)
+
+
+def tree(reader):
+    main = reader.window("frame")
+    expect(len(reader.windows()) == 1 and main.name == TITLE, "the main window alone, no backdrop")
+    cells = [f"Spalte {i // 10 + 1}, Reihe {i % 10 + 1}, leer" for i in range(140)]
+    words = reader.words(main)
+    expect(words == ["Malvone", "Hilfe", "Info", "Punkte: 0", "Levelpunkte: 0", "Level: 0",
+                     "Neues Spiel", "Beenden", *cells, "Klicken Sie auf »Neues Spiel«."], words)
+    menu = [one.name for one in all_below(main[0])]
+    expect("Neues Spiel" in " ".join(menu) and "\t" not in "".join(menu), menu)
+    places = [one.queryComponent().getExtents(pyatspi.DESKTOP_COORDS)
+              for one in main if one.name in cells]
+    for a, b in itertools.combinations(places, 2):
+        expect(a.x + a.width <= b.x or b.x + b.width <= a.x or
+               a.y + a.height <= b.y or b.y + b.height <= a.y, f"cells overlap: {a} {b}")
+    return main
+
+
+def board_by_keys(reader, game, main):
+    reader.press(main, "Neues Spiel")
+    reader.hears("showing", "notification", r"Neues Spiel\.", 1)
+    reader.hears("name", "label", "Level: 1")
+    stones = until(game.snapshot, "the snapshot")
+    pair = next(column for column in range(13) if stones[column * 10 + 9] == stones[column * 10 + 19])
+    for column in range(pair + 1):      # the first arrow only shows the place
+        game.key("Right")
+        colour = COLOURS[int(stones[column * 10 + 9])]
+        reader.hears("focused", "push button", f"Spalte {column + 1}, Reihe 10, {colour}", 1)
+    stone = next(one for one in main if one.getState().contains(pyatspi.STATE_FOCUSED))
+    worth = int(re.fullmatch(r"Dieser Spielzug ergibt (\d+) Punkte!", stone.description)[1])
+    game.key("Delete")
+    said = reader.hears("showing", "notification", r"\d+ Steine entfernt, \d+ Punkte\.", 1)
+    expect(said == f"{round(worth ** .5)} Steine entfernt, {worth} Punkte.", said)
+    for display in ("Punkte", "Levelpunkte"):
+        reader.hears("name", "label", f"{display}: {worth}")
+
+
+def message(reader, main):
+    reader.press(main, "Info")
+    reader.hears("activate", "alert", re.escape(TITLE))
+    alert = reader.window("alert")
+    words = reader.words(alert)
+    expect([w.split(":")[0] for w in words] == ["Programmierung", "Grafik", "OK", "schließen"], words)
+    reader.press(alert, "OK")
+    reader.wait(lambda: len(reader.windows()) == 1, "the message to close")
+
+
+def end_of_level(reader, game, main):
+    game.play_to_end()
+    said = reader.hears("showing", "notification", r"Der Level ist zu Ende\..*", 1)
+    expect(said.endswith("Klicken Sie auf »Nächster Level« oder »Wiederholen«."), said)
+    reader.hears("showing", "push button", "Nächster Level", 1)
+    reader.press(main, "Nächster Level")
+    reader.hears("showing", "notification", r"Der Level beginnt\.", 1)
+
+
+def main():
+    with Desktop() as desktop:
+        reader = Reader(desktop)
+        with Game(desktop) as game:
+            main = tree(reader)
+            board_by_keys(reader, game, main)
+            message(reader, main)
+            end_of_level(reader, game, main)
+            reader.press(main, "Beenden")
+            reader.hears("activate", "alert", re.escape(TITLE))
+            reader.press(reader.window("alert"), "Ja")
+            game.end()
+
+
+if __name__ == "__main__":
+    script(main)
