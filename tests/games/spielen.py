@@ -27,6 +27,8 @@ program starts, the others in their place, while the program waits:
     #: fehlt daten/x.ini              there is no such file or folder
     #: merke BRETT [REGEX]            the next answer is kept (and must match); {BRETT} in the transcript
     #: gleich BRETT                   the next answer must be the one that was kept
+    #: mal 5                          the next command is given five times, and told once if it is
+                                      answered alike each time
     #: neustart [OPTIONEN]            ends the program by the end of its input and starts it anew
 
     #|text                            one line of a file
@@ -60,6 +62,7 @@ class Play:
         self.lines, self.folder = lines, folder
         self.at, self.transcript, self.options = 0, [], []
         self.process = self.prompt = None
+        self.times = 1
         self.kept, self.wanted = {}, None   # (name, regex): the next answer is kept or compared
         for name in ("daten", "programm"):
             (folder / name).mkdir()
@@ -80,7 +83,14 @@ class Play:
                 continue
             self.begin()
             if line.startswith("> ") and line.count(" ") > 1:
-                self.command(line.split(" ", 2)[2])
+                before, told = len(self.transcript), []
+                for _ in range(self.times):
+                    self.command(line.split(" ", 2)[2])
+                    told.append(self.transcript[before:])
+                    del self.transcript[before:]
+                alike = all(each == told[0] for each in told)
+                self.transcript += told[0] if alike else sum(told, [])
+                self.times = 1
         self.begin()
         self.finish()
         return self.transcript
@@ -198,6 +208,9 @@ class Play:
 
     def do_gleich(self, name):
         self.wanted = (name, None)
+
+    def do_mal(self, times):
+        self.times = int(times)
 
     def do_neustart(self, *options):
         self.options = options      # The end of the run before it is told above this line.
