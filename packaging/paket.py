@@ -9,6 +9,7 @@ import contextlib
 import filecmp
 import os
 import pathlib
+import re
 import shutil
 import signal
 import subprocess
@@ -70,6 +71,14 @@ def build(source, folder, conditions, kind, prefix=()):
               env={**kept, **environment})
     (tree.parent / "build.log").write_text(log)
     return tree.parent
+
+
+def same_needs():
+    """What ./play installs to build and play, the package asks for too."""
+    listed = run("bash", "-c", '. tools/pakete.sh; printf "%s\\n" "${pakete_spiel[@]}"', cwd=ROOT).split()
+    asked = set(re.findall(r"[a-z0-9.+-]+", (ROOT / "debian/control").read_text()))
+    missing = [entry for entry in listed if asked.isdisjoint(entry.split("|"))]
+    expect(missing == ["build-essential", "ccache"], f"debian/control does not ask for {missing}")
 
 
 def compare(one, other):
@@ -143,6 +152,7 @@ def main():
     offline = first_that_runs(["unshare", "-n"], ["unshare", "-cn"])
     if offline is None:
         print("The system lets nobody do without a network: it may have been used.")
+    same_needs()
     source = folder / "source"
     copy(source)
     packages = build(source, folder, HERE, "--build=full")
