@@ -4,7 +4,7 @@
   klingen.py             writes the waves beside this script and prints what they measure
   klingen.py --pruefen   writes nothing; fails if a wave is not what this script makes
 
-Every sound begins with tones of its own, so that ear and tests/sound/erkennen.py know it from its
+Every sound begins with tones of its own, so that ear and tests/sound/hoeren.py know it from its
 first 150 ms. Loudness is the mean power after the K weighting of ITU-R BS.1770, taken over the
 10 ms pieces that lie within 20 dB of the loudest; all seven are brought to the same value.
 """

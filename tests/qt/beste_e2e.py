@@ -5,7 +5,7 @@ import os
 import sys
 
 sys.path.append(os.path.join(os.path.dirname(os.path.abspath(__file__)), os.pardir, "support"))
-from desktop import LIST, LIST_OK, NEW_GAME, PAIR, YES, Desktop, Game
+from desktop import LIST, LIST_OK, MENU, NEW_GAME, PAIR, YES, Desktop, Game
 from processes import expect, script, until
 
 NAME = "Jörg Müßig, €"
@@ -63,9 +63,8 @@ def main():
 
         with Game(desktop) as game:
             game.key("alt+i")
-            until(lambda: desktop.focused() != game.main or desktop.run(
-                "xdotool", "search", "--onlyvisible", "--class", "malvone").count("\n") > 2, "menu")
-            game.desktop.do("key", "Down", "Down", "Return")
+            until(lambda: desktop.windows(MENU), "the menu")
+            desktop.do("key", "Down", "Down", "Return")
             window = list_window(game)
             if len(sys.argv) > 1:
                 desktop.run("import", "-window", window, sys.argv[1])

@@ -1,244 +1,141 @@
-#!/usr/bin/env python3
-"""Runs a command beside a sound server of its own and tells which of the game's sounds were heard.
+"""A sound server of a script's own, in any condition, and ears for the game's sounds.
 
-  hoeren.py [options] COMMAND [ARG ...]
+    with Server() as server:            # one sink; its folder is the HOME and runtime folder to use
+        server.hears("TADA", "DING")    # waits until these were heard, these alone, the last one whole
+        server.freeze(), server.thaw(), server.stop(), server.start()
+    with Server("nosink") as server:    # also "always": no hardware, "hung": never answers, "none"
 
-  --server null|nosink|always|none|hung
-        null    one sink (default)              nosink  a server without any sink
-        always  a desktop without hardware      none    no server at all
-        hung    accepts connections and never answers
-  --erwartet A,B,...   sounds that must be heard, in this order and no others (TADA,ding); "" for none
-  --stille-stderr      the command must write nothing to standard error
-  --frist S            seconds that the command may take (30)
-  --dann S:WHAT        S seconds after the start: anhalten, weiter, neustart or starten the server
-  --daten FOLDER       XDG_DATA_HOME of the command, which stays (otherwise a passing one)
-
-Exit 0 only if the command returned 0 in time and everything was as wanted. The command gets a HOME
-and a runtime folder of its own, so no data of the player is touched and no real device sounds.
-Needs pulseaudio and pulseaudio-utils.
+The sink takes the samples as they are, so that a wave is found in the recording byte by byte; what
+is neither silence nor a part of a wave is reported as UNKNOWN. Needs pulseaudio, pulseaudio-utils.
 """
-import argparse
-import collections
 import os
 import shutil
 import signal
 import subprocess
 import sys
 import tempfile
-import threading
-import time
+import wave
 
-import erkennen
+HERE = os.path.dirname(os.path.abspath(__file__))
+sys.path.append(os.path.join(HERE, os.pardir, "support"))
+from processes import Failed, end, start, until
 
-Ergebnis = collections.namedtuple('Ergebnis', 'exit ms ausgabe stderr klaenge')
-Klang = collections.namedtuple('Klang', 'ms name dauer')      # ms counts from the command's start
+WAVES = os.path.normpath(os.path.join(HERE, os.pardir, os.pardir, "assets", "sounds"))
+FILES = {name.split(".")[0].upper(): os.path.join(WAVES, name) for name in os.listdir(WAVES)
+         if name.lower().endswith(".wav")}
+RATE = 44100
+HEAD = 128      # bytes by which a wave is known, 1.5 ms
+OVERLAP = 16    # bytes that a cut wave may happen to share with the next one
+
+# Without norewinds an idle null sink renders silence ahead, which swallows what comes first.
+MODULES = {"nosink": [], "always": ["-L", "module-always-sink"]}
+SINK = ["-L", f"module-null-sink sink_name=ear norewinds=1 format=s16le channels=1 rate={RATE}"]
+
+
+def samples(path):
+    """The samples of a wave without the silence around them."""
+    with wave.open(path, "rb") as file:
+        data = file.readframes(file.getnframes())
+    first = len(data) - len(data.lstrip(b"\0"))
+    last = len(data.rstrip(b"\0"))
+    return data[first - first % 2:last + last % 2]
+
+
+SOUNDS = {name: samples(path) for name, path in FILES.items()}
+
+
+def common(a, b):
+    """How many bytes two texts have in common at their beginning."""
+    low, high = 0, min(len(a), len(b))
+    while low < high:
+        middle = (low + high + 1) // 2
+        low, high = (middle, high) if a[:middle] == b[:middle] else (low, middle - 1)
+    return low
+
+
+def recognised(recording):
+    """What a recording holds, in order: pairs of a name and whether it was heard to its end."""
+    found, at, search = [], 0, 0
+    while True:
+        begins = [(recording.find(data[:HEAD], search), name) for name, data in SOUNDS.items()]
+        begin, name = min((pair for pair in begins if pair[0] >= 0), default=(len(recording), None))
+        if recording[at:begin].strip(b"\0"):
+            found.append(("UNKNOWN", False))
+        if name is None:
+            return found
+        data = SOUNDS[name]
+        length = common(recording[begin:begin + len(data)], data)
+        found.append((name, length == len(data)))
+        at = begin + length
+        search = at if length == len(data) else max(begin + 2, at - OVERLAP)
 
 
 class Server:
-    """A PulseAudio of its own, and a recorder at its monitor."""
-    MODULE = {
-        # Without norewinds an idle null sink renders silence ahead, which swallows what comes first.
-        'null': ['-L', 'module-null-sink sink_name=probe norewinds=1'],
-        'always': ['-L', 'module-always-sink'],
-        'nosink': [],
-    }
+    def __init__(self, kind="null"):
+        self.kind, self.server, self.recorder = kind, None, None
+        self.folder = tempfile.mkdtemp(prefix="malvone-")
+        os.chmod(self.folder, 0o700)
+        self.recording = os.path.join(self.folder, "recording")
+        self.env = {key: value for key, value in os.environ.items()
+                    if not key.startswith(("PULSE_", "XDG_", "DBUS"))}
+        self.env.update(HOME=self.folder, XDG_RUNTIME_DIR=self.folder)
 
-    def __init__(self, art, env):
-        self.art, self.env = art, env
-        self.server = self.rekorder = self.leser = None
-        self.teile = []         # of the recording: (time of arrival, bytes)
-        self.aufnahmen = [self.teile]
+    def __enter__(self):
+        try:
+            if self.kind != "none":
+                self.start()
+            if self.kind == "hung":
+                self.freeze()
+        except BaseException:
+            self.__exit__()
+            raise
+        return self
 
-    def starten(self):
-        self.server = subprocess.Popen(
-            ['pulseaudio', '--daemonize=no', '--exit-idle-time=-1', '-n']
-            + self.MODULE.get(self.art, self.MODULE['null']) + ['-L', 'module-native-protocol-unix'],
-            env=self.env, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
-        ende = time.monotonic() + 10
-        while subprocess.run(['pactl', 'info'], env=self.env, stdout=subprocess.DEVNULL,
-                             stderr=subprocess.DEVNULL).returncode != 0:
-            if self.server.poll() is not None or time.monotonic() > ende:
-                raise RuntimeError('pulseaudio does not start')
-            time.sleep(0.03)
-        if self.art not in ('nosink', 'hung'):
-            self._aufnehmen()
+    def __exit__(self, *error):
+        self.stop()
+        shutil.rmtree(self.folder, ignore_errors=True)
 
-    def _aufnehmen(self):
-        self.rekorder = subprocess.Popen(
-            ['parec', '-d', '@DEFAULT_MONITOR@', '--raw', '--format=s16le', '--channels=1',
-             '--rate=%d' % erkennen.RATE, '--latency-msec=10'],
-            env=self.env, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL)
-        self.teile = []
-        self.aufnahmen.append(self.teile)
-        self.leser = threading.Thread(target=self._lesen, args=(self.rekorder.stdout, self.teile),
-                                      daemon=True)
-        self.leser.start()
-        ende = time.monotonic() + 5
-        while not self.teile:
-            if time.monotonic() > ende:
-                raise RuntimeError('the recorder hears nothing, not even silence')
-            time.sleep(0.01)
-        time.sleep(2.5 if self.art == 'always' else 0.3)
+    def start(self):
+        quiet = {"env": self.env, "stderr": subprocess.DEVNULL}
+        self.server = start(["pulseaudio", "--daemonize=no", "--exit-idle-time=-1", "-n",
+                             *MODULES.get(self.kind, SINK), "-L", "module-native-protocol-unix"],
+                            stdout=subprocess.DEVNULL, **quiet)
+        self.answers()
+        if self.kind in MODULES or self.kind == "hung":
+            return
+        with open(self.recording, "ab") as file:
+            before = os.path.getsize(self.recording)
+            self.recorder = start(["parec", "-d", "@DEFAULT_MONITOR@", "--raw", "--format=s16le",
+                                   "--channels=1", f"--rate={RATE}", "--latency-msec=10"],
+                                  stdout=file, **quiet)
+        until(lambda: os.path.getsize(self.recording) > before, "the recorder, to hear silence")
 
-    @staticmethod
-    def _lesen(rohr, teile):
-        while True:
-            daten = os.read(rohr.fileno(), 65536)
-            if not daten:
-                return
-            teile.append((time.monotonic(), daten))
+    def stop(self):
+        end(self.recorder)
+        end(self.server)
 
-    def anhalten(self):
+    def freeze(self):
         self.server.send_signal(signal.SIGSTOP)
 
-    def weiter(self):
+    def thaw(self):
         self.server.send_signal(signal.SIGCONT)
+        self.answers()
 
-    def neustart(self):
-        self.beenden()
-        self.starten()
+    def answers(self):
+        until(lambda: subprocess.run(["pactl", "info"], env=self.env, capture_output=True,
+                                     timeout=60).returncode == 0, "pulseaudio")
 
-    def beenden(self):
-        for prozess in (self.rekorder, self.server):
-            beenden(prozess)
-        if self.leser:
-            self.leser.join(2)
-        self.server = self.rekorder = self.leser = None
+    def heard(self):
+        with open(self.recording, "rb") as file:
+            return recognised(file.read())
 
-    def gehoert(self, beginn):
-        """What all recordings hold, with times counted from a moment."""
-        liste, erkenner = [], erkennen.Erkenner()
-        for teile in self.aufnahmen:
-            ankunft, samples = [], 0
-            for wann, daten in teile:
-                samples += len(daten) // 2
-                ankunft.append((samples, wann))
-            for ms, name, _, dauer in erkenner.erkennen(
-                    erkennen.roh_lesen(b''.join(d for _, d in teile))):
-                stelle = ms * erkennen.RATE // 1000
-                wann = next((w for s, w in ankunft if s > stelle), beginn)
-                liste.append(Klang(round(1000 * (wann - beginn)), kurz(name), dauer))
-        return liste
-
-
-def kurz(name):
-    return name.upper().removesuffix('.WAV')
-
-
-def beenden(prozess):
-    """Ends a process that was started here, also one that is stopped or deaf."""
-    if prozess is None or prozess.poll() is not None:
-        return
-    prozess.send_signal(signal.SIGCONT)
-    prozess.terminate()
-    try:
-        prozess.wait(3)
-    except subprocess.TimeoutExpired:
-        prozess.kill()
-        prozess.wait()
-
-
-def umgebung(ordner, daten=None):
-    env = dict(os.environ, HOME=ordner, XDG_RUNTIME_DIR=ordner, XDG_CONFIG_HOME=ordner + '/config',
-               XDG_DATA_HOME=daten or ordner + '/data', XDG_CACHE_HOME=ordner + '/cache')
-    env.setdefault('XAUTHORITY', os.path.expanduser('~/.Xauthority'))
-    for name in [n for n in env if n.startswith('PULSE_') or n == 'DBUS_SESSION_BUS_ADDRESS']:
-        del env[name]
-    return env
-
-
-def hoeren(befehl, server='null', frist=30.0, dann=(), daten=None):
-    """Runs the command; dann holds pairs of seconds and what to do: a name of a method of Server, or
-    a function that gets the running process."""
-    ordner = tempfile.mkdtemp(prefix='hoeren-')
-    os.chmod(ordner, 0o700)
-    env = umgebung(ordner, daten)
-    pulse, prozess = Server(server, env), None
-    try:
-        os.makedirs(env['XDG_DATA_HOME'], exist_ok=True)
-        if server != 'none':
-            pulse.starten()
-        if server == 'hung':
-            pulse.anhalten()
-        with open(ordner + '/stdout', 'w+b') as aus, open(ordner + '/stderr', 'w+b') as err:
-            beginn = time.monotonic()
-            prozess = subprocess.Popen(befehl, env=env, stdout=aus, stderr=err,
-                                       stdin=subprocess.DEVNULL)
-            for sekunden, tun in sorted(dann, key=lambda paar: paar[0]):
-                time.sleep(max(0.0, beginn + sekunden - time.monotonic()))
-                if callable(tun):
-                    tun(prozess)
-                else:
-                    getattr(pulse, tun)()
-            try:
-                ergebnis = prozess.wait(max(0.01, beginn + frist - time.monotonic()))
-            except subprocess.TimeoutExpired:
-                ergebnis = 'timeout'
-                beenden(prozess)
-            ms = round(1000 * (time.monotonic() - beginn))
-            time.sleep(0.3)
-            pulse.beenden()
-            aus.seek(0)
-            err.seek(0)
-            return Ergebnis(ergebnis, ms, aus.read().decode(errors='replace'),
-                            err.read().decode(errors='replace'), pulse.gehoert(beginn))
-    finally:
-        beenden(prozess)
-        pulse.beenden()
-        shutil.rmtree(ordner, ignore_errors=True)
-
-
-def maengel(ergebnis, erwartet=None, stille_stderr=False):
-    """What is not as wanted, one line each."""
-    liste = []
-    if ergebnis.exit != 0:
-        liste.append('the command did not end in time' if ergebnis.exit == 'timeout'
-                     else 'the command ended with %s' % ergebnis.exit)
-    if erwartet is not None:
-        soll, ist = [kurz(n) for n in erwartet], [k.name for k in ergebnis.klaenge]
-        if soll != ist:
-            liste.append('wanted %s, heard %s' % (','.join(soll) or 'nothing', ','.join(ist) or 'nothing'))
-    if stille_stderr and ergebnis.stderr:
-        liste.append('standard error is not empty: %s' % ergebnis.stderr.strip())
-    return liste
-
-
-def main():
-    ap = argparse.ArgumentParser(usage=__doc__)
-    ap.add_argument('--server', default='null', choices=['null', 'nosink', 'always', 'none', 'hung'])
-    ap.add_argument('--erwartet')
-    ap.add_argument('--stille-stderr', action='store_true')
-    ap.add_argument('--frist', type=float, default=30)
-    ap.add_argument('--dann', action='append', default=[])
-    ap.add_argument('--daten')
-    ap.add_argument('befehl', nargs=argparse.REMAINDER)
-    o = ap.parse_args()
-    befehl = o.befehl[1:] if o.befehl[:1] == ['--'] else o.befehl
-    if not befehl:
-        ap.error('no command')
-    dann = []
-    for eintrag in o.dann:
-        sekunden, _, was = eintrag.partition(':')
-        if was not in ('anhalten', 'weiter', 'neustart', 'starten'):
-            ap.error('--dann ' + eintrag)
-        dann.append((float(sekunden), was))
-    erwartet = None if o.erwartet is None else [n for n in o.erwartet.split(',') if n]
-    if erwartet and o.server in ('nosink', 'hung'):
-        ap.error('nothing can be heard with --server ' + o.server)
-    try:
-        ergebnis = hoeren(befehl, o.server, o.frist, dann, o.daten)
-    except RuntimeError as fehler:
-        sys.exit('hoeren.py: %s' % fehler)
-    sys.stdout.write(ergebnis.ausgabe)
-    sys.stderr.write(ergebnis.stderr)
-    for klang in ergebnis.klaenge:
-        print('%6d ms  %s (%d ms)' % klang)
-    liste = maengel(ergebnis, erwartet, o.stille_stderr)
-    for mangel in liste:
-        print('hoeren.py: ' + mangel, file=sys.stderr)
-    print('%s after %d ms' % ('not as wanted' if liste else 'as wanted', ergebnis.ms))
-    return 1 if liste else 0
-
-
-if __name__ == '__main__':
-    sys.exit(main())
+    def hears(self, *names, whole=True):
+        """Waits for the last of these sounds: for its end, or for its beginning alone."""
+        def there():
+            heard = self.heard()
+            return [name for name, _ in heard] == list(names) and (heard[-1][1] or not whole)
+        try:
+            until(there, "", 20)
+        except Failed:
+            told = [name + ("" if whole else " (cut)") for name, whole in self.heard()]
+            raise Failed(f"wanted {', '.join(names)}; heard {', '.join(told)}") from None

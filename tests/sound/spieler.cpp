@@ -1,59 +1,40 @@
 // A player for trials by ear and by machine: plays wave files as the game does.
-//   spieler [--bibliothek NAME] {FILE | MILLISECONDS | leer | zaehlen} ...
-// A number pauses, "leer" plays the empty path, "zaehlen" counts the devices. Prints how long the
-// game would have been held up: by each kind of call, the longest.
+//   spieler [LIBRARY]
+// Each line of the input is the path of a wave, empty for none, or "zaehlen" for the number of
+// devices. Each is answered by how many milliseconds the game would have been held up, and by the
+// number; so are the beginning and the end.
 #include "ui/sound/Sound.h"
 
-#include <algorithm>
 #include <chrono>
-#include <cstdio>
+#include <iostream>
 #include <string>
-#include <thread>
-#include <vector>
 
 namespace {
 
-using Uhr = std::chrono::steady_clock;
-
-template<typename Tun>
-double Gemessen(Tun tun)
+template<typename Call>
+double Measured(Call call)
 {
-    const auto beginn = Uhr::now();
-    tun();
-    return std::chrono::duration<double, std::milli>(Uhr::now() - beginn).count();
-}
-
-bool IstZahl(const std::string& text)
-{
-    return text.find_first_not_of("0123456789") == std::string::npos;
+    const auto begin = std::chrono::steady_clock::now();
+    call();
+    return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - begin)
+        .count();
 }
 
 }  // namespace
 
 int main(int argc, char** argv)
 {
-    std::vector<std::string> liste(argv + 1, argv + argc);
-    std::string bibliothek = "libpulse.so.0";
-    if (liste.size() >= 2 && liste[0] == "--bibliothek") {
-        bibliothek = liste[1];
-        liste.erase(liste.begin(), liste.begin() + 2);
-    }
-    malvone::Sound klang(bibliothek);
-    std::printf("Vorbereiten %.2f ms\n", Gemessen([&] { klang.Prepare(); }));
-    double spielen = 0;
-    for (const std::string& wort : liste) {
-        if (wort == "zaehlen") {
-            std::int32_t geraete = 0;
-            const double dauerMs = Gemessen([&] { geraete = klang.DeviceCount(); });
-            std::printf("Geraete %d\nZaehlen %.2f ms\n", geraete, dauerMs);
-        } else if (IstZahl(wort)) {
-            std::this_thread::sleep_for(std::chrono::milliseconds(std::stoi(wort)));
+    malvone::Sound sound(argc > 1 ? argv[1] : "libpulse.so.0");
+    std::cout << Measured([&] { sound.Prepare(); }) << std::endl;
+    for (std::string line; std::getline(std::cin, line);) {
+        if (line == "zaehlen") {
+            std::int32_t devices = 0;
+            std::cout << Measured([&] { devices = sound.DeviceCount(); });
+            std::cout << ' ' << devices << std::endl;
         } else {
-            const std::string pfad = wort == "leer" ? "" : wort;
-            spielen = std::max(spielen, Gemessen([&] { klang.Play(pfad); }));
+            std::cout << Measured([&] { sound.Play(line); }) << std::endl;
         }
     }
-    std::printf("Spielen %.2f ms\n", spielen);
-    std::printf("Beenden %.2f ms\n", Gemessen([&] { klang.Finish(); }));
+    std::cout << Measured([&] { sound.Finish(); }) << std::endl;
     return 0;
 }

@@ -24,7 +24,7 @@ import tempfile
 from processes import Failed, end, expect, start, until
 
 BUILD = os.environ.get("MALVONE_BUILD", "build/release")
-MAIN, MESSAGE, LIST = "^Malvone  Vers", "^Malvone$", "^Beste Spieler"
+MAIN, MESSAGE, LIST, MENU = "^Malvone  Vers", "^Malvone$", "^Beste Spieler", "^malvone$"
 WIDTH, HEIGHT = 755, 463
 
 # Places in pixels of the client area, below the menu bar; YES, NO and OK in their windows.
@@ -59,7 +59,7 @@ class Desktop:
                 number = numbers.readline().strip()
             expect(number, "Xvfb does not start")
             self.env = {key: value for key, value in os.environ.items()
-                        if not key.startswith(("QT_", "XDG_", "WAYLAND", "DBUS"))}
+                        if not key.startswith(("QT_", "XDG_", "WAYLAND", "DBUS", "PULSE_"))}
             self.data = os.path.join(self.folder, "daten")
             self.env.update(DISPLAY=":" + number, HOME=self.folder, XDG_RUNTIME_DIR=self.folder,
                             XDG_DATA_HOME=self.data)
@@ -108,8 +108,10 @@ class Desktop:
 
     def windows(self, name):
         """Visible windows whose title matches, without helpers of a few pixels and the backdrop."""
-        found = self.run("xdotool", "search", "--onlyvisible", "--name", name).split()
-        return [window for window in found if 100 < self.place(window)[2] < self.size[0]]
+        # By the name xdotool finds no menus, and does not tell "malvone", theirs, from "Malvone".
+        found = self.run("xdotool", "search", "--onlyvisible", "--class", ".").split()
+        return [window for window in found if 100 < self.place(window)[2] < self.size[0]
+                and re.search(name, self.run("xdotool", "getwindowname", window))]
 
     def focused(self):
         return self.run("xdotool", "getwindowfocus").strip()
