@@ -9,7 +9,7 @@
 #include "state/Zellen.h"
 #include "storage/Spielstanddatei.h"
 #include "storage/modBeste.h"
-#include "tests/support/StilleBindung.h"
+#include "tests/support/Game.h"
 #include "ui/windows/FrmBeste.h"
 #include "ui/windows/FrmTessel.h"
 
@@ -24,89 +24,80 @@ void Verlangen(bool bedingung)
     }
 }
 
-std::filesystem::path Arbeitsordner()
-{
-    return std::filesystem::exists("/dev/shm") ? "/dev/shm"
-                                               : std::filesystem::temp_directory_path();
-}
-
 // One program for the whole run: bringing it up takes longer than all that is looked at.
-Programm& DasProgramm()
+test::Game& TheGame()
 {
-    static const auto programm = std::make_unique<Programm>(Arbeitsordner());
-    return *programm;
+    static const auto game = [] {
+        if (std::filesystem::exists("/dev/shm")) {
+            ::setenv("TMPDIR", "/dev/shm", 1);  // files in memory: the disk is not what is tried
+        }
+        return std::make_unique<test::Game>();
+    }();
+    return *game;
 }
 
 // Yes to every question, on from every message, and out of the list by its button.
-void Bejahen(Window& fenster)
+template<class Doing>
+std::string Bejahen(Doing doing)
 {
-    if (Control* const ende = fenster.Find("cmdEnde")) {
-        RaiseClick(*ende);
-    } else {
-        const bool frage = fenster.Name() == "frmMsgJa";
-        RouteKey(fenster, {frage ? std::int16_t{'J'} : kKeyEsc, 0});
+    std::string answers;
+    for (int i = 0; i < 5; ++i) {
+        answers += "key J\nkey Esc\ndo frmBeste.cmdEnde Click\n";
     }
+    return TheGame()(answers, doing);
 }
 
 // No level has begun, the window of the best players is not loaded, and both files are the input.
 void NeuBeginnen(std::string_view inhalt)
 {
-    Programm& programm = DasProgramm();
-    programm.Antworten({});
+    test::Game& game = TheGame();
     if (!frmTessel.Loaded() || App.Ended()) {
-        App.Begin(programm.Bindung, programm.Plattform);
-        ZustandNeu();
-        programm.Starten();
+        game.Start();
     }
     if (frmBeste.Loaded()) {
         frmBeste->Unload();
     }
     Stand = {};
-    DateiSchreiben(programm.Bestendatei(), inhalt);
-    DateiSchreiben(programm.Standdatei(), inhalt);
-    programm.VerlaufSeitdem();
+    test::WriteFile(game.BestList, inhalt);
+    test::WriteFile(game.Snapshot, inhalt);
+    game.Told();
 }
 
 // A repeat either counts the level, with a picture for every cell, or tells its failure.
 void StandPruefen()
 {
-    StandLaden();
-    const bool gemeldet = !DasProgramm().VerlaufSeitdem().empty();
+    const bool gemeldet = !Bejahen(&StandLaden).empty();
     Verlangen(gemeldet == (Stand.RundenZahl == 0));
     for (int zelle = 1; zelle <= kZellen && !gemeldet; ++zelle) {
         const std::int32_t wert = frmTessel->imgFeld(zelle).Tag->Number();
         Verlangen(wert >= 0 && wert <= kFarben);
     }
-    const EventScope scope;
-    for (const int zelle : {1, 75, 140}) {
-        const auto index = static_cast<std::int16_t>(zelle);
-        frmTessel->imgFeld(zelle).MouseMove.Raise(index, {});
-        frmTessel->imgFeld(zelle).MouseDown.Raise(index, {kLeftButton, 0, 0, 0});
-    }
+    Bejahen([] {
+        for (const std::int16_t zelle : {std::int16_t{1}, std::int16_t{75}, std::int16_t{140}}) {
+            frmTessel->imgFeld(zelle).MouseMove.Raise(zelle, {});
+            frmTessel->imgFeld(zelle).MouseDown.Raise(zelle, {kLeftButton, 0, 0, 0});
+        }
+    });
 }
 
 // Looking at the list leaves the file alone; an entry leaves one that can be read again.
 void ListePruefen(std::string_view inhalt, std::int32_t punkte)
 {
-    Programm& programm = DasProgramm();
-    static_cast<void>(frmBeste->Name());
-    programm.Antworten({Bejahen});
-    RaiseMenuClick(frmTessel->mnuInfo(4));
-    Verlangen(Dateiinhalt(programm.Bestendatei()) == inhalt);
+    test::Game& game = TheGame();
+    Bejahen([] { frmBeste.Touch(); });
+    Bejahen([] { RaiseMenuClick(frmTessel->mnuInfo(4)); });
+    Verlangen(test::Contents(game.BestList) == inhalt);
 
     Stand.PunkteGesamt = punkte;
-    programm.Antworten({Bejahen, Bejahen, Bejahen});
-    BestePruefen();
+    Bejahen(&BestePruefen);
     if (Beste.EintragPlatz >= 0) {
         const std::string name = frmBeste->lstName.List(Beste.EintragPlatz);
         Verlangen(name == kNeuerName);
-        programm.VerlaufSeitdem();
-        BesteLesen();
-        Verlangen(programm.VerlaufSeitdem().empty());
+        Verlangen(Bejahen(&BesteLesen).empty());
         Verlangen(frmBeste->lstName.List(Beste.EintragPlatz) == name);
         Verlangen(PunkteDesPlatzes(Beste.EintragPlatz) == punkte);
     } else {
-        Verlangen(Dateiinhalt(programm.Bestendatei()) == inhalt);
+        Verlangen(test::Contents(game.BestList) == inhalt);
     }
 }
 

@@ -1,4 +1,5 @@
 // Sound without a server: which files are waves, and that a game without sound is held up nowhere.
+#include "tests/support/Folder.h"
 #include "ui/sound/Mailbox.h"
 #include "ui/sound/Sound.h"
 #include "ui/sound/Wave.h"
@@ -6,13 +7,8 @@
 #include <gtest/gtest.h>
 
 #include <sys/stat.h>
-#include <unistd.h>
 
-#include <atomic>
-#include <chrono>
 #include <cstdlib>
-#include <filesystem>
-#include <fstream>
 #include <string>
 #include <thread>
 #include <vector>
@@ -20,7 +16,6 @@
 namespace malvone {
 namespace {
 
-using namespace std::chrono_literals;
 using Bytes = std::vector<std::uint8_t>;
 
 std::string Zahl(std::uint32_t wert, int breite)
@@ -59,29 +54,6 @@ std::optional<Wave> Lesen(const std::string& datei)
 const std::string kFormat = Format(1, 1, 44100, 16);
 const std::string kDaten = Stueck("data", "abcdef");
 const std::string kWelle = Riff(kFormat + kDaten);
-
-// A folder that goes with the test.
-class Ordner
-{
-public:
-    Ordner()
-    {
-        std::string muster = (std::filesystem::temp_directory_path() / "klang-XXXXXX").string();
-        Pfad = ::mkdtemp(muster.data());
-    }
-    ~Ordner() { std::filesystem::remove_all(Pfad); }
-    Ordner(const Ordner&) = delete;
-    Ordner& operator=(const Ordner&) = delete;
-
-    std::string Datei(const std::string& name, const std::string& inhalt) const
-    {
-        const std::string pfad = (Pfad / name).string();
-        std::ofstream(pfad, std::ios::binary) << inhalt;
-        return pfad;
-    }
-
-    std::filesystem::path Pfad;
-};
 
 TEST(Wave, KnowsTheFormatsThatCanSound)
 {
@@ -186,12 +158,13 @@ TEST(Wave, NoSingleDamageBreaksTheReader)
 
 TEST(Wave, OnlyOrdinaryFilesAreOpened)
 {
-    const Ordner ordner;
-    EXPECT_TRUE(LoadWave(ordner.Datei("Größe.WAV", kWelle)));
-    EXPECT_FALSE(LoadWave(ordner.Pfad.string())) << "a folder";
-    EXPECT_FALSE(LoadWave((ordner.Pfad / "fehlt.WAV").string()));
+    const test::Folder folder;
+    test::WriteFile(folder.Path / "Größe.WAV", kWelle);
+    EXPECT_TRUE(LoadWave((folder.Path / "Größe.WAV").string()));
+    EXPECT_FALSE(LoadWave(folder.Path.string())) << "a folder";
+    EXPECT_FALSE(LoadWave((folder.Path / "fehlt.WAV").string()));
     EXPECT_FALSE(LoadWave(""));
-    const std::string rohr = (ordner.Pfad / "rohr").string();
+    const std::string rohr = (folder.Path / "rohr").string();
     ASSERT_EQ(::mkfifo(rohr.c_str(), 0600), 0);
     EXPECT_FALSE(LoadWave(rohr)) << "a pipe, whose other end nobody opens";
 }
