@@ -1,7 +1,9 @@
 // Place.cpp: from an arrow key to a movement of the pointer.
 #include "ui/layer/Place.h"
 
+#include <algorithm>
 #include <cmath>
+#include <utility>
 #include <vector>
 
 #include "ui/layer/App.h"
@@ -46,23 +48,33 @@ Visual* BottomLeft(const Window& window)
     return best;
 }
 
-// The nearest control straight ahead; where there is none, the place stays.
+// How much of what lies beside each other is level: up to 0 where nothing is.
+Twips Overlap(Twips a, Twips aLength, Twips b, Twips bLength)
+{
+    return std::min(a + aLength, b + bLength) - std::max(a, b);
+}
+
+// The nearest control straight ahead, of several side by side the one that lies best; where there
+// is none, the place stays.
 Visual& Next(const Window& window, Visual& from, const Direction& direction)
 {
     const Mouse here = MiddleOf(from, 0);
     Visual* nearest = &from;
-    Twips least = 0;
+    std::pair<Twips, Twips> least;
     for (Visual* const visual : window.FrontToBack()) {
         const Mouse there = MiddleOf(*visual, 0);
         const Twips across = there.X - here.X;
         const Twips down = there.Y - here.Y;
-        const bool straight = direction.Down == 0 ? std::abs(down) < from.Height / 2
-                                                  : std::abs(across) < from.Width / 2;
+        const bool sideways = direction.Down == 0;
+        const Twips level =
+            sideways ? Overlap(from.WindowTop(), from.Height, visual->WindowTop(), visual->Height)
+                     : Overlap(from.WindowLeft(), from.Width, visual->WindowLeft(), visual->Width);
         const Twips ahead = across * static_cast<Twips>(direction.Across) +
                             down * static_cast<Twips>(direction.Down);
-        if (LedTo(*visual) && straight && ahead > 0 && (nearest == &from || ahead < least)) {
+        const std::pair distance(ahead, std::abs(sideways ? down : across));
+        if (LedTo(*visual) && level > 0 && ahead > 0 && (nearest == &from || distance < least)) {
             nearest = visual;
-            least = ahead;
+            least = distance;
         }
     }
     return *nearest;
@@ -77,7 +89,7 @@ void PointAt(Window& window, Visual& visual)
 
 bool TakenByArrow(Window& window, const Direction& direction)
 {
-    if (Visual* const place = window.Place()) {
+    if (Visual* const place = window.Place(); place != nullptr && LedTo(*place)) {
         PointAt(window, Next(window, *place, direction));
         return true;
     }
@@ -89,16 +101,19 @@ bool TakenByArrow(Window& window, const Direction& direction)
     return start != nullptr;
 }
 
-// What lies there when all is done is pointed at, so that the next press takes what is shown.
+// What lies there when all is done is pointed at, so that the next press takes what is shown. What
+// has gone with the press leaves no place behind.
 bool TakenByPress(Window& window)
 {
     Visual* const place = window.Place();
-    if (place == nullptr) {
+    if (place == nullptr || !LedTo(*place)) {
         return false;
     }
     PointerPressed(window, MiddleOf(*place, kLeftButton));
     PointerReleased(window, MiddleOf(*place, kLeftButton));
-    if (App.TakesInput(window)) {
+    if (!LedTo(*place)) {
+        window.SetPlace(nullptr);
+    } else if (App.TakesInput(window)) {
         PointAt(window, *place);
     }
     return true;

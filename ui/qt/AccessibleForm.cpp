@@ -97,7 +97,7 @@ QAccessible::State AccessiblePart::state() const
     }
     state.disabled = !part_.Where->Enabled;
     state.invisible = !IsSpokenNow(part_);
-    state.focusable = part_.Kind == SpokenKind::Cell;
+    state.focusable = part_.Where->ByArrows;
     state.focused = part_.Where == form_->Model()->Place() && form_->isActiveWindow();
     return state;
 }

@@ -22,6 +22,8 @@ FrmTessel::FrmTessel() : Window("frmTessel", 11325, 6945)
     Icon = PictureNamed("frmTessel.Icon");
     Picture1.Picture = PictureNamed("frmTessel.Picture1");
     imgFeld(0).ByArrows = true;  // and so are its copies, the cells
+    imgNaechsterLevel.ByArrows = true;
+    imgWiederholen.ByArrows = true;
     PlaceControls();
     SetLooks();
     SetMenu();
