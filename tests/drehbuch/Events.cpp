@@ -148,12 +148,13 @@ std::optional<Key> KeyFrom(std::string_view name)
 {
     Key key;
     const auto begun = [&](const NamedKey& known) { return name.starts_with(known.Name); };
-    for (auto m = std::ranges::find_if(kModifiers, begun); m != kModifiers.end();
-         m = std::ranges::find_if(kModifiers, begun)) {
+    const auto first = [&] { return std::find_if(kModifiers.begin(), kModifiers.end(), begun); };
+    for (auto m = first(); m != kModifiers.end(); m = first()) {
         key.Shift = static_cast<std::int16_t>(key.Shift | m->Code);
         name.remove_prefix(m->Name.size());
     }
-    const auto found = std::ranges::find(kKeys, name, &NamedKey::Name);
+    const auto found = std::find_if(kKeys.begin(), kKeys.end(),
+                                    [&](const NamedKey& known) { return known.Name == name; });
     if (found != kKeys.end()) {
         key.Code = found->Code;
     } else if (name.size() == 1 && name[0] >= 'A' && name[0] <= 'Z') {
@@ -170,7 +171,9 @@ Answer DeliverEvent(std::string_view line)
     if (!target.Fault().empty()) {
         return Answer(target.Fault());
     }
-    const auto event = std::ranges::find(kEvents, CutOff(line, ' '), &EventRow::Name);
+    const std::string_view name = CutOff(line, ' ');
+    const auto event = std::find_if(kEvents.begin(), kEvents.end(),
+                                    [&](const EventRow& row) { return row.Name == name; });
     if (event == kEvents.end()) {
         return kUnknownEvent;
     }

@@ -80,7 +80,8 @@ bool Read(std::string_view text, TagText& value)
 bool Read(std::string_view text, Picture& value)
 {
     const auto known = AllPictures();
-    const auto found = std::ranges::find(known, text, &PictureInfo::Name);
+    const auto found = std::find_if(known.begin(), known.end(),
+                                    [&](const PictureInfo& info) { return info.Name == text; });
     // A control of the bank that holds no picture has a name all the same.
     const auto* const image = dynamic_cast<const Image*>(ObjectFrom(text).Control());
     value = found == known.end() ? Picture() : Picture(*found);

@@ -61,7 +61,8 @@ std::string TrueFalse(bool value)
 
 Answer SetBoard(FrmTessel& board, std::string_view values)
 {
-    const bool digits = std::ranges::all_of(values, [](char c) { return c >= '0' && c <= '9'; });
+    const bool digits =
+        std::all_of(values.begin(), values.end(), [](char c) { return c >= '0' && c <= '9'; });
     if (values.size() != kZellen || !digits) {
         return "? 140 digits are needed";
     }
@@ -132,7 +133,7 @@ Answer AskWindows(std::string_view)
             names.push_back(instance->Name());
         }
     }
-    std::ranges::sort(names);
+    std::sort(names.begin(), names.end());
     Answer line = "=";
     for (const std::string_view name : names) {
         line += " " + std::string(name);

@@ -3,6 +3,8 @@
 
 #include <array>
 #include <cmath>
+#include <cstdio>
+#include <cstdlib>
 
 namespace malvone::script {
 namespace {
@@ -35,20 +37,29 @@ std::string Unmasked(std::string_view text)
     return plain;
 }
 
+// Not every library that the program is built with knows numbers with a point in <charconv>.
 std::string TwipsText(Twips value)
 {
-    std::array<char, 128> buffer{};  // the longest numbers have 39 digits, or 55 behind the point
+    std::array<char, 200> buffer{};  // the longest numbers have 39 digits, or 149 behind the point
     const Twips plain = value == 0 ? 0 : value;  // no sign before a zero
-    const auto end =
-        std::to_chars(buffer.data(), buffer.data() + buffer.size(), plain, std::chars_format::fixed)
-            .ptr;
-    return {buffer.data(), end};
+    for (int digits = 0; digits < 150; ++digits) {
+        std::snprintf(buffer.data(), buffer.size(), "%.*f", digits, static_cast<double>(plain));
+        if (std::strtof(buffer.data(), nullptr) == plain) {
+            break;
+        }
+    }
+    return buffer.data();
 }
 
 std::optional<Twips> TwipsFrom(std::string_view text)
 {
-    const auto number = NumberFrom<Twips>(text);
-    return number && std::isfinite(*number) ? number : std::nullopt;
+    const std::string copy(text);
+    char* end = nullptr;
+    const Twips number = std::strtof(copy.c_str(), &end);
+    const bool plain = !copy.empty() && copy.front() != '+' &&
+                       copy.find_first_not_of("0123456789.+-eE") == std::string::npos;
+    const bool whole = plain && *end == '\0';
+    return whole && std::isfinite(number) ? std::optional(number) : std::nullopt;
 }
 
 std::string_view CutOff(std::string_view& text, char separator)
