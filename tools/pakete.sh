@@ -19,6 +19,12 @@ pakete_pruefung=(
     desktop-file-utils appstream man-db mandoc debhelper lintian
 )
 
+# Node, which Emscripten runs, may be of another maker than Debian and has no libraries then.
+pakete_browser=(
+    cmake ninja-build ccache emscripten node-acorn
+    python3 weasyprint librsvg2-bin fonts-liberation2\|fonts-liberation
+)
+
 ist_installiert() {
     [ "$(dpkg-query -W -f '${db:Status-Status}' "$1" 2>/dev/null)" = installed ]
 }

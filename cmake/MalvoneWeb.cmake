@@ -1,0 +1,28 @@
+# The game as static files for a browser in build/web/, and the script program for Node. Used with
+# the preset `web`, whose compiler is Emscripten's.
+malvone_glob(web_sources ui/web/*.cpp)
+add_executable(malvone ${web_sources})
+malvone_target(malvone)
+target_link_libraries(malvone PRIVATE malvone_core)
+# The program's one stack is put aside while it waits for an event.
+target_link_options(malvone PRIVATE -sENVIRONMENT=web -sASYNCIFY
+    -sASYNCIFY_STACK_SIZE=65536 -sFILESYSTEM=0 -sDYNAMIC_EXECUTION=0)
+
+set(web_folder "${PROJECT_SOURCE_DIR}/build/web")
+malvone_glob(web_parts ui/web/*.in ui/web/*.css ui/web/*.js ui/web/*.webmanifest assets/pictures/*.svg)
+set(web_assembler "${PROJECT_SOURCE_DIR}/cmake/WebPage.cmake")
+add_custom_command(OUTPUT "${PROJECT_BINARY_DIR}/web.stamp"
+    COMMAND "${CMAKE_COMMAND}" "-DSOURCE=${PROJECT_SOURCE_DIR}" "-DBINARY=${PROJECT_BINARY_DIR}"
+            "-DOUT=${web_folder}" -P "${web_assembler}"
+    COMMAND "${CMAKE_COMMAND}" -E touch "${PROJECT_BINARY_DIR}/web.stamp"
+    DEPENDS malvone klaenge handbuecher ${web_parts} "${web_assembler}"
+            "${PROJECT_SOURCE_DIR}/packaging/malvone.svg" VERBATIM)
+add_custom_target(seite ALL DEPENDS "${PROJECT_BINARY_DIR}/web.stamp")
+
+# The script program under Node reads and writes the real files of the machine.
+malvone_library(malvone_drehbuch tests/drehbuch)
+add_executable(drehbuch tests/drehbuch/main.cpp)
+malvone_target(drehbuch)
+target_link_libraries(drehbuch PRIVATE malvone_drehbuch malvone_core)
+target_link_options(drehbuch PRIVATE -sENVIRONMENT=node -sNODERAWFS -sEXIT_RUNTIME
+    "SHELL:--pre-js ${PROJECT_SOURCE_DIR}/tests/web/node.js")

@@ -1,0 +1,58 @@
+# Puts the files of the page together. SOURCE is the repository, BINARY holds program, sounds and
+# manuals, OUT becomes the page.
+file(REMOVE_RECURSE "${OUT}")
+file(MAKE_DIRECTORY "${OUT}")
+file(GLOB sounds "${BINARY}/*.wav" "${BINARY}/*.WAV")
+file(GLOB manuals "${BINARY}/*.pdf")
+file(COPY "${BINARY}/malvone.wasm" "${SOURCE}/packaging/malvone.svg"
+    "${SOURCE}/ui/web/malvone.webmanifest" ${sounds} ${manuals} DESTINATION "${OUT}")
+
+# One script: the page's side, and behind it the loader of the program.
+file(READ "${SOURCE}/ui/web/page.js" page)
+file(READ "${BINARY}/malvone.js" loader)
+file(WRITE "${OUT}/malvone.js" "${page}${loader}")
+
+# The style sheet holds every picture, so that one request brings them all.
+file(READ "${SOURCE}/ui/web/page.css" style)
+file(GLOB pictures "${SOURCE}/assets/pictures/*.svg")
+foreach(picture IN LISTS pictures)
+    cmake_path(GET picture STEM name)
+    file(READ "${picture}" svg)
+    string(REPLACE "%" "%25" svg "${svg}")
+    string(REPLACE "#" "%23" svg "${svg}")
+    string(REPLACE "\"" "'" svg "${svg}")
+    string(REPLACE "\n" " " svg "${svg}")
+    # A picture fills its place; a proportion of its own would leave a margin.
+    string(REPLACE "<svg " "<svg preserveAspectRatio='none' " svg "${svg}")
+    set(url "url(\"data:image/svg+xml,${svg}\")")
+    if(name STREQUAL "hand")
+        string(APPEND style "[data-hand] { cursor: ${url} 5 0, pointer; }\n")
+    else()
+        string(APPEND style "[data-picture=${name}] { background-image: ${url}; }\n")
+    endif()
+endforeach()
+file(WRITE "${OUT}/malvone.css" "${style}")
+
+# What is asked for carries the mark of its build, so that files of two builds never meet.
+set(contents "")
+foreach(file index.html.in worker.js.in)
+    file(SHA256 "${SOURCE}/ui/web/${file}" sum)
+    string(APPEND contents "${sum}")
+endforeach()
+file(GLOB built "${OUT}/*")
+set(MALVONE_BESIDE "")
+foreach(file IN LISTS built)
+    file(SHA256 "${file}" sum)
+    string(APPEND contents "${sum}")
+    cmake_path(GET file FILENAME name)
+    if(name MATCHES "\\.(wav|WAV|pdf)$")
+        list(APPEND MALVONE_BESIDE "${name}")
+    endif()
+endforeach()
+string(SHA256 mark "${contents}")
+string(SUBSTRING "${mark}" 0 12 MALVONE_BUILD)
+list(JOIN MALVONE_BESIDE " " MALVONE_BESIDE)
+set(MALVONE_FILES "malvone.css?${MALVONE_BUILD} malvone.js?${MALVONE_BUILD} \
+malvone.wasm?${MALVONE_BUILD} malvone.svg malvone.webmanifest")
+configure_file("${SOURCE}/ui/web/index.html.in" "${OUT}/index.html" @ONLY)
+configure_file("${SOURCE}/ui/web/worker.js.in" "${OUT}/worker.js" @ONLY)

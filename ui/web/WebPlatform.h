@@ -1,0 +1,27 @@
+// WebPlatform.h: the services of a browser. Files are entries of its storage with the same bytes,
+// each written in one step; sounds and manuals lie beside the page.
+#pragma once
+
+#include "platform/Platform.h"
+
+namespace malvone::web {
+
+class WebPlatform final : public Platform
+{
+public:
+    std::string GetWindowsDirectoryA() override;
+    bool CreateDirectoryA(const std::string& path) override;
+    std::int32_t OpenFileExist(const std::string& path) override;
+    void DeleteFileA(const std::string& path) override;
+    ReadLines ReadTextLines(const std::string& path, std::size_t count) override;
+    FileFault WriteTextLines(const std::string& path,
+                             const std::vector<std::string>& lines) override;
+    FileFault ReplaceTextLines(const std::string& path,
+                               const std::vector<std::string>& lines) override;
+    void sndPlaySoundA(const std::string& path) override;
+    std::int32_t waveOutGetNumDevs() override;
+    void ShellExecuteA(const std::string& path) override;
+    std::uint64_t ClockNs() override;
+};
+
+}  // namespace malvone::web
