@@ -68,56 +68,6 @@ TEST(Drehbuch, ASecondRunInOneProcessBeginsAfreshAndOtherLineEndsChangeNothing)
     EXPECT_EQ(Play(other).Transcript, Play(kThroughAllWindows + "state\nwindows\n").Transcript);
 }
 
-TEST(Drehbuch, NothingFollowsTheEnd)
-{
-    EXPECT_EQ(Play("do frmTessel.lblEnde Click\nkey J\nwindows\nkey Enter\n").LastLine, "! end");
-}
-
-// Hands out one line at a time, and holds that all that was written before has been flushed.
-class Wire final : public std::streambuf
-{
-public:
-    struct Sink final : std::stringbuf
-    {
-        std::string Sent;
-        int sync() override
-        {
-            Sent = str();
-            return 0;
-        }
-    };
-    Wire(std::istringstream lines, const Sink& out) : lines_(std::move(lines)), out_(out) {}
-
-protected:
-    int_type underflow() override
-    {
-        EXPECT_EQ(out_.Sent, out_.str());
-        if (!std::getline(lines_, line_)) {
-            return traits_type::eof();
-        }
-        line_ += '\n';
-        setg(line_.data(), line_.data(), line_.data() + line_.size());
-        return traits_type::to_int_type(line_.front());
-    }
-
-private:
-    std::istringstream lines_;
-    const Sink& out_;
-    std::string line_;
-};
-
-TEST(Drehbuch, EachAnswerIsSentBeforeTheNextLineIsAwaited)
-{
-    const Stage<> stage;
-    Wire::Sink answers;
-    Wire wire(std::istringstream(kThroughAllWindows), answers);
-    std::istream in(&wire);
-    std::ostream out(&answers);
-    script::ScriptPlatform platform({stage.Disk, stage.Program}, out);
-    script::Script(in, out).Play(platform);
-    EXPECT_EQ(answers.Sent, Play(kThroughAllWindows).Transcript);
-}
-
 TEST(Drehbuch, EveryEventAtEveryControlIsAnswered)
 {
     std::vector<std::string> names = {Field(1), Field(24), Field(140)};

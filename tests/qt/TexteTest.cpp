@@ -1,7 +1,7 @@
 // TexteTest.cpp: every text of the game can be read in the label that shows it.
 #include <QFile>
 #include <QFontMetricsF>
-#include <QRegularExpression>
+#include <set>
 
 #include "tests/qt/Spieltisch.h"
 #include "ui/qt/LabelText.h"
@@ -9,28 +9,19 @@
 namespace malvone::qt {
 namespace {
 
-// The texts of the messages, as they stand in the sources: neighbouring literals are one text.
-std::vector<std::string> TextsWithLineBreaks()
+// All texts of message windows that the played games have met.
+std::set<std::string> TextsOfMessages()
 {
-    const QRegularExpression texts(
-        QStringLiteral("\"(?:[^\"\\\\\\n]|\\\\.)*\"(?:\\s*\"(?:[^\"\\\\\\n]|\\\\.)*\")*"));
-    std::vector<std::string> found;
-    for (const char* const folder : {"game", "board", "storage", "ui"}) {
-        for (const auto& entry : std::filesystem::directory_iterator(
-                 std::filesystem::path(MALVONE_SOURCE_DIR) / folder)) {
-            if (!entry.is_regular_file()) {
-                continue;
-            }
-            QFile file(QString::fromStdString(entry.path().string()));
-            EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-            auto matches = texts.globalMatch(QString::fromUtf8(file.readAll()));
-            while (matches.hasNext()) {
-                QString text = matches.next().captured();
-                text.replace(QRegularExpression(QStringLiteral("\"\\s*\"")), QString());
-                text.replace(QLatin1String("\\r\\n"), QLatin1String("\r\n"));
-                text.replace(QLatin1String("\\\""), QLatin1String("\""));
-                if (text.contains(QLatin1String("\r\n"))) {
-                    found.push_back(text.mid(1, text.size() - 2).toStdString());
+    std::set<std::string> found;
+    for (const auto& entry :
+         std::filesystem::directory_iterator(MALVONE_SOURCE_DIR "/tests/games")) {
+        QFile script(QString::fromStdString(entry.path().string()));
+        EXPECT_TRUE(script.open(QIODevice::ReadOnly));
+        for (QString line : QString::fromUtf8(script.readAll()).split(QLatin1Char('\n'))) {
+            if (line.startsWith(QLatin1String("! text frmMsg"))) {
+                line.replace(QLatin1String("\\r\\n"), QLatin1String("\r\n"));
+                for (const QString& text : line.mid(16).split(QLatin1String(" | "))) {
+                    found.insert(text.toStdString());
                 }
             }
         }
@@ -77,7 +68,7 @@ TEST_F(Texte, FontsKeepTheSizeOfTheDesign)
 
 TEST_F(Texte, EveryMessageFitsItsLabels)
 {
-    const std::vector<std::string> texts = TextsWithLineBreaks();
+    const std::set<std::string> texts = TextsOfMessages();
     ASSERT_GT(texts.size(), 20U);
     for (Label* const label :
          {&frmMsgOk->lblMeldung, &frmMsgOk->lblTitel, &frmMsgJa->lblMeldung, &frmMsgJa->lblTitel}) {

@@ -11,7 +11,7 @@ namespace {
 
 TEST(Datenordner, OnlyAFreeNameInAnExistingFolderIsAbsent)
 {
-    const Game game;
+    const Game game("from an earlier run");
     WriteFile(game.Snapshot, "");
     const std::pair<const char*, bool> cases[] = {
         {"", false},
