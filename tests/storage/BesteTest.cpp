@@ -68,9 +68,11 @@ TEST(BestePruefen, OnlyAGreaterResultTakesAPlace)
         SCOPED_TRACE(points);
         Game game;
         Stand.PunkteGesamt = points;
+        Beste.EintragModus = True;  // of an entry that its window has lost
         const std::string told = game("key Esc\nkey Esc\n", &BestePruefen);
         EXPECT_EQ(Beste.EintragPlatz, place);
         EXPECT_EQ(Beste.EndPunkte, points);
+        EXPECT_EQ(Beste.EintragModus, False);
         EXPECT_EQ(told.starts_with("! show frmMsgOk"), place == -1) << told;
         EXPECT_TRUE(told.ends_with("! end\n")) << told;
         EXPECT_EQ(Contents(game.BestList), kDefault);
