@@ -112,11 +112,12 @@ def board_by_keys(reader, game, main):
     reader.hears("showing", "notification", r"Neues Spiel\.", 1)
     reader.hears("name", "label", "Level: 1")
     stones = until(game.snapshot, "the snapshot")
-    pair = next(column for column in range(13) if stones[column * 10 + 9] == stones[column * 10 + 19])
-    for column in range(pair + 1):      # the first arrow only shows the place
-        game.key("Right")
-        colour = COLOURS[int(stones[column * 10 + 9])]
-        reader.hears("focused", "push button", f"Spalte {column + 1}, Reihe 10, {colour}", 1)
+    pair = next(i for i in range(130) if stones[i] == stones[i + 10])
+    column, row = divmod(pair, 10)
+    # The first arrow only shows the place, at the bottom left.
+    game.key("Right", *["Up"] * (9 - row), *["Right"] * column)
+    colour = COLOURS[int(stones[pair])]
+    reader.hears("focused", "push button", f"Spalte {column + 1}, Reihe {row + 1}, {colour}", 1)
     stone = next(one for one in main if one.getState().contains(pyatspi.STATE_FOCUSED))
     worth = int(re.fullmatch(r"Dieser Spielzug ergibt (\d+) Punkte!", stone.description)[1])
     game.key("Delete")
@@ -148,6 +149,7 @@ def end_of_level(reader, game, main):
 def main():
     with Desktop() as desktop:
         reader = Reader(desktop)
+        desktop.do("mousemove", 0, 0)   # away from the board
         with Game(desktop) as game:
             main = tree(reader)
             board_by_keys(reader, game, main)
