@@ -168,9 +168,16 @@ TEST_F(Fenster, TheMenuFollowsTheModel)
 TEST_F(Fenster, AccessKeysOfButtonsGoBeforeThoseOfTheMenu)
 {
     FormWidget& form = Form(*frmTessel);
-    Press(form, Qt::Key_O, Qt::AltModifier);
-    ASSERT_NE(QApplication::activePopupWidget(), nullptr) << "Alt+O opens a menu";
-    QApplication::activePopupWidget()->close();
+    frmTessel->mnuSound.Enabled = true;
+    const auto* const bar = form.findChild<QMenuBar*>();
+    for (const auto& [key, modifier, place] :
+         {std::tuple(Qt::Key_O, Qt::AltModifier, 1), std::tuple(Qt::Key_F10, Qt::NoModifier, 0)}) {
+        Press(form, key, modifier);
+        QMenu* const menu = bar->actions().at(place)->menu();
+        ASSERT_EQ(QApplication::activePopupWidget(), menu) << "the menu, and no menu inside it";
+        EXPECT_EQ(menu->activeAction(), menu->actions().constFirst());
+        menu->close();
+    }
     WhileOpen([&] { Press(form, Qt::Key_E, Qt::AltModifier); },
               [&] {
                   EXPECT_EQ(App.TopModal(), frmMsgJa.Current());
@@ -346,6 +353,44 @@ TEST_F(Namen, OnlyTheBoxesInSightAreWidgetsAndOnlyTheEntryIsOpen)
         }
         EXPECT_EQ(entry.selectedText(), entry.text()) << "the first key replaces the name";
     });
+}
+
+TEST_F(Namen, AKeyThatTheBoxLeavesGoesNoSecondWay)
+{
+    struct Count : QObject
+    {
+        int Keys = 0;
+        bool eventFilter(QObject*, QEvent* event) override
+        {
+            Keys += event->type() == QEvent::KeyPress ? 1 : 0;
+            return false;
+        }
+    };
+    Count count;
+    TypeAtThirdPlace([&count](QLineEdit& box) {
+        box.window()->installEventFilter(&count);
+        Press(box, Qt::Key_F1);
+        Press(box, Qt::Key_Return);
+    });
+    EXPECT_EQ(count.Keys, 0);
+}
+
+TEST_F(Namen, ANameIsLockedAgainInTheViewAfterItsEntry)
+{
+    TypeAtThirdPlace([](QLineEdit&) {});
+    Beste.EintragModus = False;
+    WhileOpen([] { frmBeste->Show(ShowMode::Modal); },
+              [&] {
+                  FormWidget& form = Form(*frmBeste);
+                  EXPECT_EQ(form.focusWidget(), &form);
+                  for (const QLineEdit* const box : form.findChildren<QLineEdit*>()) {
+                      EXPECT_EQ(box->selectedText(), QString());
+                      EXPECT_EQ(form.childAt(box->geometry().center()), nullptr)
+                          << "a click would choose a locked name";
+                  }
+                  Click(frmBeste->cmdEnde);
+              });
+    TypeAtThirdPlace([](QLineEdit& box) { EXPECT_TRUE(box.hasSelectedText()); });
 }
 
 TEST_F(Namen, ABoxTakesOnlyWhatTheFileCanHold)

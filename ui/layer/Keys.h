@@ -18,6 +18,7 @@ inline constexpr std::int16_t kKeyRight = 39;
 inline constexpr std::int16_t kKeyDown = 40;
 inline constexpr std::int16_t kKeyDelete = 46;
 inline constexpr std::int16_t kKeyF1 = 112;
+inline constexpr std::int16_t kKeyF10 = 121;
 // Letters have the codes of their capitals, 'A' to 'Z', whatever Shift says.
 
 struct Key

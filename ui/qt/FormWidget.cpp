@@ -154,15 +154,19 @@ void FormWidget::Follow(Control& control, Change what)
         menu_->Follow(*entry);
     } else if (auto* const box = dynamic_cast<TextBox*>(&control)) {
         FollowBox(*box);
+        if (window_->Focus() == box) {
+            FollowFocus();
+        }
     } else if (const auto* const visual = dynamic_cast<const Visual*>(&control)) {
         Repaint(*visual, what);
     }
 }
 
+// A locked box may have the focus of the model left over from an entry.
 void FormWidget::FollowFocus()
 {
     const auto found = boxes_.find(window_->Focus());
-    if (found != boxes_.end()) {
+    if (found != boxes_.end() && !found->second->isReadOnly()) {
         found->second->setFocus(Qt::OtherFocusReason);
     } else {
         setFocus(Qt::OtherFocusReason);
@@ -306,9 +310,7 @@ bool FormWidget::RouteKey(const QKeyEvent& event)
     if ((!event.isAutoRepeat() || MayRepeat(key)) && malvone::RouteKey(*window_, key)) {
         return true;
     }
-    const bool letter = key.Shift == kAltKey && key.Code >= 'A' && key.Code <= 'Z';
-    return letter && menu_ != nullptr && window_ != nullptr && App.TakesInput(*window_) &&
-           menu_->Open(static_cast<char>(key.Code));
+    return menu_ != nullptr && window_ != nullptr && App.TakesInput(*window_) && menu_->Open(key);
 }
 
 bool FormWidget::event(QEvent* event)

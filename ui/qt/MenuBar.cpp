@@ -2,7 +2,7 @@
 #include "ui/qt/MenuBar.h"
 
 #include <QCoreApplication>
-#include <QEvent>
+#include <QKeyEvent>
 #include <QKeySequence>
 #include <QMenu>
 #include <QTranslator>
@@ -106,20 +106,34 @@ void MenuBar::Chosen(MenuEntry& entry)
     }
 }
 
-bool MenuBar::Open(char letter)
+QAction* MenuBar::OpenedBy(Key key) const
 {
-    const QKeySequence wanted(Qt::ALT | static_cast<Qt::Key>(letter));
+    if (key == Key{kKeyF10, 0}) {
+        return actions().constFirst();
+    }
+    const bool letter = key.Shift == kAltKey && key.Code >= 'A' && key.Code <= 'Z';
+    const QKeySequence wanted(Qt::ALT | static_cast<Qt::Key>(key.Code));
     for (QAction* const action : actions()) {
-        if (action->isEnabled() && QKeySequence::mnemonic(action->text()) == wanted) {
-            setActiveAction(action);
-            QMenu* const menu = action->menu();
-            if (menu != nullptr && !menu->actions().empty()) {
-                menu->setActiveAction(menu->actions().constFirst());
-            }
-            return true;
+        if (letter && action->isEnabled() && QKeySequence::mnemonic(action->text()) == wanted) {
+            return action;
         }
     }
-    return false;
+    return nullptr;
+}
+
+// The first entry is chosen as the arrow key does it, which leaves a menu of its own shut.
+bool MenuBar::Open(Key key)
+{
+    QAction* const action = OpenedBy(key);
+    if (action == nullptr) {
+        return false;
+    }
+    setActiveAction(action);
+    if (QMenu* const menu = action->menu()) {
+        QKeyEvent down(QEvent::KeyPress, Qt::Key_Down, Qt::NoModifier);
+        QCoreApplication::sendEvent(menu, &down);
+    }
+    return true;
 }
 
 void MenuBar::Detach()

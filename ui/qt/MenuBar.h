@@ -17,8 +17,9 @@ public:
 
     // Brings an entry to the state that it has in the model.
     void Follow(const MenuEntry& entry);
-    // Opens the menu whose caption has this letter as its access key. False: there is none.
-    bool Open(char letter);
+    // Opens the menu that a key stands for: F10 the first one, Alt and a letter the one with this
+    // access key. False: there is none.
+    bool Open(Key key);
     // The window is about to be destroyed: no entry does anything any more.
     void Detach();
 
@@ -33,6 +34,7 @@ private:
 
     bool Shut() const;
     void Add(MenuEntry& entry, bool opensMenu);
+    QAction* OpenedBy(Key key) const;
     void Chosen(MenuEntry& entry);
 };
 

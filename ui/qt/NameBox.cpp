@@ -81,7 +81,6 @@ NameBox::NameBox(TextBox& model, KeyRoute route, QWidget* parent)
     setValidator(new Sieve(model, this));
     setMaxLength(static_cast<int>(model.MaxLength));
     setContextMenuPolicy(Qt::PreventContextMenu);
-    setFocusPolicy(Qt::ClickFocus);  // Tab is the layer's
     setAccessibleName(QStringLiteral("Name, Platz %1").arg(model.Index() + 1));
     connect(this, &QLineEdit::textChanged, this, &NameBox::TellModel);
     connect(this, &QLineEdit::cursorPositionChanged, this, &NameBox::TellModel);
@@ -97,7 +96,10 @@ void NameBox::Follow(QPoint origin)
     setGeometry(PlaceOf(*model_).translated(origin).toRect());
     setFont(ToQFont(model_->TextFont));
     setPalette(Colours(*model_));
+    // A locked name is there to be read: nothing selects it, and it never looks like the open one.
     setReadOnly(model_->Locked);
+    setFocusPolicy(model_->Locked ? Qt::NoFocus : Qt::ClickFocus);  // Tab is the layer's
+    setAttribute(Qt::WA_TransparentForMouseEvents, model_->Locked);
     setEnabled(model_->Enabled);
     setVisible(IsSeen(*model_));
     FollowText();
@@ -109,7 +111,9 @@ void NameBox::FollowText()
     if (text() != wanted) {
         setText(wanted);
     }
-    if (model_->SelLength > 0) {
+    if (model_->Locked) {
+        deselect();
+    } else if (model_->SelLength > 0) {
         setSelection(model_->SelStart, model_->SelLength);
     } else {
         setCursorPosition(model_->SelStart);
@@ -136,7 +140,12 @@ bool NameBox::event(QEvent* event)
         event->accept();  // the key comes back as a press
         return true;
     }
-    if (event->type() == QEvent::KeyPress && route_(*static_cast<QKeyEvent*>(event))) {
+    if (event->type() == QEvent::KeyPress) {
+        // A key that the box ignores would come back through its parent and be routed again.
+        if (!route_(*static_cast<QKeyEvent*>(event))) {
+            QLineEdit::event(event);
+        }
+        event->accept();
         return true;
     }
     return QLineEdit::event(event);
