@@ -20,7 +20,7 @@ namespace {
 
 void Send(FormWidget& form, QEvent::Type type, const Visual& target, Qt::MouseButton button)
 {
-    const QPointF place = PlaceOf(target).center() + form.Origin();
+    const QPointF place = form.PlaceOnForm(target).center();
     QMouseEvent event(type, place, form.mapToGlobal(place), button,
                       type == QEvent::MouseButtonPress ? button : Qt::NoButton, Qt::NoModifier);
     QCoreApplication::sendEvent(&form, &event);

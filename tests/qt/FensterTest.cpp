@@ -45,7 +45,7 @@ protected:
         int wrong = 0;
         for (int cell = 1; cell <= kZellen; ++cell) {
             const Image& field = frmTessel->imgFeld(cell);
-            const QRect place = OnScreen(PlaceOf(field).translated(form.Origin()), 1);
+            const QRect place = OnScreen(form.PlaceOnForm(field), 1);
             QImage expected(place.size(), painted.format());
             QPainter(&expected).drawImage(0, 0, pictures_.Get(field.Picture, place.size()));
             wrong += painted.copy(place) == expected ? 0 : 1;
@@ -68,8 +68,9 @@ protected:
 TEST_F(Fenster, TheMainWindowHasTheSizeOfTheDesignBelowItsMenu)
 {
     const FormWidget& form = Form(*frmTessel);
-    EXPECT_GT(form.Origin().y(), 10);
-    EXPECT_EQ(form.size(), QSize(755, 463 + form.Origin().y()));
+    const int menu = form.findChild<QMenuBar*>()->height();
+    EXPECT_GT(menu, 10);
+    EXPECT_EQ(form.size(), QSize(755, 463 + menu));
     EXPECT_EQ(form.windowTitle(), QStringLiteral("Malvone  Vers.: 3.1.0"));
     EXPECT_FLOAT_EQ(frmTessel->Height, ToTwips(form.frameGeometry().height()));
 }
@@ -111,8 +112,8 @@ TEST_F(Fenster, PointingRepaintsOnlyTheStonesAndTheText)
     form.installEventFilter(&watch);
     PointAt(frmTessel->imgFeld(CellWithPartner()));
     QCoreApplication::processEvents();
-    const QRect text = PlaceOf(frmTessel->lblSumme).toAlignedRect().translated(form.Origin());
-    const QRect board = PlaceOf(frmTessel->Picture1).toAlignedRect().translated(form.Origin());
+    const QRect text = form.PlaceOnForm(frmTessel->lblSumme).toAlignedRect();
+    const QRect board = form.PlaceOnForm(frmTessel->Picture1).toAlignedRect();
     EXPECT_FALSE(watch.Painted.isEmpty());
     EXPECT_TRUE((watch.Painted - text - board).isEmpty());
     int pixels = 0;
@@ -123,20 +124,47 @@ TEST_F(Fenster, PointingRepaintsOnlyTheStonesAndTheText)
     EXPECT_LT(pixels, board.width() * board.height() / 2);
 }
 
-TEST_F(Fenster, AnEnlargedWindowShowsNothingNewAndNothingMoves)
+TEST_F(Fenster, TheWholeDesignGrowsAndShrinksWithItsWindowInWholePixels)
 {
+    NewGame();
     FormWidget& form = Form(*frmTessel);
-    const QImage before = Painted(form);
-    form.resize(form.width() + 300, form.height() + 100);
-    QCoreApplication::processEvents();
-    const QImage larger = Painted(form);
-    const QRect client(0, form.Origin().y(), before.width(), before.height() - form.Origin().y());
-    EXPECT_EQ(larger.copy(client), before.copy(client));
-    const QPointF hidden = Middle(form, frmTessel->cmdSchalt(0));
-    EXPECT_EQ(larger.pixelColor(hidden.toPoint()), QColor(Qt::white));
-    const std::int16_t rounds = Stand.RundenZahl;
-    ClickAt(form, hidden);
-    EXPECT_EQ(Stand.RundenZahl, rounds) << "a button beside the client area was clicked";
+    const int menu = form.findChild<QMenuBar*>()->height();
+    const Twips left = frmTessel->imgFeld(140).Left;
+    const struct
+    {
+        QSize Client;
+        int Cell;
+    } cases[] = {{{1510, 926}, 64}, {{1600, 926}, 64}, {{1133, 1200}, 48}, {{640, 420}, 27}};
+    for (const auto& [client, cell] : cases) {
+        form.resize(client.grownBy(QMargins(0, menu, 0, 0)));
+        QCoreApplication::processEvents();
+        EXPECT_EQ(form.PlaceOnForm(frmTessel->imgFeld(1)).width(), cell);
+        EXPECT_EQ(WrongCells(), 0) << "cells of " << cell << " pixels";
+        const QRectF first = form.PlaceOnForm(frmTessel->imgFeld(1));
+        const QRectF last = form.PlaceOnForm(frmTessel->imgFeld(140));
+        EXPECT_NEAR(last.left() - first.left(), 13 * cell, 0.001);
+        EXPECT_EQ(frmTessel->imgFeld(140).Left, left);
+        // The room that is left over lies at both sides, and is ground.
+        const QRectF design(form.DesignScale().Corner(), DesignOf(*frmTessel) * cell / 32);
+        EXPECT_NEAR(design.center().x(), client.width() / 2.0, 1);
+        EXPECT_NEAR(design.center().y(), menu + client.height() / 2.0, 1);
+        if (design.left() > 1) {
+            EXPECT_EQ(Painted(form).pixelColor(0, form.height() - 1), QColor(Qt::white));
+        }
+
+        PointAt(frmTessel->imgFeld(CellWithPartner()));
+        EXPECT_EQ(WrongCells(), 0);
+        const std::int16_t rounds = Stand.RundenZahl;
+        ClickAt(form, Middle(form, frmTessel->cmdSchalt(0)));
+        EXPECT_EQ(Stand.RundenZahl, rounds) << "a button beside the client area was clicked";
+        WhileOpen([&] { form.close(); },
+                  [&, cell = cell] {
+                      FormWidget& question = Form(*frmMsgJa);
+                      EXPECT_NEAR(question.width(), 392 * cell / 32.0, 1);
+                      EXPECT_EQ(question.DesignScale().Factor(), form.DesignScale().Factor());
+                      Click(frmMsgJa->lblNein);
+                  });
+    }
 }
 
 TEST_F(Fenster, TheMenuFollowsTheModel)

@@ -55,7 +55,7 @@ protected:
 
     static QPointF Middle(const FormWidget& form, const Visual& visual)
     {
-        return PlaceOf(visual).center() + form.Origin();
+        return form.PlaceOnForm(visual).center();
     }
 
     static void Send(FormWidget& form, QEvent::Type type, QPointF place, Qt::MouseButton button,

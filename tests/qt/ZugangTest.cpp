@@ -73,7 +73,7 @@ TEST_F(Zugang, AFrameFollowsTheArrowKeysUntilThePointerMoves)
 {
     FormWidget& form = Form(*frmTessel);
     const auto look = [&form](const Visual& cell) {
-        return Painted(form).copy(OnScreen(PlaceOf(cell).translated(form.Origin()), 1));
+        return Painted(form).copy(OnScreen(form.PlaceOnForm(cell), 1));
     };
     const QImage plain = look(frmTessel->imgFeld(20));
     constexpr bool heldDown = true;

@@ -79,7 +79,7 @@ QRect AccessiblePart::rect() const
     for (const Image* const digit : part_.Digits) {
         place |= digit->Visible ? PlaceOf(*digit) : QRectF();
     }
-    const QRect pixels = OnScreen(place.translated(form->Origin()), 1);
+    const QRect pixels = OnScreen(form->DesignScale().ToWindow(place), 1);
     return {form->mapToGlobal(pixels.topLeft()), pixels.size()};
 }
 

@@ -2,6 +2,7 @@
 #include "ui/qt/BackdropWindow.h"
 
 #include <QCloseEvent>
+#include <QGuiApplication>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QScreen>
@@ -11,6 +12,7 @@
 #include "ui/qt/Painting.h"
 #include "ui/qt/PictureStore.h"
 #include "ui/qt/ServerGround.h"
+#include "ui/qt/WindowManager.h"
 #include "ui/windows/FrmHintergrund.h"
 
 namespace malvone::qt {
@@ -29,17 +31,23 @@ BackdropWindow::BackdropWindow(malvone::Window& model, PictureStore& pictures)
     });
 }
 
-// The size too is set here: where no window manager is, nobody else sets it.
+void BackdropWindow::CoverScreen()
+{
+    setGeometry(QGuiApplication::primaryScreen()->geometry());
+}
+
 void BackdropWindow::Present()
 {
     if (isVisible()) {
         return;
     }
-    setGeometry(screen()->geometry());
+    CoverScreen();
     create();
     KeepOffTaskBar(winId());
     TryServer();
-    setWindowStates(Qt::WindowFullScreen);
+    if (MannerOfBackdrop() == BackdropManner::FullScreen) {
+        setWindowStates(Qt::WindowFullScreen);
+    }
     setVisible(true);
 }
 

@@ -21,8 +21,10 @@ public:
     // The model and the pictures have to outlive the window.
     BackdropWindow(malvone::Window& model, PictureStore& pictures);
 
-    // Puts the window on the screen.
+    // Puts the window on the screen, as the window manager needs it.
     void Present();
+    // Takes the size of the primary screen: where no window manager does it, nobody else will.
+    void CoverScreen();
     malvone::Window& Model() const { return model_; }
 
 Q_SIGNALS:

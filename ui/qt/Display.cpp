@@ -21,10 +21,6 @@ namespace {
 constexpr const char* kPlatform = "QT_QPA_PLATFORM";
 constexpr const char* kScale = "QT_SCALE_FACTOR";
 
-// The client area of the main window, and about what menu bar and frame add to it.
-constexpr double kWidthNeeded = 755 + 10;
-constexpr double kHeightNeeded = 463 + 24 + 36;
-
 std::string Environment(const char* name)
 {
     const char* const value = std::getenv(name);
@@ -79,18 +75,22 @@ bool DisplayReachable()
 
 void PreferX11()
 {
+    // Only one of them is named: Qt would tell of its failure with the first.
     if (Environment(kPlatform).empty()) {
-        qputenv(kPlatform, "xcb;wayland");
+        qputenv(kPlatform, X11Reachable() ? "xcb" : "wayland");
     }
 }
 
-double FittingScale()
+double LowestRatio()
 {
-    const QSizeF room = QGuiApplication::primaryScreen()->availableGeometry().size();
-    return std::min({1.0, room.width() / kWidthNeeded, room.height() / kHeightNeeded});
+    double lowest = QGuiApplication::primaryScreen()->devicePixelRatio();
+    for (const QScreen* const screen : QGuiApplication::screens()) {
+        lowest = std::min(lowest, screen->devicePixelRatio());
+    }
+    return lowest;
 }
 
-void ReduceScale(double factor)
+void RaiseScale(double factor)
 {
     const double wished = qEnvironmentVariable(kScale).toDouble();
     qputenv(kScale, QByteArray::number((wished > 0 ? wished : 1.0) * factor, 'f', 3));

@@ -10,11 +10,11 @@ bool DisplayReachable();
 // application object is made, and only where the player has not chosen.
 void PreferX11();
 
-// How much smaller everything has to be so that the main window with menu and frame fits on the
-// primary screen; 1 where it fits as it is. Needs an application object.
-double FittingScale();
+// The pixels of the screen to one of Qt's, on the screen where they are fewest. Qt paints wrongly
+// where it is below 1. Needs an application object.
+double LowestRatio();
 
-// Makes everything smaller by a factor, for the next application object.
-void ReduceScale(double factor);
+// Makes everything larger by a factor, for the next application object.
+void RaiseScale(double factor);
 
 }  // namespace malvone::qt

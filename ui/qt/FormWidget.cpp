@@ -17,14 +17,20 @@
 #include "ui/qt/NameBox.h"
 #include "ui/qt/Painting.h"
 #include "ui/qt/PictureStore.h"
-#include "ui/qt/Scale.h"
+#include "ui/qt/WindowManager.h"
+#include "ui/windows/Pictures.h"
 
 namespace malvone::qt {
 namespace {
 
+// A window with half the designed size can still be played in.
+constexpr double kSmallestFactor = 0.5;
+
+// Where windows are tiled, a dialog keeps the size that it asks for.
 Qt::WindowFlags FlagsOf(const Window& window, ShowMode mode)
 {
-    const Qt::WindowFlags kind = mode == ShowMode::Modal ? Qt::Dialog : Qt::Window;
+    const bool tiled = MannerOfBackdrop() == BackdropManner::None;
+    const Qt::WindowFlags kind = mode == ShowMode::Modal || tiled ? Qt::Dialog : Qt::Window;
     if (window.BorderStyle == Border::None) {
         return kind | Qt::FramelessWindowHint;
     }
@@ -46,7 +52,7 @@ std::int16_t ToButtons(Qt::MouseButtons buttons)
 
 }  // namespace
 
-FormWidget::FormWidget(Window& window, ShowMode mode, PictureStore& pictures)
+FormWidget::FormWidget(Window& window, ShowMode mode, PictureStore& pictures, double factor)
     : QWidget(nullptr, FlagsOf(window, mode)), window_(&window), pictures_(pictures),
       placement_(*this, window)
 {
@@ -55,10 +61,9 @@ FormWidget::FormWidget(Window& window, ShowMode mode, PictureStore& pictures)
     if (!window.MenuEntries().empty()) {
         menu_ = new MenuBar(window, this);
     }
-    TakeSize();
+    SetFactor(menu_ == nullptr ? factor : FactorOnScreen(DesignOf(window), SizeAt(1).height()));
     placement_.TellSize();
     Follow(Change::Text);
-    Follow(Change::Picture);
     for (Visual* const visual : window.FrontToBack()) {
         if (auto* const box = dynamic_cast<TextBox*>(visual)) {
             FollowBox(*box);
@@ -68,15 +73,44 @@ FormWidget::FormWidget(Window& window, ShowMode mode, PictureStore& pictures)
 
 FormWidget::~FormWidget() = default;
 
-void FormWidget::TakeSize()
+QSize FormWidget::SizeAt(double factor) const
 {
-    const QSize client(ToWholePixels(window_->ClientWidth), ToWholePixels(window_->ClientHeight));
-    if (menu_ != nullptr) {
-        menu_->setGeometry(0, 0, client.width(), menu_->heightForWidth(client.width()));
+    const QSize client = SizeOf(*window_, factor);
+    const int menu = menu_ != nullptr ? menu_->heightForWidth(client.width()) : 0;
+    return client.grownBy(QMargins(0, menu, 0, 0));
+}
+
+void FormWidget::SetFactor(double factor)
+{
+    if (window_->BorderStyle == Border::Sizable) {
+        setMinimumSize(SizeAt(kSmallestFactor));
+        resize(SizeAt(factor));
+    } else {
+        setFixedSize(SizeAt(factor));
     }
-    resize(client.grownBy(QMargins(0, Origin().y(), 0, 0)));
-    if (window_->BorderStyle != Border::Sizable) {
-        setFixedSize(size());
+    Rescale();
+}
+
+int FormWidget::MenuHeight() const
+{
+    return menu_ != nullptr ? menu_->height() : 0;
+}
+
+// Whatever size the window has, the whole design is drawn in it.
+void FormWidget::Rescale()
+{
+    if (menu_ != nullptr) {
+        menu_->setGeometry(0, 0, width(), menu_->heightForWidth(width()));
+    }
+    const double before = scale_.Factor();
+    ratio_ = devicePixelRatioF();
+    scale_ = Scale(DesignOf(*window_), rect().adjusted(0, MenuHeight(), 0, 0), ratio_);
+    for (const auto& [model, box] : boxes_) {
+        box->Follow(scale_);
+    }
+    update();
+    if (scale_.Factor() != before) {
+        Q_EMIT Rescaled();
     }
 }
 
@@ -93,24 +127,50 @@ void FormWidget::Detach()
     hide();
 }
 
-void FormWidget::Present(const QWidget* below)
+void FormWidget::Present(QWindow* below)
 {
     if (!isVisible()) {
-        // The place comes first: a window that exists already takes it for that of the client area
-        // as long as its frame is unknown.
+        // A window of the system's that exists already takes its place for that of the client area
+        // as long as its frame is unknown. So a window is shown again as it was shown first.
+        destroy();
+        placement_.OntoScreen();
         placement_.ToScreen();
         winId();
-        windowHandle()->setTransientParent(below != nullptr ? below->windowHandle() : nullptr);
+        windowHandle()->setTransientParent(below);
+        if (!window_->ShowInTaskbar) {
+            KeepOffTaskBar(winId());
+        }
         show();
         placement_.FromScreen();
+    }
+    ToFront();
+}
+
+void FormWidget::ToFront()
+{
+    if (isMinimized()) {
+        setWindowState(windowState() & ~Qt::WindowMinimized);
     }
     raise();
     activateWindow();
 }
 
-QPoint FormWidget::Origin() const
+void FormWidget::FollowScreens()
 {
-    return {0, menu_ != nullptr ? menu_->height() : 0};
+    if (!isVisible()) {
+        return;
+    }
+    const double fitting = FactorOnScreen(DesignOf(*window_), SizeAt(1).height());
+    if (menu_ != nullptr && !isMaximized() && fitting < scale_.Factor() && !placement_.Fits()) {
+        SetFactor(fitting);
+    }
+    placement_.OntoScreen();
+    placement_.ToScreen();
+}
+
+QRectF FormWidget::PlaceOnForm(const Visual& visual) const
+{
+    return scale_.ToWindow(PlaceOf(visual));
 }
 
 void FormWidget::paintEvent(QPaintEvent* event)
@@ -118,10 +178,48 @@ void FormWidget::paintEvent(QPaintEvent* event)
     if (window_ == nullptr) {
         return;
     }
+    if (ratio_ != devicePixelRatioF()) {
+        Rescale();  // another screen
+    }
+    const QSizeF client = DesignOf(*window_);
     QPainter painter(this);
-    painter.translate(Origin());
-    const QSize client = size().shrunkBy(QMargins(0, Origin().y(), 0, 0));
-    PaintWindow(painter, *window_, pictures_, event->region().translated(-Origin()), client);
+    const QRectF design = scale_.ToWindow(QRectF(QPointF(), client));
+    if (!design.contains(event->rect())) {
+        painter.fillRect(event->rect(), ToQColor(window_->BackColor));
+    }
+    QRegion dirty;
+    for (const QRect& part : event->region()) {
+        dirty += scale_.ToDesign(QRectF(part)).toAlignedRect();
+    }
+    painter.translate(scale_.Corner());
+    painter.scale(scale_.Factor(), scale_.Factor());
+    PaintWindow(painter, *window_, pictures_, dirty, client);
+    if (!painted_) {
+        painted_ = true;
+        QMetaObject::invokeMethod(this, &FormWidget::ShowIcon, Qt::QueuedConnection);
+    }
+}
+
+// Icons in all sizes that task bars and switchers use. They can wait until the window is painted.
+// A window without an icon of its own has that of the game.
+void FormWidget::ShowIcon()
+{
+    if (window_ == nullptr) {
+        return;
+    }
+    const auto all = [this](const Picture& picture) {
+        QIcon icon;
+        for (const int edge : {16, 22, 24, 32, 48, 64, 96, 128, 256}) {
+            icon.addPixmap(QPixmap::fromImage(pictures_.Get(picture, QSize(edge, edge))));
+        }
+        return icon;
+    };
+    if (QGuiApplication::windowIcon().isNull()) {
+        QApplication::setWindowIcon(all(PictureNamed("frmTessel.Icon")));
+    }
+    if (menu_ == nullptr && !window_->Icon->Empty()) {
+        setWindowIcon(all(window_->Icon));
+    }
 }
 
 void FormWidget::Follow(Change what)
@@ -136,13 +234,6 @@ void FormWidget::Follow(Change what)
         // The captions of windows without a title bar are not meant to be seen.
         setWindowTitle(window_->BorderStyle == Border::None ? QStringLiteral("Malvone")
                                                             : ToQString(window_->Caption.Get()));
-        break;
-    case Change::Picture:
-        if (!window_->Icon->Empty()) {
-            const QSize size(window_->Icon->Width(), window_->Icon->Height());
-            setWindowIcon(QPixmap::fromImage(pictures_.Get(window_->Icon, size)));
-        }
-        update();
         break;
     default: update(); break;
     }
@@ -190,13 +281,13 @@ void FormWidget::FollowBox(TextBox& box)
         const auto route = [this](const QKeyEvent& event) { return RouteKey(event); };
         found = boxes_.emplace(&box, new NameBox(box, route, this)).first;
     }
-    found->second->Follow(Origin());
+    found->second->Follow(scale_);
 }
 
 // The rectangle on this widget that a control's pixels on the screen can touch.
 QRect FormWidget::Touched(const Visual& visual) const
 {
-    const QRect place = PlaceOf(visual).toAlignedRect().translated(Origin());
+    const QRect place = PlaceOnForm(visual).toAlignedRect();
     const double ratio = devicePixelRatioF();
     const bool wholePixels = std::floor(ratio) == ratio;
     return wholePixels ? place : place.adjusted(-1, -1, 1, 1);
@@ -216,7 +307,7 @@ void FormWidget::Repaint(const Visual& visual, Change what)
 
 Visual* FormWidget::ControlUnder(QPointF position) const
 {
-    const QPointF place = position - Origin();
+    const QPointF place = scale_.ToDesign(position);
     const Twips x = ToTwips(place.x());
     const Twips y = ToTwips(place.y());
     return ControlAt(*window_, x, y);
@@ -224,7 +315,7 @@ Visual* FormWidget::ControlUnder(QPointF position) const
 
 Mouse FormWidget::ToMouse(const QMouseEvent& event, std::int16_t button) const
 {
-    const QPointF place = event.position() - Origin();
+    const QPointF place = scale_.ToDesign(event.position());
     return {button, ToShift(event.modifiers()), ToTwips(place.x()), ToTwips(place.y())};
 }
 
@@ -328,8 +419,13 @@ bool FormWidget::event(QEvent* event)
 void FormWidget::changeEvent(QEvent* event)
 {
     QWidget::changeEvent(event);
-    if (event->type() == QEvent::ActivationChange && isActiveWindow() && window_ != nullptr) {
+    if (window_ == nullptr) {
+        return;
+    }
+    if (event->type() == QEvent::ActivationChange && isActiveWindow()) {
         Q_EMIT Activated();
+    } else if (event->type() == QEvent::WindowStateChange && isMinimized()) {
+        Q_EMIT Minimized();
     }
 }
 
@@ -353,10 +449,8 @@ void FormWidget::moveEvent(QMoveEvent* event)
 void FormWidget::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);
-    if (menu_ != nullptr) {
-        menu_->setGeometry(0, 0, width(), menu_->heightForWidth(width()));
-    }
-    if (window_ != nullptr && isVisible()) {
+    if (window_ != nullptr) {
+        Rescale();
         placement_.FromScreen();
     }
 }

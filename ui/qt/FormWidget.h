@@ -6,6 +6,7 @@
 
 #include "ui/layer/Window.h"
 #include "ui/qt/Placement.h"
+#include "ui/qt/Scale.h"
 
 class QHelpEvent;
 
@@ -20,16 +21,21 @@ class FormWidget final : public QWidget
     Q_OBJECT
 
 public:
-    FormWidget(Window& window, ShowMode mode, PictureStore& pictures);
+    // `factor` is that of the main window's scale, which all windows with a fixed size share.
+    FormWidget(Window& window, ShowMode mode, PictureStore& pictures, double factor);
     ~FormWidget() override;
 
     // Null when the window has been unloaded; the widget then waits for its own deletion.
     Window* Model() const { return window_; }
     void Detach();
 
-    // Puts the window on the screen, or to the front where it is there already. A modal window
-    // stays above `below`.
-    void Present(const QWidget* below);
+    // Puts the window on the screen, or to the front where it is there already. It stays above
+    // `below`.
+    void Present(QWindow* below);
+    // A minimised window comes back.
+    void ToFront();
+    // The screens have changed: the window comes back onto one of them, smaller if it has to.
+    void FollowScreens();
 
     void Follow(Control& control, Change what);
     void Follow(Change what);
@@ -38,8 +44,12 @@ public:
     // The window follows the pointer until the button is released.
     void Drag();
 
-    // The corner of the client area: the menu bar lies above it.
-    QPoint Origin() const;
+    // How large the design is drawn, and where.
+    const Scale& DesignScale() const { return scale_; }
+    // Takes the size of the design at another scale.
+    void SetFactor(double factor);
+    // A control's place on this widget.
+    QRectF PlaceOnForm(const Visual& visual) const;
     // The topmost control under a place of this widget; null beside the designed client area.
     Visual* ControlUnder(QPointF position) const;
     // The widget of a text box; null where it has none.
@@ -48,6 +58,8 @@ public:
 Q_SIGNALS:
     void Activated();
     void CloseWished();
+    void Rescaled();
+    void Minimized();
 
 protected:
     bool event(QEvent* event) override;
@@ -67,11 +79,17 @@ private:
     Placement placement_;
     MenuBar* menu_ = nullptr;
     std::unordered_map<const Control*, NameBox*> boxes_;
+    Scale scale_;
+    double ratio_ = 1;  // the screen's pixels to Qt's, for which the scale was made
+    bool painted_ = false;
     QPoint pressedAt_;  // the pointer and the frame's corner at the last press, on the screen
     QPoint frameAtPress_;
     bool dragging_ = false;
 
-    void TakeSize();
+    QSize SizeAt(double factor) const;
+    int MenuHeight() const;
+    void Rescale();
+    void ShowIcon();
     bool RouteKey(const QKeyEvent& event);
     Mouse ToMouse(const QMouseEvent& event, std::int16_t button) const;
     void UpdateCursor(QPointF position);

@@ -87,14 +87,16 @@ NameBox::NameBox(TextBox& model, KeyRoute route, QWidget* parent)
     connect(this, &QLineEdit::selectionChanged, this, &NameBox::TellModel);
 }
 
-void NameBox::Follow(QPoint origin)
+void NameBox::Follow(const Scale& scale)
 {
     if (model_ == nullptr || following_) {
         return;
     }
     const QScopedValueRollback guard(following_, true);
-    setGeometry(PlaceOf(*model_).translated(origin).toRect());
-    setFont(ToQFont(model_->TextFont));
+    setGeometry(scale.ToWindow(PlaceOf(*model_)).toRect());
+    QFont font = ToQFont(model_->TextFont);
+    font.setPixelSize(static_cast<int>(std::lround(font.pixelSize() * scale.Factor())));
+    setFont(font);
     setPalette(Colours(*model_));
     // A locked name is there to be read: nothing selects it, and it never looks like the open one.
     setReadOnly(model_->Locked);

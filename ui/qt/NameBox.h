@@ -10,6 +10,8 @@ class QKeyEvent;
 
 namespace malvone::qt {
 
+class Scale;
+
 class NameBox final : public QLineEdit
 {
     Q_OBJECT
@@ -20,8 +22,8 @@ public:
 
     NameBox(TextBox& model, KeyRoute route, QWidget* parent);
 
-    // Takes over what the model says; `origin` is the corner of the client area.
-    void Follow(QPoint origin);
+    // Takes over what the model says, at the window's scale.
+    void Follow(const Scale& scale);
     // The model is about to be destroyed.
     void Detach() { model_ = nullptr; }
 

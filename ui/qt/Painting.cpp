@@ -26,7 +26,7 @@ class Painting
 {
 public:
     Painting(QPainter& painter, PictureStore& pictures)
-        : painter_(painter), pictures_(pictures), ratio_(painter.device()->devicePixelRatioF())
+        : painter_(painter), pictures_(pictures), ratio_(painter.deviceTransform().m11())
     {}
 
     void Ground(const Window& window, const QSizeF& client) const;

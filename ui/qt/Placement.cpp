@@ -6,6 +6,7 @@
 #include <QScreen>
 #include <QWidget>
 #include <QWindow>
+#include <algorithm>
 
 #include "ui/qt/Scale.h"
 
@@ -29,6 +30,30 @@ bool WindowsCanBePlaced()
     return !QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
 }
 
+QSizeF DesignOf(const Window& window)
+{
+    return {ToPixels(window.ClientWidth), ToPixels(window.ClientHeight)};
+}
+
+QSize SizeOf(const Window& window, double factor)
+{
+    constexpr double kRounding = 0.01;
+    const QSizeF size = DesignOf(window) * factor;
+    return {static_cast<int>(std::ceil(size.width() - kRounding)),
+            static_cast<int>(std::ceil(size.height() - kRounding))};
+}
+
+double FactorOnScreen(const QSizeF& design, int height)
+{
+    // About what a frame adds.
+    constexpr QSizeF kFrame(10, 36);
+    const QScreen& screen = *QGuiApplication::primaryScreen();
+    const QSizeF menu(0, height - design.height());
+    const QSizeF room = QSizeF(screen.availableSize()) - kFrame - menu;
+    return std::min(1.0,
+                    Scale(design, QRectF(QPointF(), room), screen.devicePixelRatio()).Factor());
+}
+
 void Placement::ToScreen()
 {
     if (!telling_) {
@@ -36,10 +61,64 @@ void Placement::ToScreen()
     }
 }
 
+QRect Placement::Outer() const
+{
+    return {ScreenCorner() + CornerOf(window_),
+            QSize(ToWholePixels(window_.Width), ToWholePixels(window_.Height))};
+}
+
+bool Placement::Fits() const
+{
+    const QRect outer = Outer();
+    const QList<QScreen*> screens = QGuiApplication::screens();
+    return std::any_of(screens.begin(), screens.end(), [&outer](const QScreen* screen) {
+        const QSize room = screen->availableSize();
+        return outer.width() <= room.width() && outer.height() <= room.height();
+    });
+}
+
+void Placement::OntoScreen()
+{
+    const QRect outer = Outer();
+    const QScreen* screen = QGuiApplication::screenAt(outer.center());
+    if (screen == nullptr) {
+        screen = QGuiApplication::primaryScreen();
+    }
+    const QRect room = screen->availableGeometry();
+    const QPoint corner(
+        std::max(room.left(), std::min(outer.left(), room.right() + 1 - outer.width())),
+        std::max(room.top(), std::min(outer.top(), room.bottom() + 1 - outer.height())));
+    if (corner != outer.topLeft()) {
+        const QScopedValueRollback guard(telling_, true);
+        window_.Left = ToTwips(corner.x() - ScreenCorner().x());
+        window_.Top = ToTwips(corner.y() - ScreenCorner().y());
+    }
+}
+
+// A window in the middle of the screen was put there before its frame was known.
+void Placement::KeepCentred(const QMargins& frame)
+{
+    const QRect screen = QGuiApplication::primaryScreen()->geometry();
+    const QPoint off = Outer().center() - screen.center();
+    if (std::abs(off.x()) > 1 || std::abs(off.y()) > 1) {
+        return;
+    }
+    const QScopedValueRollback guard(telling_, true);
+    window_.Left = window_.Left - ToTwips(frame.left() + frame.right()) / 2;
+    window_.Top = window_.Top - ToTwips(frame.top() + frame.bottom()) / 2;
+    widget_.move(ScreenCorner() + CornerOf(window_));
+}
+
 void Placement::FromScreen()
 {
     const QWindow* const handle = widget_.windowHandle();
     if (handle == nullptr || !widget_.isVisible()) {
+        return;
+    }
+    if (!framed_ && !handle->frameMargins().isNull()) {
+        framed_ = true;
+        KeepCentred(handle->frameMargins());
+        TellSize();
         return;
     }
     const QScopedValueRollback guard(telling_, true);

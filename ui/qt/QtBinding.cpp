@@ -11,6 +11,7 @@
 #include "ui/qt/BackdropWindow.h"
 #include "ui/qt/FormWidget.h"
 #include "ui/qt/Scale.h"
+#include "ui/qt/WindowManager.h"
 
 namespace malvone::qt {
 
@@ -18,6 +19,18 @@ QtBinding::QtBinding(FirstPictures* first) : pictures_(first)
 {
     QApplication::setQuitOnLastWindowClosed(false);
     InstallAccessibility();
+    const auto watch = [this](const QScreen* screen) {
+        QObject::connect(
+            screen, &QScreen::availableGeometryChanged, &screens_, [this] { ScreensChanged(); },
+            Qt::QueuedConnection);
+    };
+    for (const QScreen* const screen : QGuiApplication::screens()) {
+        watch(screen);
+    }
+    QObject::connect(qGuiApp, &QGuiApplication::screenAdded, &screens_, watch);
+    QObject::connect(
+        qGuiApp, &QGuiApplication::screenRemoved, &screens_, [this] { ScreensChanged(); },
+        Qt::QueuedConnection);
 }
 
 QtBinding::~QtBinding()
@@ -51,30 +64,88 @@ FormWidget* QtBinding::FormOf(const Window& window) const
 
 FormWidget& QtBinding::Make(Window& window, ShowMode mode)
 {
-    auto* const form = new FormWidget(window, mode, pictures_);
+    auto* const form = new FormWidget(window, mode, pictures_, Factor());
     forms_.push_back(form);
+    QObject::connect(
+        form, &FormWidget::Minimized, form, [this, form] { Minimized(*form); },
+        Qt::QueuedConnection);
+    QObject::connect(form, &FormWidget::Rescaled, [this, form] { Rescaled(*form); });
     QObject::connect(form, &FormWidget::Activated, [this, form] { Activated(*form); });
     QObject::connect(form, &FormWidget::CloseWished, [form] { RaiseClose(*form->Model()); });
     return *form;
 }
 
+// The main window is the one with the menu.
+FormWidget* QtBinding::MainForm() const
+{
+    const auto found = std::find_if(forms_.begin(), forms_.end(), [](const FormWidget* form) {
+        return !form->Model()->MenuEntries().empty();
+    });
+    return found == forms_.end() ? nullptr : *found;
+}
+
+double QtBinding::Factor() const
+{
+    const FormWidget* const main = MainForm();
+    return main != nullptr ? main->DesignScale().Factor() : 1;
+}
+
+// A window of the game that is minimised alone would leave the backdrop, and no way back: it has no
+// such button, and not every desktop shows what is minimised.
+void QtBinding::Minimized(FormWidget& form)
+{
+    const bool behind = backdrop_ != nullptr && backdrop_->isVisible() &&
+                        !backdrop_->windowStates().testFlag(Qt::WindowMinimized);
+    if (behind && form.isMinimized()) {
+        form.ToFront();
+    }
+}
+
+// All windows are drawn as large as the main window.
+void QtBinding::Rescaled(const FormWidget& form)
+{
+    if (&form != MainForm()) {
+        return;
+    }
+    for (FormWidget* const other : forms_) {
+        if (other != &form) {
+            other->SetFactor(Factor());
+        }
+    }
+}
+
+void QtBinding::ScreensChanged()
+{
+    if (backdrop_ != nullptr && backdrop_->isVisible()) {
+        backdrop_->CoverScreen();
+    }
+    for (FormWidget* const form : forms_) {
+        form->FollowScreens();
+    }
+}
+
 // Windows are made when they are first shown: most of what is loaded never is. A window with a menu
-// is made at once, since its size counts when it is placed.
+// is made at once, since its size counts when it is placed; so does that of a message.
 void QtBinding::WindowLoaded(Window& window)
 {
     if (!window.MenuEntries().empty()) {
         Make(window, ShowMode::Modeless);
+    } else {
+        const QSize size = SizeOf(window, Factor());
+        window.Width = ToTwips(size.width());
+        window.Height = ToTwips(size.height());
     }
 }
 
-// What a modal window lies over: the window that was modal before it, else the main window.
-QWidget* QtBinding::ParentOf(const Window& window) const
+// What a window lies over: a modal one the window that was modal before it, else the main window.
+// On Wayland, where nobody but the compositor stacks windows, the others belong to the backdrop.
+QWindow* QtBinding::ParentOf(const Window& window, ShowMode mode) const
 {
-    QWidget* parent = nullptr;
+    QWindow* parent = WindowsCanBePlaced() ? nullptr : backdrop_.get();
     for (FormWidget* const form : forms_) {
         const Window* const other = form->Model();
-        if (other != &window && other->Shown() && form->isVisible()) {
-            parent = form;
+        if (mode == ShowMode::Modal && other != &window && other->Shown() && form->isVisible()) {
+            parent = form->windowHandle();
         }
     }
     return parent;
@@ -83,7 +154,9 @@ QWidget* QtBinding::ParentOf(const Window& window) const
 void QtBinding::WindowShown(Window& window, ShowMode mode)
 {
     if (IsBackdrop(window)) {
-        ShowBackdrop(window);
+        if (MannerOfBackdrop() != BackdropManner::None) {
+            ShowBackdrop(window);
+        }
         return;
     }
     FormWidget* form = FormOf(window);
@@ -98,7 +171,7 @@ void QtBinding::WindowShown(Window& window, ShowMode mode)
             popup->close();
         }
     }
-    form->Present(mode == ShowMode::Modal ? ParentOf(window) : nullptr);
+    form->Present(ParentOf(window, mode));
     form->FollowFocus();
 }
 
@@ -234,8 +307,7 @@ void QtBinding::BringToFront(const Window* only)
 {
     for (FormWidget* const form : forms_) {
         if (form->isVisible() && (only == nullptr || only == form->Model())) {
-            form->raise();
-            form->activateWindow();
+            form->ToFront();
         }
     }
 }
@@ -243,11 +315,8 @@ void QtBinding::BringToFront(const Window* only)
 // The backdrop goes with the game: whoever closes it closes the game.
 void QtBinding::CloseMainWindow()
 {
-    const auto main = std::find_if(forms_.begin(), forms_.end(), [](const FormWidget* form) {
-        return !form->Model()->MenuEntries().empty();
-    });
-    if (main != forms_.end()) {
-        RaiseClose(*(*main)->Model());
+    if (const FormWidget* const main = MainForm()) {
+        RaiseClose(*main->Model());
     }
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QEventLoop>
+#include <QObject>
 #include <memory>
 #include <vector>
 
@@ -52,9 +53,16 @@ private:
     std::vector<FormWidget*> forms_;
     std::vector<ModalLoop> loops_;
     std::unique_ptr<BackdropWindow> backdrop_;
+    QObject screens_;  // receives what the screens tell, no longer than this lives
 
+    FormWidget* MainForm() const;
+    // How large windows are drawn.
+    double Factor() const;
+    void Minimized(FormWidget& form);
+    void Rescaled(const FormWidget& form);
+    void ScreensChanged();
     FormWidget& Make(Window& window, ShowMode mode);
-    QWidget* ParentOf(const Window& window) const;
+    QWindow* ParentOf(const Window& window, ShowMode mode) const;
     void ShowBackdrop(Window& window);
     void Activated(const FormWidget& form);
     void BackdropActivated();

@@ -2,8 +2,8 @@
 #include "ui/qt/QtPlatform.h"
 
 #include <QCoreApplication>
-#include <QDesktopServices>
-#include <QUrl>
+#include <QProcess>
+#include <QStandardPaths>
 #include <utility>
 
 #include "ui/sound/Sound.h"
@@ -26,11 +26,21 @@ std::int32_t QtPlatform::waveOutGetNumDevs()
     return sound_.DeviceCount();
 }
 
+// A viewer that cannot be started is not noticed: what the launcher says about it goes nowhere.
 void QtPlatform::ShellExecuteA(const std::string& path)
 {
-    if (const std::optional<std::filesystem::path> file = Translate(path)) {
-        QDesktopServices::openUrl(QUrl::fromLocalFile(QString::fromStdString(file->string())));
+    const std::optional<std::filesystem::path> file = Translate(path);
+    const QString launcher = QStandardPaths::findExecutable(QStringLiteral("xdg-open"));
+    if (!file || launcher.isEmpty()) {
+        return;
     }
+    QProcess process;
+    process.setProgram(launcher);
+    process.setArguments({QString::fromStdString(file->string())});
+    process.setStandardInputFile(QProcess::nullDevice());
+    process.setStandardOutputFile(QProcess::nullDevice());
+    process.setStandardErrorFile(QProcess::nullDevice());
+    process.startDetached();
 }
 
 std::filesystem::path ProgramFolder()

@@ -1,7 +1,9 @@
-// Scale.h: from the game's twips to Qt's pixels, and on to those of the screen.
+// Scale.h: from the game's twips to Qt's pixels, on to the size that a window really has, and on to
+// the pixels of the screen.
 #pragma once
 
 #include <QColor>
+#include <QPointF>
 #include <QRect>
 #include <QRectF>
 #include <QSize>
@@ -36,6 +38,32 @@ inline QRect OnScreen(const QRectF& pixels, double ratio)
     const QPoint corner(edge(pixels.left()), edge(pixels.top()));
     return {corner, QSize(edge(pixels.right()) - corner.x(), edge(pixels.bottom()) - corner.y())};
 }
+
+// How large a window draws its design, and where: the whole design, as large as the window has room
+// for with every cell of the board in whole pixels of the screen, in the middle of that room.
+class Scale
+{
+public:
+    Scale() = default;  // as designed, from the window's corner
+    // `ratio` is that of the screen's pixels to Qt's.
+    Scale(const QSizeF& design, const QRectF& room, double ratio);
+
+    double Factor() const { return factor_; }
+    QPointF Corner() const { return corner_; }
+    QRectF ToWindow(const QRectF& design) const
+    {
+        return {corner_ + design.topLeft() * factor_, design.size() * factor_};
+    }
+    QPointF ToDesign(QPointF window) const { return (window - corner_) / factor_; }
+    QRectF ToDesign(const QRectF& window) const
+    {
+        return {ToDesign(window.topLeft()), window.size() / factor_};
+    }
+
+private:
+    double factor_ = 1;
+    QPointF corner_;
+};
 
 inline QColor ToQColor(Colour colour)
 {

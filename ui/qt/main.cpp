@@ -16,7 +16,7 @@
 namespace malvone::qt {
 namespace {
 
-// Where the main window would hang over the edge of the screen, Qt starts again at a smaller scale.
+// Where the scale is below 1, Qt starts again at that.
 void StartQt(std::optional<QApplication>& application, int& argc, char** argv)
 {
     PreferX11();
@@ -25,10 +25,10 @@ void StartQt(std::optional<QApplication>& application, int& argc, char** argv)
     QApplication::setApplicationName(QStringLiteral("malvone"));
     QApplication::setDesktopFileName(QStringLiteral("malvone"));
     application.emplace(argc, argv);
-    const double scale = FittingScale();
-    if (scale < 1) {
+    const double ratio = LowestRatio();
+    if (ratio < 1) {
         application.reset();
-        ReduceScale(scale);
+        RaiseScale(1 / ratio);
         application.emplace(argc, argv);
     }
 }

@@ -1,0 +1,22 @@
+// WindowManager.h: what the window manager of an X11 desktop is like, and what it is asked for.
+#pragma once
+
+#include <qwindowdefs.h>
+
+namespace malvone::qt {
+
+// What becomes of the backdrop. The game has to be seen in any case.
+enum class BackdropManner {
+    FullScreen,   // the manager shows other windows beside or above a full-screen one
+    ScreenSized,  // a plain window of the screen's size, since nothing else is known to go well
+    None,         // windows are tiled: a backdrop would take room from the game, or hide it
+};
+
+BackdropManner MannerOfBackdrop();
+
+// Keeps a window off the task bar and out of the overview of workspaces; call before each show.
+// A window type that does so by itself would put it above the game, or below other programs, on
+// some window manager.
+void KeepOffTaskBar(WId window);
+
+}  // namespace malvone::qt
