@@ -35,10 +35,16 @@ float Zufall::Zahl()
     return static_cast<float>(Weiter() >> 40U) * 0x1p-24F;
 }
 
+std::int16_t FarbeAus(float zahl)
+{
+    // Cut off first: 1 added to the greatest number would be rounded up to a fifth colour.
+    return static_cast<std::int16_t>(static_cast<int>(zahl * static_cast<float>(kFarben)) + 1);
+}
+
 std::int16_t ZufallsFarbe()
 {
     zufall.Saeen(App.System().ClockNs());
-    return static_cast<std::int16_t>(zufall.Zahl() * static_cast<float>(kFarben) + 1);
+    return FarbeAus(zufall.Zahl());
 }
 
 }  // namespace malvone

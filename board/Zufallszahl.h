@@ -21,6 +21,8 @@ private:
     std::uint64_t Weiter();
 };
 
+// The colour, 1 to 4, for a number from 0 up to but not including 1.
+std::int16_t FarbeAus(float zahl);
 // The colour of a new stone, 1 to 4, each with the same chance.
 std::int16_t ZufallsFarbe();
 

@@ -203,6 +203,10 @@ TEST(Fuellen, NumbersReachBothEndsOfTheRangeAndNeverOne)
     EXPECT_LT(smallest, 0.001F);
     EXPECT_GT(largest, 0.999F);
     EXPECT_LT(largest, 1.0F);
+    const std::pair<float, int> colours[] = {{0, 1}, {0.25F, 2}, {0.75F, 4}, {1 - 0x1p-24F, 4}};
+    for (const auto& [number, colour] : colours) {
+        EXPECT_EQ(FarbeAus(number), colour) << number;
+    }
 }
 
 }  // namespace
