@@ -1,6 +1,7 @@
 // main.cpp: the script program: standard input in, standard output out.
 #include <getopt.h>
 
+#include <csignal>
 #include <cstdio>
 #include <iostream>
 
@@ -47,6 +48,7 @@ bool ReadOptions(int argc, char** argv, Options& options)
 
 int main(int argc, char** argv)
 {
+    std::signal(SIGXFSZ, SIG_IGN);  // as the game does
     Options options;
     if (!ReadOptions(argc, argv, options)) {
         return 2;

@@ -3,6 +3,7 @@
 
 #include <QApplication>
 #include <cerrno>
+#include <csignal>
 #include <cstdio>
 #include <optional>
 
@@ -71,5 +72,6 @@ int Run(int argc, char** argv)
 
 int main(int argc, char** argv)
 {
+    std::signal(SIGXFSZ, SIG_IGN);  // what is too long for the player's limit fails and is told
     return malvone::qt::Run(argc, argv);
 }
