@@ -83,7 +83,6 @@ void ZustandNeu()
 
 void Main()
 {
-    Daten.DatenOrdnerOk = False;
     SoundListeAnlegen();
     DatenordnerWaehlen();
     BestenlisteVorbereiten();

@@ -11,8 +11,9 @@ namespace malvone {
 // Set by Main at the start, only read afterwards.
 struct Datenlage
 {
-    std::string DatenOrdner;     // without a backslash at its end; empty without a Windows folder
-    Flag DatenOrdnerOk = False;  // True: DatenPfad answers with DatenOrdner
+    std::string DatenOrdner;  // without a backslash at its end; empty without a Windows folder
+    Flag DatenOrdnerOk =
+        False;  // True, once there is a Windows folder: DatenPfad gives DatenOrdner
 };
 
 extern Datenlage Daten;

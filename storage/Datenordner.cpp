@@ -24,7 +24,6 @@ std::string WindowsOrdner()
 void OrdnerAnlegen(const std::string& pfad)
 {
     if (App.System().CreateDirectoryA(pfad)) {
-        Daten.DatenOrdnerOk = True;
         return;
     }
     // By design (kein-ausweichordner): one would expect the program's folder to take over here.
