@@ -48,7 +48,8 @@ public:
     {
         return FileFault::None;
     }
-    FileFault ReplaceTextLines(const std::string&, const std::vector<std::string>&) override
+    FileFault ReplaceTextLines(const std::string&, const std::vector<std::string>&,
+                               OldFile) override
     {
         return FileFault::None;
     }

@@ -13,6 +13,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <system_error>
+#include <thread>
 #include <utility>
 
 #include "platform/TextLines.h"
@@ -24,9 +25,15 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr std::size_t kBlock = 4096;
-constexpr mode_t kNewFile = 0666;  // less what the user's mask takes away
-constexpr int kNewNames = 8;       // so many runs can replace one file at the same time
+constexpr mode_t kNewFile = 0666;    // less what the user's mask takes away
+constexpr mode_t kNewFolder = 0700;  // what belongs to the player alone, as on every desktop
 constexpr int kMostLinks = 40;
+constexpr int kMostKept = 999;
+constexpr int kAttempts = 100;  // of a call that signals keep interrupting
+
+// Two runs that replace a file at the same time wait for each other, but not for one that hangs.
+constexpr int kLockAttempts = 400;
+constexpr std::chrono::milliseconds kLockWait(5);
 
 // Opening must neither wait for the other end of a pipe nor hand the file on to a viewer.
 constexpr int kOpenFlags = O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
@@ -46,10 +53,42 @@ FileFault FaultOf(int error)
     }
 }
 
+// A call of the system, made again where a signal came before its answer.
+template<class Call>
+auto Again(Call call)
+{
+    auto result = call();
+    for (int i = 1; i < kAttempts && result < 0 && errno == EINTR; ++i) {
+        result = call();
+    }
+    return result;
+}
+
+int Look(const fs::path& path, struct stat& found)
+{
+    return Again([&] { return ::stat(path.c_str(), &found); });
+}
+
 bool IsFolder(const fs::path& path)
 {
-    std::error_code error;
-    return fs::is_directory(path, error);
+    struct stat found
+    {};
+    return Look(path, found) == 0 && S_ISDIR(found.st_mode);
+}
+
+bool MakeFolder(const fs::path& path)
+{
+    return Again([&] { return ::mkdir(path.c_str(), kNewFolder); }) == 0;
+}
+
+// What cannot be made is missed when a file in it is opened.
+void MakeFoldersAbove(const fs::path& path)
+{
+    const fs::path folder = path.parent_path();
+    if (folder != path && !IsFolder(folder)) {
+        MakeFoldersAbove(folder);
+        MakeFolder(folder);
+    }
 }
 
 FileFault ReadLinesFrom(int file, std::size_t count, std::vector<std::string>& lines)
@@ -57,10 +96,7 @@ FileFault ReadLinesFrom(int file, std::size_t count, std::vector<std::string>& l
     LineCollector collector(count, lines);
     std::array<char, kBlock> block{};
     while (!collector.Complete()) {
-        const ssize_t got = ::read(file, block.data(), block.size());
-        if (got < 0 && errno == EINTR) {
-            continue;
-        }
+        const ssize_t got = Again([&] { return ::read(file, block.data(), block.size()); });
         if (got < 0) {
             return FaultOf(errno);
         }
@@ -76,24 +112,53 @@ FileFault ReadLinesFrom(int file, std::size_t count, std::vector<std::string>& l
     return FileFault::None;
 }
 
-// The file behind a link; a circle of links is left to be refused when it is opened.
-fs::path BehindLinks(fs::path path)
+// Leads on to the file behind a link, which may be missing. That the last one is no link is looked
+// at twice, since the new file will take its place.
+FileFault FollowLinks(fs::path& path)
 {
-    std::error_code error;
-    for (int i = 0; i < kMostLinks && fs::is_symlink(fs::symlink_status(path, error)); ++i) {
-        path = path.parent_path() / fs::read_symlink(path, error);
+    std::array<char, kBlock> next{};
+    for (int i = 0; i < kMostLinks; ++i) {
+        const ssize_t length =
+            Again([&] { return ::readlink(path.c_str(), next.data(), next.size()); });
+        if (length < 0) {
+            const int error = errno;
+            std::error_code none;
+            const bool file = (error == EINVAL || error == ENOENT) && !fs::is_symlink(path, none);
+            return file ? FileFault::None : FaultOf(error);
+        }
+        path = path.parent_path() / std::string(next.data(), static_cast<std::size_t>(length));
     }
-    return path;
+    return FileFault::PathAccess;
 }
 
-bool SameFile(int file, const fs::path& name)
+// False where another run has held the lock for too long. A folder that knows no locks, on a
+// network say, holds nobody up.
+bool Locked(int folder)
 {
-    struct stat open
-    {};
-    struct stat named
-    {};
-    return ::fstat(file, &open) == 0 && ::lstat(name.c_str(), &named) == 0 &&
-           open.st_dev == named.st_dev && open.st_ino == named.st_ino;
+    for (int i = 0; i < kLockAttempts; ++i) {
+        const int refused = Again([&] { return ::flock(folder, LOCK_EX | LOCK_NB); });
+        if (refused == 0 || errno != EWOULDBLOCK) {
+            return true;
+        }
+        std::this_thread::sleep_for(kLockWait);
+    }
+    return false;
+}
+
+// Gives the file a second name that no file has yet: at no moment it is without one.
+FileFault KeepBeside(const fs::path& file, fs::path& kept)
+{
+    for (int i = 1; i <= kMostKept; ++i) {
+        kept = file.parent_path() / KeptName(file.filename().string(), i);
+        if (Again([&] { return ::link(file.c_str(), kept.c_str()); }) == 0) {
+            return FileFault::None;
+        }
+        if (errno != EEXIST) {
+            break;
+        }
+    }
+    kept.clear();
+    return FaultOf(errno);
 }
 
 fs::path HomeFolder()
@@ -152,12 +217,6 @@ private:
     int file_;
 };
 
-struct FilePlatform::Replacement
-{
-    fs::path Target;
-    std::optional<struct stat> Old;  // nothing where there is no old file
-};
-
 FilePlatform::FilePlatform(std::optional<fs::path> root, fs::path programFolder)
     : root_(std::move(root)), programFolder_(std::move(programFolder))
 {
@@ -191,8 +250,7 @@ std::optional<fs::path> FilePlatform::PlaceToWrite(const std::string& path) cons
 {
     std::optional<fs::path> place = Translate(path);
     if (place && root_ && place->parent_path() == *root_) {
-        std::error_code error;  // what cannot be made is missed when the file is opened
-        fs::create_directories(*root_, error);
+        MakeFoldersAbove(*place);
     }
     return place;
 }
@@ -208,7 +266,7 @@ bool FilePlatform::CreateDirectoryA(const std::string& path)
         return true;
     }
     const std::optional<fs::path> place = PlaceToWrite(path);
-    return place && ::mkdir(place->c_str(), 0777) == 0;
+    return place && MakeFolder(*place);
 }
 
 std::int32_t FilePlatform::OpenFileExist(const std::string& path)
@@ -219,7 +277,7 @@ std::int32_t FilePlatform::OpenFileExist(const std::string& path)
     }
     struct stat found
     {};
-    if (::stat(place->c_str(), &found) == 0) {
+    if (Look(*place, found) == 0) {
         const bool readable = S_ISREG(found.st_mode) && ::access(place->c_str(), R_OK) == 0;
         return readable ? kFileExists : kAccessRefused;
     }
@@ -233,9 +291,9 @@ std::int32_t FilePlatform::OpenFileExist(const std::string& path)
 
 void FilePlatform::DeleteFileA(const std::string& path)
 {
-    const std::optional<fs::path> place = Translate(path);
-    if (place && !Over) {
-        ::unlink(place->c_str());
+    std::optional<fs::path> place = Translate(path);
+    if (place && !Over && FollowLinks(*place) == FileFault::None) {
+        static_cast<void>(Again([&] { return ::unlink(place->c_str()); }));
     }
 }
 
@@ -245,7 +303,7 @@ ReadLines FilePlatform::ReadTextLines(const std::string& path, std::size_t count
     if (!place) {
         return {FileFault::PathAccess, {}};
     }
-    const Handle file(*this, Open(place->c_str(), O_RDONLY | kOpenFlags, 0));
+    const Handle file = OpenFile(*place, O_RDONLY);
     if (!file.Valid()) {
         return {FaultOf(errno), {}};
     }
@@ -269,7 +327,7 @@ FileFault FilePlatform::WriteTextLines(const std::string& path,
     if (!place) {
         return FileFault::PathAccess;
     }
-    Handle file(*this, Open(place->c_str(), O_WRONLY | O_CREAT | O_TRUNC | kOpenFlags, kNewFile));
+    Handle file = OpenFile(*place, O_WRONLY | O_CREAT | O_TRUNC, kNewFile);
     if (!file.Valid()) {
         return FaultOf(errno);
     }
@@ -286,7 +344,7 @@ FileFault FilePlatform::WriteTextLines(const std::string& path,
 }
 
 FileFault FilePlatform::ReplaceTextLines(const std::string& path,
-                                         const std::vector<std::string>& lines)
+                                         const std::vector<std::string>& lines, OldFile old)
 {
     if (Over) {
         return FileFault::None;
@@ -295,89 +353,89 @@ FileFault FilePlatform::ReplaceTextLines(const std::string& path,
     if (!place) {
         return FileFault::PathAccess;
     }
-    Replacement replacement{BehindLinks(*place), std::nullopt};
-    FileFault fault = LookAtOld(replacement);
+    fs::path target = *place;
+    FileFault fault = FollowLinks(target);
     if (fault != FileFault::None) {
         return fault;
     }
-    fault = FileFault::OtherDevice;  // where all names are in use by other runs
-    for (int i = 0; i < kNewNames; ++i) {
-        const fs::path name =
-            replacement.Target.string() + ".neu" + (i == 0 ? "" : std::to_string(i));
-        errno = 0;
-        const Handle file = OpenNew(replacement, name);
-        if (!file.Valid()) {
-            fault = errno != 0 ? FaultOf(errno) : fault;
-            continue;
-        }
-        fault = Fill(replacement, file.Get(), FileContent(lines));
-        if (fault == FileFault::None && Rename(name.c_str(), replacement.Target.c_str()) != 0) {
-            fault = FaultOf(errno);
-        }
-        if (fault != FileFault::None) {
-            ::unlink(name.c_str());
-            return fault;
-        }
-        SyncFolder(replacement.Target.parent_path());
-        return FileFault::None;
+    const Handle folder = OpenFile(target.parent_path(), O_RDONLY | O_DIRECTORY);
+    if (!Locked(folder.Get())) {
+        return FileFault::OtherDevice;
     }
-    return fault;
-}
-
-// An old file that may not be written, or that is no file, is not to be replaced either.
-FileFault FilePlatform::LookAtOld(Replacement& replacement)
-{
-    const Handle file(*this, Open(replacement.Target.c_str(), O_WRONLY | kOpenFlags, 0));
-    if (!file.Valid()) {
-        return errno == ENOENT ? FileFault::None : FaultOf(errno);
+    const fs::path name = target.string() + ".neu";
+    std::remove(name.c_str());  // what a run that was killed has left there
+    std::optional<mode_t> mode;
+    fault = LookAtOld(target, old, mode);
+    if (fault != FileFault::None) {
+        return fault;
     }
-    struct stat found
-    {};
-    if (::fstat(file.Get(), &found) != 0 || !S_ISREG(found.st_mode)) {
-        return FileFault::PathAccess;
+    fault = WriteNew(name, FileContent(lines), mode);
+    fs::path kept;
+    if (fault == FileFault::None && mode && old == OldFile::Kept) {
+        fault = KeepBeside(target, kept);
     }
-    replacement.Old = found;
+    if (fault == FileFault::None &&
+        Again([&] { return Rename(name.c_str(), target.c_str()); }) != 0) {
+        fault = FaultOf(errno);
+    }
+    if (fault != FileFault::None) {
+        std::remove(name.c_str());
+        std::remove(kept.c_str());
+        return fault;
+    }
+    // The new name is to outlive a power cut. Where that fails, the file is replaced all the same,
+    // and after a power cut it would be the old one, whole.
+    static_cast<void>(Sync(folder.Get()));
     return FileFault::None;
 }
 
-// An empty file under a name that no other run is using: whoever writes it holds its lock, and the
-// name still leads to it.
-FilePlatform::Handle FilePlatform::OpenNew(const Replacement& replacement, const fs::path& name)
+// Gives the permissions that the new file takes over; none where there is no old file, which two
+// calls have to agree on.
+FileFault FilePlatform::LookAtOld(const fs::path& target, OldFile old, std::optional<mode_t>& mode)
 {
-    const mode_t mode = replacement.Old ? replacement.Old->st_mode & kNewFile : kNewFile;
-    Handle file(*this, Open(name.c_str(), O_WRONLY | O_CREAT | O_NOFOLLOW | kOpenFlags, mode));
-    if (!file.Valid()) {
-        return file;
+    const bool writable = OpenFile(target, O_WRONLY).Valid();
+    const int refused = writable ? 0 : errno;
+    struct stat found
+    {};
+    if (Look(target, found) != 0) {
+        const bool missing = errno == ENOENT;
+        return missing && refused == ENOENT ? FileFault::None : FaultOf(missing ? refused : errno);
     }
-    const bool locked = ::flock(file.Get(), LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK;
-    if (!locked || !SameFile(file.Get(), name) || ::ftruncate(file.Get(), 0) != 0) {
-        file.Close();
+    if (!S_ISREG(found.st_mode)) {
+        return FileFault::PathAccess;
     }
-    return file;
+    mode = found.st_mode & 0777U;
+    switch (old) {
+    case OldFile::Stays: return FileFault::NoPermission;
+    case OldFile::Kept: *mode |= S_IRUSR | S_IWUSR; return FileFault::None;
+    case OldFile::Goes: break;
+    }
+    return writable ? FileFault::None : FaultOf(refused);
 }
 
-FileFault FilePlatform::Fill(const Replacement& replacement, int file, std::string_view content)
+// A complete new file, on the disk. It is never open to more users than the old one.
+FileFault FilePlatform::WriteNew(const fs::path& name, std::string_view content,
+                                 std::optional<mode_t> mode)
 {
-    const FileFault fault = WriteAll(file, content);
+    Handle file = OpenFile(name, O_WRONLY | O_CREAT | O_EXCL, mode.value_or(kNewFile));
+    if (!file.Valid()) {
+        return FaultOf(errno);
+    }
+    if (mode) {  // not every file system has permissions
+        static_cast<void>(::fchmod(file.Get(), *mode) == 0);
+    }
+    const FileFault fault = WriteAll(file.Get(), content);
     if (fault != FileFault::None) {
         return fault;
     }
-    if (replacement.Old) {
-        // Where the file system has no owners or permissions, there is nothing to take over.
-        const struct stat& old = *replacement.Old;
-        static_cast<void>(::fchown(file, old.st_uid, old.st_gid) == 0);
-        static_cast<void>(::fchmod(file, old.st_mode & 07777U) == 0);
-    }
-    return Sync(file) == 0 ? FileFault::None : FaultOf(errno);
+    const bool safe = Again([&] { return Sync(file.Get()); }) == 0;
+    return safe && file.Close() ? FileFault::None : FaultOf(errno);
 }
 
 FileFault FilePlatform::WriteAll(int file, std::string_view content)
 {
     while (!content.empty()) {
-        const ssize_t written = Write(file, content.data(), content.size());
-        if (written < 0 && errno == EINTR) {
-            continue;
-        }
+        const ssize_t written = Again([&] { return Write(file, content.data(), content.size()); });
         if (written <= 0) {
             return written < 0 ? FaultOf(errno) : FileFault::OtherDevice;
         }
@@ -386,14 +444,9 @@ FileFault FilePlatform::WriteAll(int file, std::string_view content)
     return FileFault::None;
 }
 
-// Makes the new name outlive a power cut. Where that fails, the file is replaced all the same, and
-// after a power cut it would be the old one, whole.
-void FilePlatform::SyncFolder(const fs::path& folder)
+FilePlatform::Handle FilePlatform::OpenFile(const fs::path& path, int flags, mode_t mode)
 {
-    const Handle opened(*this, Open(folder.c_str(), O_RDONLY | O_DIRECTORY | kOpenFlags, 0));
-    if (opened.Valid()) {
-        static_cast<void>(Sync(opened.Get()));
-    }
+    return {*this, Again([&] { return Open(path.c_str(), flags | kOpenFlags, mode); })};
 }
 
 std::uint64_t FilePlatform::ClockNs()

@@ -33,6 +33,7 @@ public:
     bool CreateDirectoryA(const std::string& path) override;
     // A root that is missing counts as an empty folder, as the root of a drive is always there.
     std::int32_t OpenFileExist(const std::string& path) override;
+    // A link stays, and leads nowhere until the file is written again.
     void DeleteFileA(const std::string& path) override;
 
     // A line of more than 64 KiB ends the reading with OtherDevice: no file of the game has one,
@@ -44,10 +45,11 @@ public:
                              const std::vector<std::string>& lines) override;
     // The new file is complete on the disk before it gets the name of the old one, whose
     // permissions it takes over. A link is followed, and a file that may not be written stays as it
-    // is. The new file is written under the name of the old one and ".neu" behind it; what a run
-    // that was killed has left there is overwritten, and two runs never write the same one.
-    FileFault ReplaceTextLines(const std::string& path,
-                               const std::vector<std::string>& lines) override;
+    // is unless it is kept. The new file is written under the name of the old one and ".neu" behind
+    // it; what a run that was killed has left there goes, and two runs wait for each other. A kept
+    // file lies beside the new one, with "-nicht-gelesen-" and a number behind its name.
+    FileFault ReplaceTextLines(const std::string& path, const std::vector<std::string>& lines,
+                               OldFile old) override;
 
     std::uint64_t ClockNs() override;
 
@@ -62,18 +64,18 @@ protected:
 
 private:
     class Handle;
-    struct Replacement;
 
     std::optional<std::filesystem::path> root_;
     std::filesystem::path programFolder_;
 
     // Where a file is to be written; the root is made if the file lies directly in it.
     std::optional<std::filesystem::path> PlaceToWrite(const std::string& path) const;
-    Handle OpenNew(const Replacement& replacement, const std::filesystem::path& name);
-    FileFault LookAtOld(Replacement& replacement);
-    FileFault Fill(const Replacement& replacement, int file, std::string_view content);
+    Handle OpenFile(const std::filesystem::path& path, int flags, mode_t mode = 0);
+    FileFault LookAtOld(const std::filesystem::path& target, OldFile old,
+                        std::optional<mode_t>& mode);
+    FileFault WriteNew(const std::filesystem::path& name, std::string_view content,
+                       std::optional<mode_t> mode);
     FileFault WriteAll(int file, std::string_view content);
-    void SyncFolder(const std::filesystem::path& folder);
 };
 
 }  // namespace malvone

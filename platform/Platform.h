@@ -24,6 +24,13 @@ struct ReadLines
     std::vector<std::string> Lines;  // UTF-8, without line ends; what was read up to the fault
 };
 
+// What becomes of a file in the place of which a new one is written.
+enum class OldFile {
+    Goes,   // the new one takes its place
+    Kept,   // the same, and the old one is kept beside it, over no other file
+    Stays,  // the new one is not written
+};
+
 // Answers of OpenFile with OF_EXIST.
 inline constexpr std::int32_t kFileExists = 0;
 inline constexpr std::int32_t kFileNotFound = 2;   // a free name in an existing folder
@@ -60,9 +67,9 @@ public:
     virtual FileFault WriteTextLines(const std::string& path,
                                      const std::vector<std::string>& lines) = 0;
     // The same in one step: a complete new file takes the place of the old one, or the old one
-    // stays as it was.
+    // stays as it was, which is a fault.
     virtual FileFault ReplaceTextLines(const std::string& path,
-                                       const std::vector<std::string>& lines) = 0;
+                                       const std::vector<std::string>& lines, OldFile old) = 0;
 
     // Hands a wave file to the player and returns at once; the empty path is silence.
     virtual void sndPlaySoundA(const std::string& path) = 0;

@@ -1,6 +1,8 @@
 // TextLines.cpp: takes lines apart and puts them together.
 #include "platform/TextLines.h"
 
+#include <algorithm>
+
 #include "platform/CodePage.h"
 
 namespace malvone {
@@ -51,6 +53,12 @@ std::string FileContent(const std::vector<std::string>& lines)
         content += ToWindows1252(line) + "\r\n";
     }
     return content;
+}
+
+std::string KeptName(const std::string& name, int number)
+{
+    const std::size_t end = std::min(name.rfind('.'), name.size());
+    return name.substr(0, end) + "-nicht-gelesen-" + std::to_string(number) + name.substr(end);
 }
 
 }  // namespace malvone

@@ -36,4 +36,7 @@ private:
 
 std::string FileContent(const std::vector<std::string>& lines);
 
+// The name under which a file that was not read whole is kept; the player reads it.
+std::string KeptName(const std::string& name, int number);
+
 }  // namespace malvone

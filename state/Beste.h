@@ -12,6 +12,7 @@ struct Bestenstand
     Flag EintragModus = False;      // True: the window is opened, or open, for entering a name
     std::int16_t EintragPlatz = 0;  // place 0 to 4 of the new entry; -1 while there is none
     std::int32_t EndPunkte = 0;     // points of the finished game
+    bool Gelesen = false;           // the whole file was read into the lists, or written from them
 };
 
 extern Bestenstand Beste;

@@ -160,10 +160,7 @@ void FrmBeste::cmdTessel_Click()
     // "Niemand" to be worth a wipe. His name counts as a free place.
     // Test: games.eintrag
     if (!alleFrei && FrageStellen(kAlleLoeschen)) {
-        if (ExistiertDatei(BesteDatei())) {
-            App.System().DeleteFileA(BesteDatei());
-        }
-        BesteVorgabe();
+        BesteLoeschen();
         BesteLesen();
         cmdTessel.Visible = false;
         shpTessel.Visible = false;

@@ -2,6 +2,7 @@
 // program runs the list lives in lstName and lstPunkte of frmBeste.
 #include "storage/modBeste.h"
 
+#include <algorithm>
 #include <vector>
 
 #include "state/Pfade.h"
@@ -49,6 +50,35 @@ void ListenLeeren()
     frmBeste->lstPunkte.Clear();
 }
 
+std::int32_t Punktzahl(const Eintrag& eintrag)
+{
+    return Zahl32(eintrag.Punkte).value_or(0);
+}
+
+// The list as results meet it: places without a number stand behind all others, so that they are
+// the first to fall out.
+std::vector<Eintrag> Rangliste()
+{
+    std::vector<Eintrag> eintraege;
+    eintraege.reserve(kPlaetze + 1);
+    for (int platz = 0; platz < kPlaetze; ++platz) {
+        eintraege.push_back({frmBeste->lstName.List(platz), frmBeste->lstPunkte.List(platz)});
+    }
+    std::stable_partition(eintraege.begin(), eintraege.end(), [](const Eintrag& eintrag) {
+        return Zahl32(eintrag.Punkte).has_value();
+    });
+    return eintraege;
+}
+
+std::vector<std::string> Vorgabe()
+{
+    std::vector<std::string> zeilen(kPlaetze, kFreierPlatz);
+    for (int platz = 0; platz < kPlaetze; ++platz) {
+        zeilen.push_back(std::to_string(kErsterVorgabewert - platz * kVorgabeschritt));
+    }
+    return zeilen;
+}
+
 }  // namespace
 
 std::string BesteDatei()
@@ -61,14 +91,25 @@ std::string BesteDatei()
 
 void BesteVorgabe()
 {
-    std::vector<std::string> zeilen(kPlaetze, kFreierPlatz);
-    for (int platz = 0; platz < kPlaetze; ++platz) {
-        zeilen.push_back(std::to_string(kErsterVorgabewert - platz * kVorgabeschritt));
-    }
     // By design (stille-vorgabe): one would expect a message when this fails. There is none; the
     // window of the best players tells it when it reads the list.
     // Test: BesteVorgabe.ADefaultListThatCannotBeWrittenIsSilent
-    static_cast<void>(App.System().ReplaceTextLines(BesteDatei(), zeilen));
+    static_cast<void>(App.System().ReplaceTextLines(BesteDatei(), Vorgabe(), OldFile::Stays));
+}
+
+void BesteLoeschen()
+{
+    // In one step, or else in place: either leaves a link and the permissions as they are. Only a
+    // file that refuses both is deleted.
+    const std::string datei = BesteDatei();
+    if (App.System().ReplaceTextLines(datei, Vorgabe(), OldFile::Goes) == FileFault::None ||
+        App.System().WriteTextLines(datei, Vorgabe()) == FileFault::None) {
+        return;
+    }
+    if (ExistiertDatei(datei)) {
+        App.System().DeleteFileA(datei);
+    }
+    BesteVorgabe();
 }
 
 void BesteLesen()
@@ -79,7 +120,8 @@ void BesteLesen()
         ListBox& liste = zeile < kPlaetze ? frmBeste->lstName : frmBeste->lstPunkte;
         liste.AddItem(gelesen.Lines[zeile]);
     }
-    if (gelesen.Fault != FileFault::None) {
+    Beste.Gelesen = gelesen.Fault == FileFault::None;
+    if (!Beste.Gelesen) {
         const auto nummer = static_cast<std::int32_t>(gelesen.Fault);
         MeldungZeigen(kNichtLesbar.Meldung,
                       std::string(kNichtLesbar.Titel) + std::to_string(nummer));
@@ -95,18 +137,17 @@ void BesteSpeichern()
             zeilen.push_back(liste->List(platz));  // a missing item is an empty line
         }
     }
-    if (App.System().ReplaceTextLines(BesteDatei(), zeilen) != FileFault::None) {
+    const OldFile alte = Beste.Gelesen ? OldFile::Goes : OldFile::Kept;
+    if (App.System().ReplaceTextLines(BesteDatei(), zeilen, alte) != FileFault::None) {
         MeldungZeigen(kNichtGespeichert);
+        return;
     }
+    Beste.Gelesen = true;
 }
 
 void BesteEintragen(std::int16_t platz)
 {
-    std::vector<Eintrag> eintraege;
-    eintraege.reserve(kPlaetze + 1);
-    for (int i = 0; i < kPlaetze; ++i) {
-        eintraege.push_back({frmBeste->lstName.List(i), frmBeste->lstPunkte.List(i)});
-    }
+    std::vector<Eintrag> eintraege = Rangliste();
     eintraege.insert(eintraege.begin() + platz, {kNeuerName, std::to_string(Beste.EndPunkte)});
     eintraege.pop_back();
     ListenLeeren();
@@ -121,10 +162,7 @@ void BesteEintragen(std::int16_t platz)
 
 std::int32_t PunkteDesPlatzes(int platz)
 {
-    // By design (keine-zahl-ist-null): one would expect a damaged list to be refused. A place whose
-    // points are missing or no number counts as 0, so that any result above 0 takes it.
-    // Test: BestePruefen.APlaceWithoutANumberCountsAsNothing
-    return Zahl32(frmBeste->lstPunkte.List(platz)).value_or(0);
+    return Punktzahl({frmBeste->lstName.List(platz), frmBeste->lstPunkte.List(platz)});
 }
 
 void BestePruefen()
@@ -132,13 +170,17 @@ void BestePruefen()
     Beste.EintragModus = False;
     Beste.EintragPlatz = -1;
     Beste.EndPunkte = Stand.PunkteGesamt;
-    for (std::int16_t platz = 0; platz < kPlaetze; ++platz) {
-        // By design (der-aeltere-zuerst): one would expect the newer of two equal results to take
-        // the place. Only a greater one does. Test: BestePruefen.OnlyAGreaterResultTakesAPlace
-        if (Beste.EndPunkte > PunkteDesPlatzes(platz)) {
-            Beste.EintragPlatz = platz;
-            break;
-        }
+    // By design (keine-zahl-ist-null): one would expect a damaged list to be refused. A place whose
+    // points are missing or no number counts as 0 and as the last one, so that it goes first.
+    // Test: BestePruefen.APlaceWithoutANumberCountsAsNothing
+    const std::vector<Eintrag> rangliste = Rangliste();
+    // By design (der-aeltere-zuerst): one would expect the newer of two equal results to take the
+    // place. Only a greater one does. Test: BestePruefen.OnlyAGreaterResultTakesAPlace
+    const auto geschlagen =
+        std::find_if(rangliste.begin(), rangliste.end(),
+                     [](const Eintrag& eintrag) { return Beste.EndPunkte > Punktzahl(eintrag); });
+    if (geschlagen != rangliste.end()) {
+        Beste.EintragPlatz = static_cast<std::int16_t>(geschlagen - rangliste.begin());
     }
     if (Beste.EintragPlatz == -1) {
         MeldungZeigen(kKeinEintrag);

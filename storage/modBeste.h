@@ -9,11 +9,14 @@
 namespace malvone {
 
 std::string BesteDatei();
-// Writes the list of a first start. Fails in silence.
+// Writes the list of a first start; a file that is there after all stays. Fails in silence.
 void BesteVorgabe();
+// Puts the list of a first start in the place of the file. Fails in silence.
+void BesteLoeschen();
 // File to lists. After a failure, which the player is told, the lists hold what was read before it.
 void BesteLesen();
-// Lists to file, in one step. After a failure, which the player is told, the file is the old one.
+// Lists to file, in one step. A file that was not read whole is kept beside it. After a failure,
+// which the player is told, the file is the old one.
 void BesteSpeichern();
 // Inserts Beste.EndPunkte at a place 0 to 4, lets the player type a name, then ends the game.
 void BesteEintragen(std::int16_t platz);

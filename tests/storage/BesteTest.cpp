@@ -87,7 +87,7 @@ TEST(BestePruefen, APlaceWithoutANumberCountsAsNothing)
         std::int32_t Points;
         int Place;
     } cases[] = {
-        {"a\nb\nc\nd\ne\n500\nx\n300\n200\n100\n", 1, 1}, {"a\nb\nc\nd\ne\n99999999999\n", 1, 0},
+        {"a\nb\nc\nd\ne\n500\nx\n300\n200\n100\n", 1, 4}, {"a\nb\nc\nd\ne\n99999999999\n", 1, 0},
         {"a\nb\nc\nd\ne\n500\n400\n300\n", 10, 3},  // the last two lines are missing
         {"a\nb\nc\nd\ne\n500\n400\n300\n", 0, -1},        {"", 1, 0},
         {"a\nb\nc\nd\ne\n-5\n-6\n\n\n\n", 0, 0},
@@ -116,6 +116,9 @@ TEST(BestePruefen, AnEntryMovesTheWorseOnesDownAlsoInADamagedList)
         {five, 501, "x\r\nA\r\nB\r\nC\r\nD\r\n501\r\n500\r\n400\r\n300\r\n200\r\n"},
         {five, 301, "A\r\nB\r\nx\r\nC\r\nD\r\n500\r\n400\r\n301\r\n300\r\n200\r\n"},
         {five, 101, "A\r\nB\r\nC\r\nD\r\nx\r\n500\r\n400\r\n300\r\n200\r\n101\r\n"},
+        // The place without a number is the one that goes.
+        {"A\r\nB\r\nC\r\nD\r\nE\r\n500\r\nviel\r\n300\r\n200\r\n100\r\n", 250,
+         "A\r\nC\r\nx\r\nD\r\nE\r\n500\r\n300\r\n250\r\n200\r\n100\r\n"},
         {"a\nb\n", 7, "x\r\na\r\nb\r\n\r\n\r\n7\r\n\r\n\r\n\r\n\r\n"},
         {"J\xFCrgen \x80\n\"a\", b\n" + std::string(60000, 'y') + "\n\n  z \n9\n 8 \n-\n\n\n", 5,
          nullptr},
@@ -132,6 +135,11 @@ TEST(BestePruefen, AnEntryMovesTheWorseOnesDownAlsoInADamagedList)
                                                      "\r\n\r\n9\r\n 8 \r\n5\r\n-\r\n\r\n");
         EXPECT_EQ(Beste.EndPunkte, 0);
         EXPECT_EQ(Stand.RundenZahl, 1);
+        // A list that was not read whole is kept, once.
+        BesteSpeichern();
+        const std::string kept = "malvone-nicht-gelesen-1.txt";
+        EXPECT_EQ(Contents(game.DataFolder / kept).value_or(c.Before), c.Before);
+        EXPECT_EQ(Names(game.DataFolder).size(), c.Before == "a\nb\n" ? 3U : 2U);
     }
 }
 

@@ -76,9 +76,28 @@ FileFault WebPlatform::WriteTextLines(const std::string& path,
 }
 
 FileFault WebPlatform::ReplaceTextLines(const std::string& path,
-                                        const std::vector<std::string>& lines)
+                                        const std::vector<std::string>& lines, OldFile old)
 {
-    return WriteTextLines(path, lines);
+    const std::optional<std::string> there = Over ? std::nullopt : ReadEntry(path);
+    if (!there || old == OldFile::Goes) {
+        return WriteTextLines(path, lines);
+    }
+    if (old == OldFile::Stays) {
+        return FileFault::NoPermission;
+    }
+    int number = 1;
+    while (ReadEntry(KeptName(path, number))) {
+        ++number;
+    }
+    const std::string kept = KeptName(path, number);
+    FileFault fault = WriteEntry(kept, *there);
+    if (fault == FileFault::None) {
+        fault = WriteTextLines(path, lines);
+    }
+    if (fault != FileFault::None) {
+        Tell("removeEntry", kept);
+    }
+    return fault;
 }
 
 void WebPlatform::sndPlaySoundA(const std::string& path)

@@ -16,8 +16,8 @@ public:
     ReadLines ReadTextLines(const std::string& path, std::size_t count) override;
     FileFault WriteTextLines(const std::string& path,
                              const std::vector<std::string>& lines) override;
-    FileFault ReplaceTextLines(const std::string& path,
-                               const std::vector<std::string>& lines) override;
+    FileFault ReplaceTextLines(const std::string& path, const std::vector<std::string>& lines,
+                               OldFile old) override;
     void sndPlaySoundA(const std::string& path) override;
     std::int32_t waveOutGetNumDevs() override;
     void ShellExecuteA(const std::string& path) override;
