@@ -1,15 +1,19 @@
-// fuzz_dateien.cpp: feeds both data files with arbitrary bytes through the routines of the game,
-// and breaks off where the game crashes, changes a file that it only reads, or leaves the board in
-// a state that no failure may leave.
+// fuzz_dateien.cpp: feeds the two routines that load a data file with arbitrary bytes, and breaks
+// off where one of them crashes, writes, or leaves what no failure may leave.
+#include <sys/mman.h>
+#include <unistd.h>
+
 #include <cstdint>
 #include <cstdlib>
-#include <memory>
 
+#include "game/Main.h"
+#include "platform/Files.h"
+#include "state/Beste.h"
 #include "state/Spielstand.h"
 #include "state/Zellen.h"
 #include "storage/Spielstanddatei.h"
 #include "storage/modBeste.h"
-#include "tests/support/Game.h"
+#include "ui/layer/App.h"
 #include "ui/windows/FrmBeste.h"
 #include "ui/windows/FrmTessel.h"
 
@@ -17,99 +21,107 @@ namespace {
 
 using namespace malvone;
 
-void Verlangen(bool bedingung)
+void Require(bool condition)
 {
-    if (!bedingung) {
+    if (!condition) {
         std::abort();
     }
 }
 
-// One program for the whole run: bringing it up takes longer than all that is looked at.
-test::Game& TheGame()
+// Both files are the input, in memory, and may only be read.
+class Input final : public FilePlatform
 {
-    static const auto game = [] {
-        if (std::filesystem::exists("/dev/shm")) {
-            ::setenv("TMPDIR", "/dev/shm", 1);  // files in memory: the disk is not what is tried
-        }
-        return std::make_unique<test::Game>();
-    }();
-    return *game;
-}
+public:
+    Input() : FilePlatform("/", "/") {}
 
-// Yes to every question, on from every message, and out of the list by its button.
-template<class Doing>
-std::string Bejahen(Doing doing)
-{
-    std::string answers;
-    for (int i = 0; i < 5; ++i) {
-        answers += "key J\nkey Esc\ndo frmBeste.cmdEnde Click\n";
+    void Take(const std::uint8_t* data, std::size_t size) const
+    {
+        Require(::ftruncate(file_, 0) == 0);
+        Require(::pwrite(file_, data, size, 0) == static_cast<ssize_t>(size));
     }
-    return TheGame()(answers, doing);
-}
+    std::int32_t OpenFileExist(const std::string&) override { return kFileExists; }
+    void DeleteFileA(const std::string&) override { std::abort(); }
+    FileFault WriteTextLines(const std::string&, const std::vector<std::string>&) override
+    {
+        std::abort();
+    }
+    FileFault ReplaceTextLines(const std::string&, const std::vector<std::string>&,
+                               OldFile) override
+    {
+        std::abort();
+    }
+    void sndPlaySoundA(const std::string&) override {}
+    std::int32_t waveOutGetNumDevs() override { return 1; }
+    void ShellExecuteA(const std::string&) override {}
 
-// No level has begun, the window of the best players is not loaded, and both files are the input.
-void NeuBeginnen(std::string_view inhalt)
+protected:
+    int Open(const char*, int, mode_t) override
+    {
+        ::lseek(file_, 0, SEEK_SET);
+        return ::dup(file_);
+    }
+
+private:
+    int file_ = ::memfd_create("input", 0);
+};
+
+// A player who closes every message.
+class Player final : public Binding
 {
-    test::Game& game = TheGame();
-    if (!frmTessel.Loaded() || App.Ended()) {
-        game.Start();
+public:
+    int Messages = 0;
+
+    Twips ScreenWidth() override { return 28800; }
+    Twips ScreenHeight() override { return 16200; }
+    void WindowShown(Window&, ShowMode) override {}
+    void WindowHidden(Window&) override {}
+    void WindowUnloaded(Window&) override {}
+    void RunModal(Window& window) override
+    {
+        ++Messages;
+        window.Visible = false;
     }
-    if (frmBeste.Loaded()) {
-        frmBeste->Unload();
-    }
-    Stand = {};
-    test::WriteFile(game.BestList, inhalt);
-    test::WriteFile(game.Snapshot, inhalt);
-    game.Told();
-}
+    void DragWindow(Window&) override {}
+    void Ended() override {}
+};
 
 // A repeat either counts the level, with a picture for every cell, or tells its failure.
-void StandPruefen()
+void LoadSnapshot(Player& player)
 {
-    const bool gemeldet = !Bejahen(&StandLaden).empty();
-    Verlangen(gemeldet == (Stand.RundenZahl == 0));
-    for (int zelle = 1; zelle <= kZellen && !gemeldet; ++zelle) {
-        const std::int32_t wert = frmTessel->imgFeld(zelle).Tag->Number();
-        Verlangen(wert >= 0 && wert <= kFarben);
+    player.Messages = 0;
+    Stand.RundenZahl = 0;
+    StandLaden();
+    Require(player.Messages == (Stand.RundenZahl == 0 ? 1 : 0));
+    for (int cell = 1; cell <= kZellen && player.Messages == 0; ++cell) {
+        const std::int32_t value = frmTessel->imgFeld(cell).Tag->Number();
+        Require(value >= 0 && value <= kFarben);
     }
-    Bejahen([] {
-        for (const std::int16_t zelle : {std::int16_t{1}, std::int16_t{75}, std::int16_t{140}}) {
-            frmTessel->imgFeld(zelle).MouseMove.Raise(zelle, {});
-            frmTessel->imgFeld(zelle).MouseDown.Raise(zelle, {kLeftButton, 0, 0, 0});
-        }
-    });
 }
 
-// Looking at the list leaves the file alone; an entry leaves one that can be read again.
-void ListePruefen(std::string_view inhalt, std::int32_t punkte)
+// Five places, or what there is of them and a message.
+void LoadList(Player& player)
 {
-    test::Game& game = TheGame();
-    Bejahen([] { frmBeste.Touch(); });
-    Bejahen([] { RaiseMenuClick(frmTessel->mnuInfo(4)); });
-    Verlangen(test::Contents(game.BestList) == inhalt);
-
-    Stand.PunkteGesamt = punkte;
-    Bejahen(&BestePruefen);
-    if (Beste.EintragPlatz >= 0) {
-        const std::string name = frmBeste->lstName.List(Beste.EintragPlatz);
-        Verlangen(name == kNeuerName);
-        Verlangen(Bejahen(&BesteLesen).empty());
-        Verlangen(frmBeste->lstName.List(Beste.EintragPlatz) == name);
-        Verlangen(PunkteDesPlatzes(Beste.EintragPlatz) == punkte);
-    } else {
-        Verlangen(test::Contents(game.BestList) == inhalt);
-    }
+    player.Messages = 0;
+    BesteLesen();
+    const int items = frmBeste->lstName.ListCount() + frmBeste->lstPunkte.ListCount();
+    Require(player.Messages == (items == 2 * kPlaetze ? 0 : 1));
+    Require(Beste.Gelesen == (player.Messages == 0));
 }
 
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
-    constexpr std::int32_t kPunkte[] = {0, 1, 3801, 99999, 2147483647};
-    const std::string inhalt(data, data + size);
-    NeuBeginnen(inhalt);
-    StandPruefen();
-    NeuBeginnen(inhalt);  // the clicks may have ended a level, or the game
-    ListePruefen(inhalt, kPunkte[size % std::size(kPunkte)]);
+    static Input input;
+    static Player player;
+    if (!frmTessel.Loaded()) {
+        App.Begin(player, input);
+        Main();
+        frmBeste.Touch();
+    }
+    input.Take(data, size);
+    const EventScope scope;
+    LoadSnapshot(player);
+    LoadList(player);
     return 0;
 }
