@@ -137,8 +137,12 @@ class Game:
         self.errors = tempfile.TemporaryFile("w+")
         self.process = desktop.start(*(program or [os.path.join(BUILD, "malvone")]),
                                      stderr=self.errors)
-        self.main = until(lambda: self.alive() and desktop.windows(MAIN), "the main window")[0]
-        self.painted(BOARD, self.main)
+        try:
+            self.main = until(lambda: self.alive() and desktop.windows(MAIN), "the main window")[0]
+            self.painted(BOARD, self.main)
+        except Failed as failure:
+            self.__exit__(Failed, failure, None)
+            raise
 
     def __enter__(self):
         return self
