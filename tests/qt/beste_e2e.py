@@ -38,6 +38,8 @@ def play_to_the_end(game):
 
 def main():
     with Desktop() as desktop:
+        # Where the keys are on the keyboard, xdotool need not put them there, which takes time.
+        desktop.run("setxkbmap", "de")
         file = os.path.join(desktop.data, "lindenspiele", "malvone.txt")
         os.makedirs(os.path.dirname(file))
         with open(file, "wb") as old:
