@@ -2,7 +2,6 @@
 #include "ui/qt/AccessibleForm.h"
 
 #include <QMenuBar>
-#include <QtGlobal>
 #include <algorithm>
 #include <utility>
 
@@ -272,10 +271,6 @@ QAccessibleInterface* AccessibleForm::focusChild() const
 void AccessibleForm::Announce(const QString& words)
 {
     Nodes();
-#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
-    QAccessibleAnnouncementEvent event(Form(), words);
-    QAccessible::updateAccessibility(&event);
-#endif
     QAccessibleInterface* const news = QAccessible::accessibleInterface(news_);
     static_cast<AccessibleNews*>(news)->Words = words;
     Tell(news, QAccessible::NameChanged);
