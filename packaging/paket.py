@@ -166,4 +166,4 @@ def main():
 
 
 if __name__ == "__main__":
-    script(main, 1200)
+    script(main, 3600)
