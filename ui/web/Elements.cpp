@@ -168,8 +168,8 @@ void Put(const Spoken& spoken, const std::string& name)
     Properties all;
     all("said", true)("role", caption ? "" : kRoles[static_cast<int>(spoken.Kind)])(
         "name", caption ? "" : name);
-    if (spoken.Kind == SpokenKind::Button) {
-        all("stop", true);
+    if (spoken.Kind == SpokenKind::Button || spoken.Kind == SpokenKind::Cell) {
+        all("stop", spoken.Kind == SpokenKind::Button);
     }
     all.Tell(IdOf(*spoken.Where));
 }

@@ -222,9 +222,12 @@ void WebBinding::Handle(Control& control, const PageEvent& event)
     } else if (event.Kind == "press") {
         Press(dynamic_cast<Visual&>(control));
     } else if (box != nullptr && App.TakesInput(box->Owner())) {
+        box->SetFocus();
+        if (event.Kind == "focus") {
+            return;
+        }
         const std::string kept = KeepTypable(event.Text);
         const auto refused = CharacterCount(event.Text) - CharacterCount(kept);
-        box->SetFocus();
         box->Text = kept;
         box->SelStart =
             static_cast<std::int32_t>(event.Numbers[0]) - static_cast<std::int32_t>(refused);

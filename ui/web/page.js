@@ -238,7 +238,7 @@ const page = {
   notice(text) {
     this.over = true;
     this.release?.();
-    screenBox.replaceChildren();
+    screenBox.hidden = true;
     byId("notice").textContent = text;
     byId("notice").hidden = byId("again").hidden = false;
   },
@@ -257,14 +257,14 @@ const page = {
       byId("notice").hidden = true;
       removeRunDependency("the game");
     });
-    const locks = navigator.locks ?? { request: (name, options, then) => then(true) };
-    locks.request("malvone", { ifAvailable: true }, free => {
+    if (!navigator.locks) return own();
+    navigator.locks.request("malvone", { ifAvailable: true }, free => {
       if (free) return own();
       byId("notice").textContent = "Malvone ist schon in einem anderen Fenster oder Reiter geöffnet. " +
         "Wird es dort beendet, beginnt es hier.";
-      locks.request("malvone", own);
+      navigator.locks.request("malvone", own);
       return null;
-    });
+    }).catch(own);  // a browser that forbids the storage forbids locks too
   },
 };
 
@@ -352,7 +352,7 @@ for (const type of ["input", "compositionend", "focusin"]) {
   screenBox.addEventListener(type, event => {
     const box = event.target;
     if (box.localName !== "input" || box.readOnly || event.isComposing) return;
-    page.push({ kind: "text", target: box.id, text: box.value,
+    page.push({ kind: type === "focusin" ? "focus" : "text", target: box.id, text: box.value,
       numbers: [[...box.value.slice(0, box.selectionStart)].length] });
   });
 }
@@ -370,6 +370,9 @@ addEventListener("keydown", event => {
   }
   // The codes of the layer are the browser's old numbers for keys.
   const code = event.keyCode;
+  // What a key opens, it must not type into.
+  const letter = event.key.length === 1 && !event.ctrlKey && !event.altKey && !event.metaKey;
+  if (letter && here.localName !== "input") event.preventDefault();
   const name = (event.ctrlKey ? "Control+" : event.altKey ? "Alt+" : "") +
     (code >= 65 && code <= 90 ? String.fromCharCode(code) : event.key);
   if (screenBox.querySelector(`[aria-keyshortcuts="${CSS.escape(name)}"]`)) event.preventDefault();
@@ -380,6 +383,7 @@ addEventListener("resize", () => {
   page.push({ kind: "resize" });
 });
 addEventListener("beforeunload", event => { if (page.gameRuns && !page.over) event.preventDefault(); });
+addEventListener("unhandledrejection", () => page.fail());
 byId("again").onclick = () => location.reload();
 
 const build = document.currentScript.src.replace(/^[^?]*/, "");
@@ -395,5 +399,5 @@ addEventListener("load", () => {
     const picture = /data-picture="?([^"\]]+)/.exec(rule.selectorText);
     if (picture) make("i", "", byId("stock")).dataset.picture = picture[1];
   }
-  navigator.serviceWorker?.register("worker.js");
+  navigator.serviceWorker?.register("worker.js").catch(() => {});
 });

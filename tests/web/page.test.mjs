@@ -1,0 +1,279 @@
+// page.test.mjs: the real page in a real browser. Whatever the browser writes to its console fails
+// the test that it comes in.
+import assert from "node:assert/strict";
+import { spawn } from "node:child_process";
+import { mkdirSync, mkdtempSync, rmSync, writeFileSync } from "node:fs";
+import { tmpdir } from "node:os";
+import { join } from "node:path";
+import { after, test } from "node:test";
+import puppeteer from "puppeteer-core";
+
+const root = new URL("../..", import.meta.url).pathname;
+const shots = join(root, "build/web-screens");
+const limit = { timeout: 60_000 };
+const desktop = { width: 1280, height: 720, deviceScaleFactor: 1 };
+const phone = { width: 667, height: 375, deviceScaleFactor: 2, hasTouch: true, isMobile: true, isLandscape: true };
+const list = "C:\\lindenspiele\\malvone.txt";
+
+const ending = [];
+const end = async () => {
+  for (const step of ending.splice(0).reverse()) await step();
+};
+after(end);
+for (const signal of ["SIGTERM", "SIGINT"]) process.on(signal, () => end().finally(() => process.exit(1)));
+
+const serve = async () => {
+  const server = spawn(join(root, "tools/ausliefern.py"), [join(root, "build/web"), "0"], { stdio: ["ignore", "pipe", "inherit"] });
+  ending.push(() => server.kill());
+  const line = await new Promise(resolve => server.stdout.once("data", resolve));
+  return { address: /http\S+/.exec(line)[0], stop: () => server.kill() };
+};
+const launch = async (preferences = {}) => {
+  const profile = mkdtempSync(join(tmpdir(), "malvone-"));
+  mkdirSync(join(profile, "Default"));
+  writeFileSync(join(profile, "Default/Preferences"), JSON.stringify(preferences));
+  const browser = await puppeteer.launch({
+    executablePath: "/usr/bin/chromium", userDataDir: profile, args: ["--no-sandbox", "--autoplay-policy=user-gesture-required"],
+  });
+  ending.push(async () => {
+    await browser.close();
+    rmSync(profile, { recursive: true, force: true, maxRetries: 5 });
+  });
+  return browser;
+};
+const server = await serve();
+const shared = await launch();
+
+// A page of its own; `prepare` runs before the game starts.
+const open = async (t, { browser, size = desktop, entries = {}, prepare, started = true } = {}) => {
+  const context = browser ? browser.defaultBrowserContext() : await shared.createBrowserContext();
+  const page = await context.newPage();
+  const told = [];
+  page.on("console", message => told.push(message.text()));
+  page.on("pageerror", fault => told.push(String(fault)));
+  page.on("dialog", dialog => dialog.accept());
+  await page.setViewport(size);
+  await page.evaluateOnNewDocument(given => {
+    for (const [name, text] of Object.entries(given)) localStorage[name] ??= text;
+  }, entries);
+  await prepare?.(page);
+  await page.goto(server.address);
+  const game = { page, context, told, ...actions(page) };
+  if (started) await game.sees("frmTessel");
+  t.after(async () => {
+    if (!browser) await context.close();
+    assert.deepEqual(told, []);
+  });
+  return game;
+};
+
+const element = id => `[id="${id}"]`;
+const actions = page => {
+  const at = async id => {
+    const box = await (await page.waitForSelector(element(id), { visible: true, ...limit })).boundingBox();
+    return [box.x + box.width / 2, box.y + box.height / 2];
+  };
+  const game = {
+    sees: id => page.waitForSelector(element(id), { visible: true, ...limit }),
+    gone: id => page.waitForFunction(name => !document.getElementById(name), limit, id),
+    reads: (id, words) => page.waitForFunction((name, text) => document.getElementById(name)?.textContent.includes(text), limit, id, words),
+    name: id => page.$eval(element(id), e => e.ariaLabel),
+    click: async id => page.mouse.click(...await at(id)),
+    point: async id => page.mouse.move(...await at(id)),
+    tap: async id => page.touchscreen.tap(...await at(id)),
+    press: async keys => {
+      const all = keys.split("+");
+      for (const key of all) await page.keyboard.down(key);
+      for (const key of all.reverse()) await page.keyboard.up(key);
+    },
+    board: () => page.$$eval('[id^="frmTessel.imgFeld("]', cells => cells.slice(0, 140).map(c => c.ariaLabel.split(", ")[2])),
+    entry: name => page.evaluate(key => localStorage[key], name),
+    // A stone with a neighbour of its colour below or to the right, or nothing.
+    group: async () => {
+      const cells = await game.board();
+      const stone = cells.findIndex((colour, i) => colour !== "leer" &&
+        ((i % 10 < 9 && cells[i + 1] === colour) || cells[i + 10] === colour));
+      return stone < 0 ? null : `frmTessel.imgFeld(${stone + 1})`;
+    },
+    // Until the message at its end.
+    playLevel: async () => {
+      const cell = await (await game.sees("frmTessel.imgFeld(1)")).boundingBox();
+      for (let stone = await game.group(); stone; stone = await game.group()) {
+        const place = Number(/\d+/.exec(stone)) - 1;
+        await page.mouse.click(cell.x + (Math.floor(place / 10) + 0.5) * cell.width, cell.y + (place % 10 + 0.5) * cell.height);
+        if (await page.$(element("frmMsgOk"))) return;
+      }
+    },
+  };
+  return game;
+};
+
+test("a level is played by pointer", async t => {
+  const game = await open(t);
+  await game.click("frmTessel.lblNeu");
+  await game.reads("frmTessel.lblSumme", "");
+  const stone = await game.group();
+  await game.point(stone);
+  await game.reads("frmTessel.lblSumme", "Dieser Spielzug ergibt");
+  const worth = Number(/\d+/.exec(await game.page.$eval(element("frmTessel.lblSumme"), e => e.textContent)));
+  await game.click(stone);
+  assert.equal(await game.name("frmTessel.Image3"), `Punkte: ${worth}`);
+  await game.playLevel();
+  await game.click("frmMsgOk.lblOk");
+  await game.gone("frmMsgOk");
+});
+
+test("messages are answered by pointer, key and touch, and move", async t => {
+  const game = await open(t, { size: { ...desktop, hasTouch: true } });
+  const ask = () => game.click("frmTessel.lblEnde");
+  await ask();
+  const before = await (await game.sees("frmMsgJa")).boundingBox();
+  await game.point("frmMsgJa.lblName");
+  await game.page.mouse.down();
+  await game.page.mouse.move(before.x + 150, before.y + 90, { steps: 4 });
+  await game.page.mouse.move(before.x + 250, before.y + 120, { steps: 4 });
+  await game.page.mouse.up();
+  assert.ok((await (await game.sees("frmMsgJa")).boundingBox()).x > before.x + 40);
+  await game.press("Escape");
+  await game.gone("frmMsgJa");
+  await ask();
+  await game.tap("frmMsgJa.lblNein");
+  await game.gone("frmMsgJa");
+  await ask();
+  await game.click("frmMsgJa.lblJa");
+  await game.reads("notice", "Das Spiel ist beendet.");
+  await game.click("again");
+  await game.sees("frmTessel");
+});
+
+test("a finger points first and takes then", async t => {
+  const game = await open(t, { size: phone });
+  const all = await (await game.sees("frmTessel")).boundingBox();
+  assert.ok(all.x >= 0 && all.y >= 0 && all.x + all.width <= phone.width && all.y + all.height <= phone.height);
+  await game.tap("frmTessel.lblNeu");
+  await game.page.waitForFunction(() => document.getElementById("frmTessel.Image4").ariaLabel === "Level: 1", limit);
+  const stone = await game.group();
+  await game.tap(stone);
+  await game.reads("frmTessel.lblSumme", "ergibt");
+  assert.equal(await game.name("frmTessel.Image3"), "Punkte: 0");
+  await game.tap(stone);
+  await game.page.waitForFunction(() => document.getElementById("frmTessel.Image3").ariaLabel !== "Punkte: 0", limit);
+});
+
+test("an entry is typed, kept as the file's bytes and found again by keyboard alone", async t => {
+  const low = "Niemand\r\n".repeat(5) + "5\r\n4\r\n3\r\n2\r\n1\r\n";
+  const game = await open(t, { entries: { "C:\\lindenspiele\\": "", [list]: low } });
+  await game.press("Alt+KeyS");
+  await game.press("Enter");
+  for (let level = 2; level <= 5; ++level) await game.press("Enter");
+  await game.playLevel();
+  assert.equal(await game.name("frmTessel.Image4"), "Level: 5");
+  await game.sees("frmMsgOk");
+  await game.press("Escape");
+  await game.reads("frmMsgJa", "eine neue Bestmarke");
+  await game.press("KeyJ");
+  await game.sees("frmBeste");
+  await game.page.keyboard.type("Jörg 中Müßig, €");
+  await game.page.waitForFunction(id => document.getElementById(id).value === "Jörg Müßig, €", limit, "frmBeste.txtSpieler(0)");
+  await game.press("Tab");
+  while (await game.page.evaluate(() => document.activeElement.id !== "frmBeste.cmdEnde")) await game.press("Tab");
+  await game.press("Enter");
+  await game.reads("frmMsgJa", "");
+  assert.match(await game.entry(list), /^J\xf6rg M\xfc\xdfig, \x80\r\nNiemand\r\n/);
+  await game.page.reload();
+  await game.sees("frmTessel");
+  await game.press("Alt+KeyI");
+  await game.press("ArrowUp");
+  await game.press("Enter");
+  await game.sees("frmBeste");
+  assert.equal(await game.page.$eval(element("frmBeste.txtSpieler(0)"), e => e.value), "Jörg Müßig, €");
+});
+
+test("arrow keys play, and a screen reader hears what is seen", async t => {
+  const game = await open(t);
+  await game.click("frmTessel.lblNeu");
+  const stone = Number(/\d+/.exec(await game.group())) - 1;
+  for (let i = 0; i < 1 + Math.floor(stone / 10); ++i) await game.press("ArrowRight");
+  for (let i = 9; i > stone % 10; --i) await game.press("ArrowUp");
+  assert.equal(await game.page.evaluate(() => document.activeElement.id), `frmTessel.imgFeld(${stone + 1})`);
+  await game.press("Delete");
+  await game.reads("news", "Steine entfernt");
+  await game.press("Control+KeyE");
+  await game.sees("frmMsgJa");
+  const tree = JSON.stringify(await game.page.accessibility.snapshot());
+  assert.match(tree, /"alertdialog".*"name":"Malvone Vers.: .*"description":"[^"]*beenden/);
+  assert.match(tree, /"button"[^}]*"name":"Ja"/);
+  assert.doesNotMatch(tree, /Spalte/);
+  await game.press("KeyN");
+  await game.gone("frmMsgJa");
+  const board = JSON.stringify(await game.page.accessibility.snapshot());
+  for (const part of ["menubar", '"name":"Punkte: ', '"name":"Neues Spiel"', '"name":"Spalte 14, Reihe 10, ']) assert.ok(board.includes(part), part);
+});
+
+test("a storage that is full or forbidden gives the game's own messages", async t => {
+  const full = await open(t, { entries: { "C:\\lindenspiele\\": "", [list]: "" } });
+  await full.page.evaluate(() => {
+    for (let size = 1 << 22; size >= 1; size >>= 1) {
+      try {
+        for (let i = 0; ; ++i) localStorage[`x${size}.${i}`] = "x".repeat(size);
+      } catch { /* full for this size */ }
+    }
+  });
+  await full.click("frmTessel.lblNeu");
+  await full.reads("frmMsgOk", "»tessel.ini«");
+  const guarded = await launch({ profile: { default_content_setting_values: { cookies: 2 } } });
+  const forbidden = await open(t, { browser: guarded, started: false });
+  await forbidden.reads("frmMsgOk", "Festplatte");
+  await forbidden.press("Escape");
+  await forbidden.click("frmTessel.lblNeu");
+  await forbidden.page.waitForFunction(() => document.getElementById("frmTessel.Image4").ariaLabel === "Level: 1", limit);
+});
+
+test("one page of a browser has the game", async t => {
+  const first = await open(t);
+  const second = await first.context.newPage();
+  await second.goto(server.address);
+  const other = actions(second);
+  await other.reads("notice", "schon in einem anderen");
+  await first.page.close();
+  await other.sees("frmTessel");
+});
+
+test("bad luck is told in a sentence", async t => {
+  const game = await open(t, {
+    started: false,
+    prepare: async page => {
+      await page.setRequestInterception(true);
+      page.on("request", request => (request.url().includes(".wasm") ? request.abort() : request.continue()));
+    },
+  });
+  await game.reads("notice", "Eine seiner Dateien fehlt");
+  game.told.length = 0;  // the browser tells of the missing file, as it should
+  const silent = await open(t, { started: false, prepare: page => page.setJavaScriptEnabled(false) });
+  await silent.page.waitForFunction(() => document.body.innerText.includes("braucht JavaScript"), limit);
+});
+
+test("the page is drawn sharply at every ratio", async t => {
+  mkdirSync(shots, { recursive: true });
+  const sizes = [desktop, { ...desktop, deviceScaleFactor: 2 }, { ...desktop, deviceScaleFactor: 3 }, phone, { width: 1920, height: 1080, deviceScaleFactor: 1 }];
+  for (const size of sizes) {
+    const game = await open(t, { size });
+    await game.click("frmTessel.lblNeu");
+    await game.point("frmTessel.imgFeld(55)");
+    await game.reads("frmTessel.lblSumme", "");
+    const cell = await (await game.sees("frmTessel.imgFeld(1)")).boundingBox();
+    assert.equal((cell.width * size.deviceScaleFactor) % 1, 0);
+    await game.page.screenshot({ path: join(shots, `${size.width}x${size.height}@${size.deviceScaleFactor}.png`) });
+  }
+});
+
+test("after one visit the game needs no network", async t => {
+  const own = await serve();
+  const page = await (await shared.createBrowserContext()).newPage();
+  await page.goto(own.address);
+  await page.evaluate(() => navigator.serviceWorker.ready);
+  await page.waitForFunction(() => caches.keys().then(names => names.length === 1), limit);
+  own.stop();
+  await page.reload();
+  await actions(page).sees("frmTessel");
+});
