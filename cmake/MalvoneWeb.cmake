@@ -26,3 +26,15 @@ malvone_target(drehbuch)
 target_link_libraries(drehbuch PRIVATE malvone_drehbuch malvone_core)
 target_link_options(drehbuch PRIVATE -sENVIRONMENT=node -sNODERAWFS -sEXIT_RUNTIME
     "SHELL:--pre-js ${PROJECT_SOURCE_DIR}/tests/web/node.js")
+
+# The same scripts as everywhere, and the page in a real browser.
+find_program(MALVONE_NODE NAMES node nodejs REQUIRED)
+malvone_glob(scripts tests/games/*.drehbuch)
+foreach(script IN LISTS scripts)
+    cmake_path(GET script STEM name)
+    add_test(NAME node.${name} COMMAND "${Python3_EXECUTABLE}" "${PROJECT_SOURCE_DIR}/tests/games/spielen.py"
+        "$<TARGET_FILE:drehbuch>" "${script}")
+    set_tests_properties(node.${name} PROPERTIES TIMEOUT 120)
+endforeach()
+add_test(NAME page COMMAND "${MALVONE_NODE}" --test "${PROJECT_SOURCE_DIR}/tests/web/page.test.mjs")
+set_tests_properties(page PROPERTIES TIMEOUT 600 RUN_SERIAL ON)

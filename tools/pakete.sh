@@ -13,7 +13,7 @@ pakete_pruefung=(
     clang clang-format clang-tidy "libclang-rt-dev|libclang-rt-14-dev"
     libgtest-dev libbenchmark-dev
     xvfb xauth openbox xdotool x11-utils imagemagick
-    pulseaudio pulseaudio-utils
+    pulseaudio pulseaudio-utils chromium
     at-spi2-core dbus python3-pyatspi
     python3-fonttools poppler-utils
     desktop-file-utils appstream man-db mandoc debhelper lintian
