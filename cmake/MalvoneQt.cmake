@@ -44,6 +44,18 @@ qt_add_resources(picture_sources "${PROJECT_BINARY_DIR}/generated/bilder.qrc"
 add_library(malvone_bilder OBJECT ${picture_sources})
 target_link_libraries(malvone_bilder PRIVATE Qt6::Core)
 
+# What the first frame shows at scale 1 is rendered by a program of the build.
+add_executable(vorab assets/pictures/vorab.cpp ui/qt/Look.cpp ui/qt/PictureFiles.cpp)
+malvone_target(vorab)
+target_compile_definitions(vorab PRIVATE QT_NO_CAST_FROM_ASCII)
+target_link_libraries(vorab PRIVATE malvone_core malvone_bilder Qt6::Svg)
+set(ready_pictures "${PROJECT_BINARY_DIR}/generated/ReadyPictures.cpp")
+add_custom_command(OUTPUT "${ready_pictures}"
+    COMMAND "${CMAKE_COMMAND}" -E env ASAN_OPTIONS=detect_leaks=0 $<TARGET_FILE:vorab>
+            "${ready_pictures}"
+    DEPENDS vorab COMMENT "Rendering the pictures of the first frame" VERBATIM)
+target_sources(malvone_qt PRIVATE "${ready_pictures}")
+
 # Links a program with the Qt binding and its pictures.
 function(malvone_qt_program NAME)
     malvone_target(${NAME})

@@ -307,6 +307,17 @@ TEST_F(Fenster, YesEndsTheProgramFromInsideItsLoops)
     EXPECT_TRUE(App.Ended());
 }
 
+TEST_F(Fenster, TheFirstFrameRendersNothing)
+{
+    const QSize client(ToWholePixels(frmTessel->ClientWidth),
+                       ToWholePixels(frmTessel->ClientHeight));
+    QImage frame(client, QImage::Format_RGB32);
+    QPainter painter(&frame);
+    PaintWindow(painter, *frmTessel, pictures_, QRect(QPoint(), client), client);
+    pictures_.Coarse(frmHintergrund->Image1.Picture);
+    EXPECT_EQ(pictures_.Rendered(), 0);
+}
+
 TEST_F(Fenster, TheBackdropCoversTheScreenAndGivesTheFrontBack)
 {
     BackdropWindow& backdrop = Backdrop();

@@ -1,4 +1,4 @@
-// Look.cpp: renders pictures. It may run beside the main thread.
+// Look.cpp: renders pictures.
 #include "ui/qt/Look.h"
 
 #include <QPainter>
@@ -49,6 +49,20 @@ QImage Rendered(const Look& look)
         image.reinterpretAsFormat(QImage::Format_RGB32);
     }
     return image;
+}
+
+QImage WithoutGround(const QImage& image, QRgb under)
+{
+    int used = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        const auto* const line = reinterpret_cast<const QRgb*>(image.constScanLine(y));
+        int last = image.width();
+        while (last > used && line[last - 1] == under) {
+            --last;
+        }
+        used = last;
+    }
+    return image.copy(0, 0, used, image.height());
 }
 
 }  // namespace malvone::qt

@@ -22,4 +22,8 @@ Look CoarseLook(const Picture& picture);
 
 QImage Rendered(const Look& look);
 
+// A rendered ground without the columns at its right end that look like the plain colour under it:
+// most of a large picture is just that.
+QImage WithoutGround(const QImage& image, QRgb under);
+
 }  // namespace malvone::qt

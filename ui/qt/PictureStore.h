@@ -1,9 +1,10 @@
-// PictureStore.h: pictures in the pixels of the screen, each rendered once for each size it is
-// shown in, on its first use.
+// PictureStore.h: pictures in the pixels of the screen, each made once for each size it is shown
+// in, on its first use.
 #pragma once
 
 #include <QImage>
 #include <QSize>
+#include <functional>
 #include <map>
 
 #include "ui/layer/Picture.h"
@@ -11,14 +12,9 @@
 
 namespace malvone::qt {
 
-class FirstPictures;
-
 class PictureStore
 {
 public:
-    // What has been rendered early is taken from there; it has to outlive the store.
-    explicit PictureStore(FirstPictures* first = nullptr) : first_(first) {}
-
     // The picture in a size given in pixels of the screen; cut off at the lower right where only
     // a part can be seen. The reference holds until the next call.
     const QImage& Get(const Picture& picture, QSize size, QSize seen);
@@ -29,13 +25,19 @@ public:
 
     // A picture rendered coarsely, to be stretched, and not kept: for a cloudy ground as large as
     // the screen, which is painted once and would take a quarter of the start if it were fine.
-    QImage Coarse(const Picture& picture) const;
+    QImage Coarse(const Picture& picture);
+
+    // How many pictures were not ready and had to be rendered.
+    int Rendered() const { return rendered_; }
 
 private:
-    FirstPictures* first_;
-    std::map<Look, QImage> images_;
+    using Render = std::function<QImage(const Look&)>;
 
-    QImage Render(const Look& look) const;
+    std::map<Look, QImage> images_;
+    int rendered_ = 0;
+
+    QImage Made(const Look& look, const Render& render);
+    const QImage& Kept(const Look& look, const Render& render);
 };
 
 }  // namespace malvone::qt

@@ -15,7 +15,7 @@
 
 namespace malvone::qt {
 
-QtBinding::QtBinding(FirstPictures* first) : pictures_(first)
+QtBinding::QtBinding()
 {
     QApplication::setQuitOnLastWindowClosed(false);
     InstallAccessibility();

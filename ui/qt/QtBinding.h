@@ -20,7 +20,7 @@ class FormWidget;
 class QtBinding final : public Binding
 {
 public:
-    explicit QtBinding(FirstPictures* first = nullptr);
+    QtBinding();
     ~QtBinding() override;
 
     Twips ScreenWidth() override;

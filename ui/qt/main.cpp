@@ -9,7 +9,6 @@
 
 #include "ui/layer/App.h"
 #include "ui/qt/Display.h"
-#include "ui/qt/FirstPictures.h"
 #include "ui/qt/QtBinding.h"
 #include "ui/qt/QtPlatform.h"
 #include "ui/sound/Sound.h"
@@ -34,10 +33,10 @@ void StartQt(std::optional<QApplication>& application, int& argc, char** argv)
     }
 }
 
-int Play(Sound& sound, FirstPictures& first)
+int Play(Sound& sound)
 {
     QtPlatform platform(DefaultDataRoot(), ProgramFolder(), sound);
-    QtBinding binding(&first);
+    QtBinding binding;
     App.Begin(binding, platform);
     {
         const EventScope scope;
@@ -61,8 +60,7 @@ int Run(int argc, char** argv)
     sound.Prepare();  // beside Qt's own start
     std::optional<QApplication> application;
     StartQt(application, argc, argv);
-    FirstPictures first;  // beside the start of the game
-    const int status = Play(sound, first);
+    const int status = Play(sound);
     sound.Finish();
     return status;
 }
