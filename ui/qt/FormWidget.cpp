@@ -140,7 +140,7 @@ void FormWidget::Present(QWindow* below)
         if (!window_->ShowInTaskbar) {
             KeepOffTaskBar(winId());
         }
-        show();
+        ShowMenuLast();
         placement_.FromScreen();
     }
     ToFront();
@@ -153,6 +153,20 @@ void FormWidget::ToFront()
     }
     raise();
     activateWindow();
+}
+
+// The first widget that is shown makes Qt look for a screen reader on the session bus. A menu is
+// shown before the window that holds it: shown after it, the bus is asked while the window manager
+// is at work on the window.
+void FormWidget::ShowMenuLast()
+{
+    if (menu_ != nullptr) {
+        menu_->hide();
+    }
+    show();
+    if (menu_ != nullptr) {
+        menu_->show();
+    }
 }
 
 void FormWidget::FollowScreens()

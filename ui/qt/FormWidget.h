@@ -90,6 +90,7 @@ private:
     int MenuHeight() const;
     void Rescale();
     void ShowIcon();
+    void ShowMenuLast();
     bool RouteKey(const QKeyEvent& event);
     Mouse ToMouse(const QMouseEvent& event, std::int16_t button) const;
     void UpdateCursor(QPointF position);

@@ -1,10 +1,12 @@
 // MenuBar.cpp: builds the menu and keeps it in step with the model.
 #include "ui/qt/MenuBar.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QKeyEvent>
 #include <QKeySequence>
 #include <QMenu>
+#include <QProxyStyle>
+#include <QToolButton>
 #include <QTranslator>
 #include <algorithm>
 
@@ -42,11 +44,34 @@ void ShowShortcut(QAction& action, Key key)
     action.setShortcutContext(Qt::WidgetShortcut);
 }
 
+// The desktop's own style but for that icon.
+class WithoutIcon final : public QProxyStyle
+{
+public:
+    using QProxyStyle::QProxyStyle;
+
+    QIcon standardIcon(StandardPixmap icon, const QStyleOption* option,
+                       const QWidget* widget) const override
+    {
+        return icon == SP_ToolBarHorizontalExtensionButton
+                   ? QIcon()
+                   : QProxyStyle::standardIcon(icon, option, widget);
+    }
+};
+
 }  // namespace
+
+void UseMenusWithoutIcons()
+{
+    QApplication::setStyle(new WithoutIcon(QApplication::style()));
+}
 
 MenuBar::MenuBar(const Window& window, QWidget* parent) : QMenuBar(parent), window_(&window)
 {
     QCoreApplication::installTranslator(new KeyNames(this));
+    if (auto* const button = findChild<QToolButton*>(QStringLiteral("qt_menubar_ext_button"))) {
+        button->setArrowType(Qt::RightArrow);
+    }
     const std::vector<MenuEntry*> entries = window.MenuEntries();
     for (MenuEntry* const entry : entries) {
         Add(*entry, std::any_of(entries.begin(), entries.end(), [entry](const MenuEntry* other) {

@@ -9,6 +9,7 @@
 
 #include "ui/layer/App.h"
 #include "ui/qt/Display.h"
+#include "ui/qt/MenuBar.h"
 #include "ui/qt/QtBinding.h"
 #include "ui/qt/QtPlatform.h"
 #include "ui/sound/Sound.h"
@@ -31,6 +32,7 @@ void StartQt(std::optional<QApplication>& application, int& argc, char** argv)
         RaiseScale(1 / ratio);
         application.emplace(argc, argv);
     }
+    UseMenusWithoutIcons();
 }
 
 int Play(Sound& sound)
