@@ -12,7 +12,7 @@ pakete_spiel=(
 pakete_pruefung=(
     clang clang-format clang-tidy "libclang-rt-dev|libclang-rt-14-dev"
     libgtest-dev libbenchmark-dev
-    xvfb xauth openbox xdotool x11-utils imagemagick
+    xvfb xauth openbox fluxbox i3-wm xdotool x11-utils imagemagick
     pulseaudio pulseaudio-utils chromium
     at-spi2-core dbus python3-pyatspi
     python3-fonttools poppler-utils

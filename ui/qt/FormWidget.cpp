@@ -352,10 +352,12 @@ void FormWidget::mouseDoubleClickEvent(QMouseEvent* event)
 void FormWidget::mouseMoveEvent(QMouseEvent* event)
 {
     dragging_ = dragging_ && event->buttons().testFlag(Qt::LeftButton);
+    if (!dragging_ && window_ != nullptr) {
+        PointerMoved(*window_, ToMouse(*event, ToButtons(event->buttons())));
+    }
+    // A quick hand makes one movement only: the one that begins the drag counts.
     if (dragging_) {
         move(frameAtPress_ + event->globalPosition().toPoint() - pressedAt_);
-    } else if (window_ != nullptr) {
-        PointerMoved(*window_, ToMouse(*event, ToButtons(event->buttons())));
     }
     UpdateCursor(event->position());
 }
