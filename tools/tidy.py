@@ -58,7 +58,7 @@ def main():
     clean.mkdir(exist_ok=True)
 
     version = subprocess.run(["clang-tidy", "--version"], capture_output=True, check=True).stdout
-    rules = b"".join((ROOT / folder / ".clang-tidy").read_bytes() for folder in (".", "tests"))
+    rules = b"".join((ROOT / folder / ".clang-tidy").read_bytes() for folder in (".", "tests", "ui/qt"))
     basis = version + rules + repr(TIDY).encode()
     headers = headers_of(build)
     due, total = [], 0
