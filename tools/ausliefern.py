@@ -37,8 +37,9 @@ def main():
     print(f"The game is at {address}    Ctrl+C ends it.", flush=True)
     desktop = os.environ.get("DISPLAY") or os.environ.get("WAYLAND_DISPLAY")
     if port and desktop and shutil.which("xdg-open"):
-        subprocess.Popen(["xdg-open", address], stdin=subprocess.DEVNULL,
-                         stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        # What it opens may be the player's only browser: Ctrl+C must not reach that.
+        subprocess.Popen(["xdg-open", address], stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL,
+                         stderr=subprocess.DEVNULL, start_new_session=True)
     try:
         server.serve_forever()
     except KeyboardInterrupt:

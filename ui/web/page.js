@@ -273,7 +273,9 @@ const page = {
 const menu = {
   go(entry) {
     for (const list of screenBox.querySelectorAll("[role=menu]")) {
-      list.hidden = !list.contains(entry) && list.previousSibling !== entry;
+      const owner = list.previousSibling;
+      list.hidden = !list.contains(entry) && owner !== entry;
+      if (list.parentElement === this.bar()) list.style.left = owner.offsetLeft + "px";
     }
     entry?.focus({ preventScroll: true });
   },
