@@ -2,7 +2,7 @@
 // the test that it comes in.
 import assert from "node:assert/strict";
 import { spawn } from "node:child_process";
-import { mkdirSync, mkdtempSync, rmSync, writeFileSync } from "node:fs";
+import { cpSync, mkdirSync, mkdtempSync, readFileSync, rmSync, utimesSync, writeFileSync } from "node:fs";
 import { tmpdir } from "node:os";
 import { join } from "node:path";
 import { after, test } from "node:test";
@@ -22,8 +22,9 @@ const end = async () => {
 after(end);
 for (const signal of ["SIGTERM", "SIGINT"]) process.on(signal, () => end().finally(() => process.exit(1)));
 
-const serve = async () => {
-  const server = spawn(join(root, "tools/ausliefern.py"), [join(root, "build/web"), "0"], { stdio: ["ignore", "pipe", "inherit"] });
+const built = join(root, "build/web");
+const serve = async (folder = built) => {
+  const server = spawn(join(root, "tools/ausliefern.py"), [folder, "0"], { stdio: ["ignore", "pipe", "inherit"] });
   ending.push(() => server.kill());
   const line = await new Promise(resolve => server.stdout.once("data", resolve));
   return { address: /http\S+/.exec(line)[0], stop: () => server.kill() };
@@ -210,7 +211,7 @@ test("arrow keys play, and a screen reader hears what is seen", async t => {
   for (const part of ["menubar", '"name":"Punkte: ', '"name":"Neues Spiel"', '"name":"Spalte 14, Reihe 10, ']) assert.ok(board.includes(part), part);
 });
 
-test("a storage that is full or forbidden gives the game's own messages", async t => {
+test("a storage that is full, cleared or forbidden gives the game's own messages", async t => {
   const full = await open(t, { entries: { "C:\\lindenspiele\\": "", [list]: "" } });
   await full.page.evaluate(() => {
     for (let size = 1 << 22; size >= 1; size >>= 1) {
@@ -221,6 +222,10 @@ test("a storage that is full or forbidden gives the game's own messages", async 
   });
   await full.click("frmTessel.lblNeu");
   await full.reads("frmMsgOk", "»tessel.ini«");
+  await full.press("Escape");
+  await full.page.evaluate(() => localStorage.clear());
+  for (const key of ["Alt+KeyI", "ArrowUp", "Enter"]) await full.press(key);
+  await full.reads("frmMsgOk", "konnten nicht gelesen werden");
   const guarded = await launch({ profile: { default_content_setting_values: { cookies: 2 } } });
   const forbidden = await open(t, { browser: guarded, started: false });
   await forbidden.reads("frmMsgOk", "Festplatte");
@@ -276,4 +281,55 @@ test("after one visit the game needs no network", async t => {
   own.stop();
   await page.reload();
   await actions(page).sees("frmTessel");
+});
+
+test("a new version plays from the next start on", async t => {
+  const folder = mkdtempSync(join(tmpdir(), "malvone-"));
+  ending.push(() => rmSync(folder, { recursive: true, force: true }));
+  cpSync(built, folder, { recursive: true });
+  // A browser keeps an old file for long where the server does not say how long.
+  utimesSync(join(folder, "index.html"), 1, 1);
+  const page = await (await shared.createBrowserContext()).newPage();
+  const only = name => page.waitForFunction(kept => caches.keys().then(names => names.join() === kept), limit, name);
+  await page.goto((await serve(folder)).address);
+  const [, mark] = /const build = "malvone-(\w+)"/.exec(readFileSync(join(folder, "worker.js"), "utf8"));
+  await only(`malvone-${mark}`);
+  for (const name of ["index.html", "worker.js"]) {
+    const text = readFileSync(join(folder, name), "utf8");
+    writeFileSync(join(folder, name), text.replaceAll(mark, "next").replace("<body", '<body class="next"'));
+  }
+  await page.reload();
+  await only("malvone-next");
+  await page.reload();
+  await actions(page).sees("frmTessel");
+  assert.equal(await page.evaluate(() => document.body.className), "next");
+  assert.ok(await page.evaluate(() => document.querySelector("script").src.endsWith("?next")));
+});
+
+test("a new sound cuts the old one, and a manual opens beside the game", async t => {
+  const game = await open(t, {
+    prepare: page => page.evaluateOnNewDocument(() => {
+      const players = new Set();
+      const { play } = HTMLMediaElement.prototype;
+      globalThis.heard = [];
+      globalThis.loud = () => [...players].filter(player => !player.paused).length;
+      HTMLMediaElement.prototype.play = async function () {
+        players.add(this);
+        await play.call(this);
+        heard.push(`${this.src.split("/").at(-1)} ${loud()}`);
+      };
+    }),
+  });
+  // The test's own questions already count as a gesture, so what plays at the start is left out.
+  const hears = sound => game.page.waitForFunction(text => heard.at(-1) === text, limit, sound);
+  await game.click("frmTessel.lblEnde");
+  await hears("CHIMES.WAV 1");
+  await game.press("Escape");
+  await game.click("frmTessel.lblNeu");
+  await game.click(await game.group());
+  await hears("WHOOSH.WAV 1");
+  const opened = game.context.waitForTarget(target => target.url().endsWith("/Malvone.pdf"), limit);
+  await game.click("frmTessel.lblHilfe");
+  await opened;
+  await game.sees("frmTessel");
 });
