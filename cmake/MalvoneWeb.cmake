@@ -8,12 +8,13 @@ target_link_libraries(malvone PRIVATE malvone_core)
 target_link_options(malvone PRIVATE -sENVIRONMENT=web -sASYNCIFY
     -sASYNCIFY_STACK_SIZE=65536 -sFILESYSTEM=0 -sDYNAMIC_EXECUTION=0)
 
+find_program(MALVONE_NODE NAMES node nodejs REQUIRED)
 set(web_folder "${PROJECT_SOURCE_DIR}/build/web")
-malvone_glob(web_parts ui/web/*.in ui/web/*.css ui/web/*.js ui/web/*.webmanifest assets/pictures/*.svg)
+malvone_glob(web_parts ui/web/*.in ui/web/*.css ui/web/*.js ui/web/*.mjs ui/web/*.webmanifest assets/pictures/*.svg)
 set(web_assembler "${PROJECT_SOURCE_DIR}/cmake/WebPage.cmake")
 add_custom_command(OUTPUT "${PROJECT_BINARY_DIR}/web.stamp"
     COMMAND "${CMAKE_COMMAND}" "-DSOURCE=${PROJECT_SOURCE_DIR}" "-DBINARY=${PROJECT_BINARY_DIR}"
-            "-DOUT=${web_folder}" -P "${web_assembler}"
+            "-DOUT=${web_folder}" "-DNODE=${MALVONE_NODE}" -P "${web_assembler}"
     COMMAND "${CMAKE_COMMAND}" -E touch "${PROJECT_BINARY_DIR}/web.stamp"
     DEPENDS malvone klaenge handbuecher ${web_parts} "${web_assembler}"
             "${PROJECT_SOURCE_DIR}/packaging/malvone.svg" VERBATIM)
@@ -28,7 +29,6 @@ target_link_options(drehbuch PRIVATE -sENVIRONMENT=node -sNODERAWFS -sEXIT_RUNTI
     "SHELL:--pre-js ${PROJECT_SOURCE_DIR}/tests/web/node.js")
 
 # The same scripts as everywhere, and the page in a real browser.
-find_program(MALVONE_NODE NAMES node nodejs REQUIRED)
 malvone_glob(scripts tests/games/*.drehbuch)
 foreach(script IN LISTS scripts)
     cmake_path(GET script STEM name)

@@ -1,16 +1,17 @@
 # Puts the files of the page together. SOURCE is the repository, BINARY holds program, sounds and
-# manuals, OUT becomes the page.
+# manuals, OUT becomes the page. NODE runs the program for its first picture.
 file(REMOVE_RECURSE "${OUT}")
 file(MAKE_DIRECTORY "${OUT}")
 file(GLOB sounds "${BINARY}/*.wav" "${BINARY}/*.WAV")
 file(GLOB manuals "${BINARY}/*.pdf")
-file(COPY "${BINARY}/malvone.wasm" "${SOURCE}/packaging/malvone.svg"
+file(COPY "${BINARY}/malvone.js" "${BINARY}/malvone.wasm" "${SOURCE}/ui/web/page.js" "${SOURCE}/packaging/malvone.svg"
     "${SOURCE}/ui/web/malvone.webmanifest" ${sounds} ${manuals} DESTINATION "${OUT}")
 
-# One script: the page's side, and behind it the loader of the program.
-file(READ "${SOURCE}/ui/web/page.js" page)
-file(READ "${BINARY}/malvone.js" loader)
-file(WRITE "${OUT}/malvone.js" "${page}${loader}")
+# The first picture of the game is shown before the program runs.
+execute_process(COMMAND "${NODE}" "${SOURCE}/ui/web/first-picture.mjs" "${OUT}"
+    "${BINARY}/first.html" "${BINARY}/first.css" COMMAND_ERROR_IS_FATAL ANY)
+file(READ "${BINARY}/first.html" MALVONE_FIRST)
+file(READ "${BINARY}/first.css" first_style)
 
 # The style sheet holds every picture, so that one request brings them all.
 file(READ "${SOURCE}/ui/web/page.css" style)
@@ -31,10 +32,10 @@ foreach(picture IN LISTS pictures)
         string(APPEND style "[data-picture=${name}] { background-image: ${url}; }\n")
     endif()
 endforeach()
-file(WRITE "${OUT}/malvone.css" "${style}")
+file(WRITE "${OUT}/malvone.css" "${style}${first_style}")
 
 # What is asked for carries the mark of its build, so that files of two builds never meet.
-set(contents "")
+set(contents "${MALVONE_FIRST}")
 foreach(file index.html.in worker.js.in)
     file(SHA256 "${SOURCE}/ui/web/${file}" sum)
     string(APPEND contents "${sum}")
@@ -52,7 +53,7 @@ endforeach()
 string(SHA256 mark "${contents}")
 string(SUBSTRING "${mark}" 0 12 MALVONE_BUILD)
 list(JOIN MALVONE_BESIDE " " MALVONE_BESIDE)
-set(MALVONE_FILES "malvone.css?${MALVONE_BUILD} malvone.js?${MALVONE_BUILD} \
+set(MALVONE_FILES "page.js?${MALVONE_BUILD} malvone.css?${MALVONE_BUILD} malvone.js?${MALVONE_BUILD} \
 malvone.wasm?${MALVONE_BUILD} malvone.svg malvone.webmanifest")
 configure_file("${SOURCE}/ui/web/index.html.in" "${OUT}/index.html" @ONLY)
 configure_file("${SOURCE}/ui/web/worker.js.in" "${OUT}/worker.js" @ONLY)

@@ -123,6 +123,7 @@ const page = {
   },
   // The windows from the lowest to the topmost; beside a modal one nothing can be reached.
   arrange(order, modal) {
+    byId("first")?.remove();
     const names = order.split(" ");
     for (const window of [...screenBox.children]) {
       const level = names.indexOf(window.id);
@@ -237,6 +238,7 @@ const page = {
   // Sentences in the place of the game.
   notice(text) {
     this.over = true;
+    byId("first")?.remove();
     this.release?.();
     screenBox.hidden = true;
     byId("notice").textContent = text;
@@ -260,6 +262,7 @@ const page = {
     if (!navigator.locks) return own();
     navigator.locks.request("malvone", { ifAvailable: true }, free => {
       if (free) return own();
+      byId("first").remove();
       byId("notice").textContent = "Malvone ist schon in einem anderen Fenster oder Reiter geöffnet. " +
         "Wird es dort beendet, beginnt es hier.";
       navigator.locks.request("malvone", own);
@@ -396,10 +399,25 @@ if (!document.styleSheets.length) {
 }
 
 // Every picture is ready before a control shows it.
-addEventListener("load", () => {
+const stockPictures = () => {
   for (const rule of document.styleSheets[0].cssRules) {
     const picture = /data-picture="?([^"\]]+)/.exec(rule.selectorText);
     if (picture) make("i", "", byId("stock")).dataset.picture = picture[1];
   }
+};
+
+// The picture that the page has come with is seen before anything else is done. A page that nobody
+// sees has no frames.
+const start = () => {
+  const loader = make("script", "", document.head);
+  loader.onerror = page.fail;
+  loader.src = "malvone.js" + build;
+  stockPictures();
   navigator.serviceWorker?.register("worker.js").catch(() => {});
-});
+};
+const first = byId("first");
+if (first) {
+  page.fit(...first.dataset.size.split(" "));
+  if (document.hidden) start();
+  else requestAnimationFrame(() => setTimeout(start));
+}
