@@ -18,18 +18,10 @@ namespace {
 
 // Pictures that are seen whole, in their own size.
 constexpr std::string_view kWhole[] = {
-    "frmTessel.Icon",
-    "frmTessel.Image1",
-    "frmTessel.Image3",
-    "frmTessel.Image4",
-    "frmTessel.Image6",
-    "frmBilder.cmdHilfeAuswahl",
-    "frmBilder.cmdBeschreibungenAuswahl",
-    "frmBilder.imgGrund",
-    "frmBilder.imgPfeil(0)",
-    "frmBilder.imgPfeil(1)",
-    "frmDigital.imgDiggi(0)",
-    "frmDigital.imgDiggi(10)",
+    "frmTessel.Image1",       "frmTessel.Image3",          "frmTessel.Image4",
+    "frmTessel.Image6",       "frmBilder.cmdHilfeAuswahl", "frmBilder.cmdBeschreibungenAuswahl",
+    "frmBilder.imgGrund",     "frmBilder.imgPfeil(0)",     "frmBilder.imgPfeil(1)",
+    "frmDigital.imgDiggi(0)", "frmDigital.imgDiggi(10)",
 };
 
 QSize SizeOf(const Picture& picture)
@@ -82,11 +74,30 @@ public:
               << "}, QImage::Format_" << NameOf(image.format()) << ", {kPixels + " << bytes_ << ", "
               << image.sizeInBytes() << "}, {kColours + " << colours_ << ", "
               << image.colorTable().size() << "}},\n";
-        AddPixels(image);
+        AddBytes(image.constBits(), static_cast<std::size_t>(image.sizeInBytes()));
         for (const QRgb colour : image.colorTable()) {
             colourText_ += "0x" + QByteArray::number(colour, 16).toStdString() + ",";
             ++colours_;
         }
+    }
+
+    void AddIcon(std::string_view file)
+    {
+        QByteArray words;
+        for (const int edge : {16, 22, 24, 32, 48, 64, 96, 128, 256}) {
+            const QImage image = Rendered(LookOf(file, {edge, edge}, {edge, edge}))
+                                     .convertToFormat(QImage::Format_ARGB32);
+            const quint32 size = static_cast<quint32>(edge);
+            words.append(reinterpret_cast<const char*>(&size), sizeof size);
+            words.append(reinterpret_cast<const char*>(&size), sizeof size);
+            words.append(reinterpret_cast<const char*>(image.constBits()), image.sizeInBytes());
+        }
+        constexpr int kSmallest = 9;
+        const QByteArray packed = qCompress(words, kSmallest);
+        icons_ << "    {\"" << file << "\", {kPixels + " << bytes_ << ", " << packed.size()
+               << "}},\n";
+        AddBytes(reinterpret_cast<const uchar*>(packed.constData()),
+                 static_cast<std::size_t>(packed.size()));
     }
 
     bool Write(const char* path) const
@@ -97,7 +108,10 @@ public:
              << pixelText_ << ";\nconstexpr QRgb kColours[] = {" << colourText_
              << "0};\nconstexpr ReadyPicture kPictures[] = {\n"
              << rows_.str() << "};\n}\n\nstd::span<const ReadyPicture> ReadyPictures()\n"
-             << "{\n    return kPictures;\n}\n\n}\n";
+             << "{\n    return kPictures;\n}\n\n"
+             << "std::span<const ReadyIcon> ReadyIcons()\n{\n"
+             << "    static constexpr ReadyIcon kIcons[] = {\n"
+             << icons_.str() << "};\n    return kIcons;\n}\n\n}\n";
         return file.flush().good();
     }
 
@@ -107,16 +121,16 @@ private:
     std::string colourText_;
     std::size_t colours_ = 0;
     std::ostringstream rows_;
+    std::ostringstream icons_;
 
-    void AddPixels(const QImage& image)
+    void AddBytes(const uchar* bytes, std::size_t size)
     {
         constexpr std::size_t kBorder = 16;
-        const auto size = static_cast<std::size_t>(image.sizeInBytes());
         const std::size_t whole = (size + kBorder - 1) / kBorder * kBorder;
         constexpr char kDigits[] = "01234567";
         pixelText_ += '"';
         for (std::size_t i = 0; i < whole; ++i) {
-            const unsigned byte = i < size ? image.constBits()[i] : 0;
+            const unsigned byte = i < size ? bytes[i] : 0;
             pixelText_ += {'\\', kDigits[byte >> 6], kDigits[byte >> 3 & 7], kDigits[byte & 7]};
         }
         pixelText_ += "\"\n";
@@ -155,6 +169,8 @@ bool Run(const char* path)
         const Look look = LookOf(FileOf(name), size, size);
         source.Add(look, Rendered(look));
     }
+    source.AddIcon(FileOf("frmTessel.Icon"));
+    source.AddIcon(FileOf("frmBeste.Icon"));
     return source.Write(path);
 }
 

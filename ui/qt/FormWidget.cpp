@@ -3,14 +3,15 @@
 
 #include <QApplication>
 #include <QCloseEvent>
-#include <QIcon>
 #include <QPainter>
 #include <QToolTip>
 #include <QWindow>
 
 #include "ui/layer/App.h"
 #include "ui/layer/PointerRouting.h"
+#include "ui/qt/BackdropWindow.h"
 #include "ui/qt/HandCursor.h"
+#include "ui/qt/Icon.h"
 #include "ui/qt/KeyTable.h"
 #include "ui/qt/LabelText.h"
 #include "ui/qt/MenuBar.h"
@@ -133,6 +134,7 @@ void FormWidget::Present(QWindow* below)
         // A window of the system's that exists already takes its place for that of the client area
         // as long as its frame is unknown. So a window is shown again as it was shown first.
         destroy();
+        painted_ = false;
         placement_.OntoScreen();
         placement_.ToScreen();
         winId();
@@ -214,25 +216,20 @@ void FormWidget::paintEvent(QPaintEvent* event)
     }
 }
 
-// Icons in all sizes that task bars and switchers use. They can wait until the window is painted.
-// A window without an icon of its own has that of the game.
+// The icon can wait until the window is painted. A window without one of its own has the game's,
+// and so has the backdrop.
 void FormWidget::ShowIcon()
 {
-    if (window_ == nullptr) {
+    if (window_ == nullptr || !isVisible()) {
         return;
     }
-    const auto all = [this](const Picture& picture) {
-        QIcon icon;
-        for (const int edge : {16, 22, 24, 32, 48, 64, 96, 128, 256}) {
-            icon.addPixmap(QPixmap::fromImage(pictures_.Get(picture, QSize(edge, edge))));
+    const Picture& own = window_->Icon;
+    const Icon icon(own.Empty() ? PictureNamed("frmTessel.Icon") : own);
+    icon.Give(*windowHandle());
+    for (QWindow* const window : QGuiApplication::topLevelWindows()) {
+        if (menu_ != nullptr && qobject_cast<BackdropWindow*>(window) != nullptr) {
+            icon.Give(*window);
         }
-        return icon;
-    };
-    if (QGuiApplication::windowIcon().isNull()) {
-        QApplication::setWindowIcon(all(PictureNamed("frmTessel.Icon")));
-    }
-    if (menu_ == nullptr && !window_->Icon->Empty()) {
-        setWindowIcon(all(window_->Icon));
     }
 }
 

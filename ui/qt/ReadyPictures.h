@@ -27,4 +27,13 @@ std::span<const ReadyPicture> ReadyPictures();
 // Null where there is no such picture.
 QImage Ready(const Look& look);
 
+// A picture in all sizes of an icon: width, height and pixels, in the words of the X protocol, one
+// size after the other. Packed, since it is wanted once for each window and then at one stroke.
+struct ReadyIcon
+{
+    std::string_view File;
+    std::string_view Packed;
+};
+std::span<const ReadyIcon> ReadyIcons();
+
 }  // namespace malvone::qt

@@ -38,17 +38,6 @@ constexpr Manager kManagers[] = {
 
 #ifdef MALVONE_XCB
 
-xcb_intern_atom_cookie_t Ask(xcb_connection_t* connection, std::string_view name)
-{
-    return xcb_intern_atom(connection, 0, static_cast<std::uint16_t>(name.size()), name.data());
-}
-
-xcb_atom_t Atom(xcb_connection_t* connection, xcb_intern_atom_cookie_t cookie)
-{
-    const Answer<xcb_intern_atom_reply_t> reply(xcb_intern_atom_reply(connection, cookie, nullptr));
-    return reply ? reply->atom : xcb_atom_t{XCB_ATOM_NONE};
-}
-
 // The bytes of a property, empty where there is none.
 std::string Property(xcb_connection_t* connection, xcb_window_t window, xcb_atom_t name)
 {

@@ -6,6 +6,7 @@
 
 #include <cstdlib>
 #include <memory>
+#include <string_view>
 
 namespace malvone::qt {
 
@@ -19,6 +20,10 @@ struct Freed
 // A reply of the server; null where there was an error instead.
 template<typename Reply>
 using Answer = std::unique_ptr<Reply, Freed>;
+
+// A name's atom: to be asked for and, after other questions, taken.
+xcb_intern_atom_cookie_t Ask(xcb_connection_t* connection, std::string_view name);
+xcb_atom_t Atom(xcb_connection_t* connection, xcb_intern_atom_cookie_t cookie);
 
 }  // namespace malvone::qt
 #endif
