@@ -55,12 +55,13 @@ void ScreenReader::Tell()
         return;
     }
     for (const QPointer<FormWidget>& form : changed) {
-        AccessibleForm* const tree =
-            form != nullptr && form->Model() != nullptr ? TreeOf(*form) : nullptr;
+        FormWidget* const widget = form.data();
+        const Window* const window = widget == nullptr ? nullptr : widget->Model();
+        AccessibleForm* const tree = window == nullptr ? nullptr : TreeOf(*widget);
         if (tree == nullptr) {
             continue;
         }
-        if (!news.isEmpty() && form->Model()->Name() == frmTessel.Name()) {
+        if (!news.isEmpty() && window->Name() == frmTessel.Name()) {
             tree->Announce(news);
         }
         tree->TellChanges();

@@ -25,13 +25,14 @@ Window* ModelOf(const FormWidget* form)
 // each of these, and the control with it.
 void Press(const QPointer<FormWidget>& form, const Visual* visual)
 {
-    if (ModelOf(form) == nullptr) {
+    Window* const pointed = ModelOf(form);
+    if (pointed == nullptr) {
         return;
     }
     Mouse mouse;
     mouse.X = visual->WindowLeft() + visual->Width / 2;
     mouse.Y = visual->WindowTop() + visual->Height / 2;
-    PointerMoved(*form->Model(), mouse);
+    PointerMoved(*pointed, mouse);
     mouse.Button = kLeftButton;
     if (Window* const window = ModelOf(form)) {
         PointerPressed(*window, mouse);
@@ -90,14 +91,15 @@ QAccessible::Role AccessiblePart::role() const
 QAccessible::State AccessiblePart::state() const
 {
     QAccessible::State state;
-    if (!isValid()) {
+    const Window* const window = ModelOf(form_);
+    if (window == nullptr) {
         state.invalid = true;
         return state;
     }
     state.disabled = !part_.Where->Enabled;
     state.invisible = !IsSpokenNow(part_);
     state.focusable = part_.Where->ByArrows;
-    state.focused = part_.Where == form_->Model()->Place() && form_->isActiveWindow();
+    state.focused = part_.Where == window->Place() && form_->isActiveWindow();
     return state;
 }
 
