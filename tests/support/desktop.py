@@ -93,13 +93,17 @@ class Desktop:
     def manage(self, manager):
         """Starts a window manager and waits until it has taken the windows, and has said so where
         managers do. openbox says so long before its own start is over, and may then never show a
-        window that comes between: it is ready with the list of all windows."""
-        self.manager = self.start(*manager, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        window that comes between: it is ready when it runs its start-up command."""
         name = os.path.basename(manager[0])
+        told = "_NET_SUPPORTING_WM_CHECK"
+        if name == "openbox":
+            told = "OPENBOX_READY"
+            self.run("xprop", "-root", "-remove", told)
+            manager = [*manager, "--startup", f"xprop -root -f {told} 32x -set {told} 1"]
+        self.manager = self.start(*manager, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
         until(lambda: "SubstructureRedirect" in self.run("xwininfo", "-root", "-events"), name)
         if name != "twm":
-            told = "_NET_CLIENT_LIST" if name == "openbox" else "_NET_SUPPORTING_WM_CHECK"
-            until(lambda: "window id" in self.run("xprop", "-root", told), name)
+            until(lambda: {"=", "#"} & set(self.run("xprop", "-root", told)), name)
 
     def run(self, *command):
         return subprocess.run(list(map(str, command)), env=self.env, stdout=subprocess.PIPE,
