@@ -170,8 +170,8 @@ bool Window::Unload(UnloadMode mode)
         return false;
     }
     Form_Unload();
-    if (App.Ended()) {
-        return true;
+    if (App.Ended() || instance_ == nullptr) {
+        return true;  // the handler has ended the program, or unloaded the window by itself
     }
     shown_ = false;
     App.Screen().WindowUnloaded(*this);
