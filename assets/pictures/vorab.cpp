@@ -50,6 +50,19 @@ QImage Small(const QImage& image)
                                        QList<QRgb>(colours.begin(), colours.end()));
 }
 
+// What fills up the end of a row is left to chance by Qt; two builds have to write the same.
+QByteArray RowsOf(const QImage& image)
+{
+    const qsizetype seen = (static_cast<qsizetype>(image.width()) * image.depth() + 7) / 8;
+    const qsizetype whole = image.bytesPerLine();
+    QByteArray rows;
+    for (int y = 0; y < image.height(); ++y) {
+        rows.append(reinterpret_cast<const char*>(image.constScanLine(y)), seen);
+        rows.append(whole - seen, '\0');
+    }
+    return rows;
+}
+
 const char* NameOf(QImage::Format format)
 {
     switch (format) {
@@ -74,7 +87,9 @@ public:
               << "}, QImage::Format_" << NameOf(image.format()) << ", {kPixels + " << bytes_ << ", "
               << image.sizeInBytes() << "}, {kColours + " << colours_ << ", "
               << image.colorTable().size() << "}},\n";
-        AddBytes(image.constBits(), static_cast<std::size_t>(image.sizeInBytes()));
+        const QByteArray rows = RowsOf(image);
+        AddBytes(reinterpret_cast<const uchar*>(rows.constData()),
+                 static_cast<std::size_t>(rows.size()));
         for (const QRgb colour : image.colorTable()) {
             colourText_ += "0x" + QByteArray::number(colour, 16).toStdString() + ",";
             ++colours_;
