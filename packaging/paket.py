@@ -52,7 +52,7 @@ def first_that_runs(*prefixes):
 def copy(folder):
     """The sources as they are now, without what builds have left in them."""
     shutil.copytree(ROOT, folder, copy_function=shutil.copy, ignore=shutil.ignore_patterns(
-        "build", ".git", ".cache", "__pycache__", "obj-*", ".debhelper"))
+        "build", "node_modules", ".git", ".cache", "__pycache__", "obj-*", ".debhelper"))
 
 
 def build(source, folder, conditions, kind, prefix=()):
