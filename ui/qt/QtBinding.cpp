@@ -10,8 +10,10 @@
 #include "ui/qt/Backdrop.h"
 #include "ui/qt/BackdropWindow.h"
 #include "ui/qt/FormWidget.h"
+#include "ui/qt/Icon.h"
 #include "ui/qt/Scale.h"
 #include "ui/qt/WindowManager.h"
+#include "ui/windows/Pictures.h"
 
 namespace malvone::qt {
 
@@ -70,6 +72,7 @@ FormWidget& QtBinding::Make(Window& window, ShowMode mode)
         form, &FormWidget::Minimized, form, [this, form] { Minimized(*form); },
         Qt::QueuedConnection);
     QObject::connect(form, &FormWidget::Rescaled, [this, form] { Rescaled(*form); });
+    QObject::connect(form, &FormWidget::Painted, [this, form] { Painted(*form); });
     QObject::connect(form, &FormWidget::Activated, [this, form] { Activated(*form); });
     QObject::connect(form, &FormWidget::CloseWished, [form] { RaiseClose(*form->Model()); });
     return *form;
@@ -111,6 +114,22 @@ void QtBinding::Rescaled(const FormWidget& form)
         if (other != &form) {
             other->SetFactor(Factor());
         }
+    }
+}
+
+// What can wait until the player sees the window. A window without an icon of its own has the
+// game's, and so has the backdrop.
+void QtBinding::Painted(FormWidget& form)
+{
+    if (form.Model() == nullptr || !form.isVisible()) {
+        return;
+    }
+    const Picture& own = form.Model()->Icon;
+    const Icon icon(own.Empty() ? PictureNamed("frmTessel.Icon") : own);
+    icon.Give(*form.windowHandle());
+    if (&form == MainForm() && backdrop_ != nullptr) {
+        backdrop_->ShowPicture();
+        icon.Give(*backdrop_);
     }
 }
 
@@ -185,6 +204,10 @@ void QtBinding::ShowBackdrop(Window& window)
                          [this] { CloseMainWindow(); });
     }
     backdrop_->Present();
+    const FormWidget* const main = MainForm();
+    if (main != nullptr && main->WasPainted()) {
+        backdrop_->ShowPicture();
+    }
 }
 
 void QtBinding::WindowHidden(Window& window)

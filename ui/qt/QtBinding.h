@@ -60,6 +60,7 @@ private:
     double Factor() const;
     void Minimized(FormWidget& form);
     void Rescaled(const FormWidget& form);
+    void Painted(FormWidget& form);
     void ScreensChanged();
     FormWidget& Make(Window& window, ShowMode mode);
     QWindow* ParentOf(const Window& window, ShowMode mode) const;

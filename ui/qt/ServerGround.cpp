@@ -134,27 +134,42 @@ xcb_pixmap_t Stretched(xcb_connection_t* connection, const Target& target, const
 }  // namespace
 #endif
 
-bool PaintOnServer(QWindow& window, const QImage& picture)
+bool ColourOnServer(QWindow& window, QRgb colour)
 {
 #ifdef MALVONE_XCB
     xcb_connection_t* const connection = X11Connection();
-    if (connection == nullptr || picture.isNull() || !CanStretch(connection)) {
+    if (connection == nullptr || !CanStretch(connection)) {
         return false;
     }
     const Target target = Asked(connection, static_cast<xcb_window_t>(window.winId()));
     if (target.Format == XCB_NONE) {
         return false;
     }
+    xcb_change_window_attributes(connection, target.Window, XCB_CW_BACK_PIXEL, &colour);
+    return true;
+#else
+    static_cast<void>(window);
+    static_cast<void>(colour);
+    return false;
+#endif
+}
+
+void PaintOnServer(QWindow& window, const QImage& picture)
+{
+#ifdef MALVONE_XCB
+    xcb_connection_t* const connection = X11Connection();
+    const Target target = Asked(connection, static_cast<xcb_window_t>(window.winId()));
+    if (target.Format == XCB_NONE) {
+        return;
+    }
     const xcb_pixmap_t ground =
         Stretched(connection, target, picture.convertToFormat(QImage::Format_RGB32));
     xcb_change_window_attributes(connection, target.Window, XCB_CW_BACK_PIXMAP, &ground);
     xcb_free_pixmap(connection, ground);  // the window keeps it
     xcb_clear_area(connection, 0, target.Window, 0, 0, 0, 0);
-    return true;
 #else
     static_cast<void>(window);
     static_cast<void>(picture);
-    return false;
 #endif
 }
 

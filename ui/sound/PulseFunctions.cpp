@@ -17,7 +17,7 @@ bool LookUp(void* library, const char* name, Function& function)
 
 bool PulseFunctions::Load(const std::string& library)
 {
-    void* const handle = ::dlopen(library.c_str(), RTLD_NOW | RTLD_LOCAL);
+    void* const handle = ::dlopen(library.c_str(), RTLD_LAZY | RTLD_LOCAL);
     bool all = handle != nullptr;
 #define MALVONE_LOOK_UP(name) all = all && LookUp(handle, #name, name);
     MALVONE_PULSE_FUNCTIONS(MALVONE_LOOK_UP)
