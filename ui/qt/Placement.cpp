@@ -18,6 +18,14 @@ QPoint ScreenCorner()
     return QGuiApplication::primaryScreen()->geometry().topLeft();
 }
 
+// Without a window manager Qt takes what a window has just grown by for its frame.
+bool IsFrame(const QMargins& frame)
+{
+    constexpr int kThickest = 120;
+    return !frame.isNull() && frame.left() + frame.right() < kThickest &&
+           frame.top() + frame.bottom() < kThickest;
+}
+
 QPoint CornerOf(const Window& window)
 {
     return {ToWholePixels(window.Left), ToWholePixels(window.Top)};
@@ -115,7 +123,7 @@ void Placement::FromScreen()
     if (handle == nullptr || !widget_.isVisible()) {
         return;
     }
-    if (!framed_ && !handle->frameMargins().isNull()) {
+    if (!framed_ && IsFrame(handle->frameMargins())) {
         framed_ = true;
         KeepCentred(handle->frameMargins());
         TellSize();
