@@ -449,13 +449,6 @@ FilePlatform::Handle FilePlatform::OpenFile(const fs::path& path, int flags, mod
     return {*this, Again([&] { return Open(path.c_str(), flags | kOpenFlags, mode); })};
 }
 
-std::uint64_t FilePlatform::ClockNs()
-{
-    const auto now = std::chrono::system_clock::now().time_since_epoch();
-    return static_cast<std::uint64_t>(
-        std::chrono::duration_cast<std::chrono::nanoseconds>(now).count());
-}
-
 int FilePlatform::Open(const char* path, int flags, mode_t mode)
 {
     return ::open(path, flags, mode);

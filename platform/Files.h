@@ -51,8 +51,6 @@ public:
     FileFault ReplaceTextLines(const std::string& path, const std::vector<std::string>& lines,
                                OldFile old) override;
 
-    std::uint64_t ClockNs() override;
-
 protected:
     // The system's calls that can fail half-way, to be put out of order by tests. They answer as
     // the system does: a negative number and errno.

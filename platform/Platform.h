@@ -1,6 +1,7 @@
 // Platform.h: what the game asks of the system under it, by the names that the game uses.
 #pragma once
 
+#include <chrono>
 #include <cstddef>
 #include <cstdint>
 #include <string>
@@ -73,12 +74,16 @@ public:
 
     // Hands a wave file to the player and returns at once; the empty path is silence.
     virtual void sndPlaySoundA(const std::string& path) = 0;
-    virtual std::int32_t waveOutGetNumDevs() = 0;
+    virtual std::int32_t waveOutGetNumDevs() { return 1; }
     // Opens a document in the system's viewer; nobody looks at the outcome.
     virtual void ShellExecuteA(const std::string& path) = 0;
 
     // Nanoseconds of the system's clock. It may stand still between two calls.
-    virtual std::uint64_t ClockNs() = 0;
+    virtual std::uint64_t ClockNs()
+    {
+        const auto now = std::chrono::system_clock::now().time_since_epoch();
+        return static_cast<std::uint64_t>(std::chrono::nanoseconds(now).count());
+    }
 };
 
 // The folder of the program file, as the game writes it.

@@ -46,6 +46,16 @@ void LineCollector::EndLine()
     line_.clear();
 }
 
+ReadLines LinesOf(std::string_view content, std::size_t count)
+{
+    ReadLines result;
+    LineCollector collector(count, result.Lines);
+    collector.Take(content);
+    collector.EndOfFile();
+    result.Fault = collector.Complete() ? FileFault::None : FileFault::PastEnd;
+    return result;
+}
+
 std::string FileContent(const std::vector<std::string>& lines)
 {
     std::string content;

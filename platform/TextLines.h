@@ -7,6 +7,8 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/Platform.h"
+
 namespace malvone {
 
 // Puts the first lines of a file together from blocks of its bytes.
@@ -34,6 +36,8 @@ private:
     void EndLine();
 };
 
+// The first lines of a whole file, and the same way back.
+ReadLines LinesOf(std::string_view content, std::size_t count);
 std::string FileContent(const std::vector<std::string>& lines);
 
 // The name under which a file that was not read whole is kept; the player reads it.

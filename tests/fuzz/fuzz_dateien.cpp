@@ -51,7 +51,6 @@ public:
         std::abort();
     }
     void sndPlaySoundA(const std::string&) override {}
-    std::int32_t waveOutGetNumDevs() override { return 1; }
     void ShellExecuteA(const std::string&) override {}
 
 protected:
