@@ -67,6 +67,12 @@ Twips Visual::WindowTop() const
     return Top + (Container() == nullptr ? 0 : Container()->WindowTop());
 }
 
+bool Visual::Seen() const
+{
+    return Visible && (Container() == nullptr || Container()->Visible) &&
+           WindowLeft() < Owner().ClientWidth && WindowTop() < Owner().ClientHeight;
+}
+
 bool Visual::Covers(Twips x, Twips y) const
 {
     const Twips left = WindowLeft();

@@ -110,6 +110,9 @@ public:
     // The corner in the window's client area, with the container's place counted in.
     Twips WindowLeft() const;
     Twips WindowTop() const;
+    // Visible with its container, and begins within the designed client area: what the design keeps
+    // beside it stays out of sight in a larger window too.
+    bool Seen() const;
     // Whether a place in the window's client area lies on the control.
     bool Covers(Twips x, Twips y) const;
 

@@ -27,10 +27,8 @@ public:
     constexpr int Width() const { return Empty() ? 0 : info_->Width; }
     constexpr int Height() const { return Empty() ? 0 : info_->Height; }
 
-    friend constexpr bool operator==(const Picture& a, const Picture& b)
-    {
-        return a.info_ == b.info_ || a.Name() == b.Name();
-    }
+    // Each picture of the bank has one entry, so that no names need be compared.
+    friend constexpr bool operator==(const Picture&, const Picture&) = default;
 
 private:
     const PictureInfo* info_ = nullptr;

@@ -25,12 +25,6 @@ constexpr Direction kDirections[] = {
     {kKeyDown, 0, 1},
 };
 
-Mouse MiddleOf(const Visual& visual, std::int16_t button)
-{
-    return {button, 0, visual.WindowLeft() + visual.Width / 2,
-            visual.WindowTop() + visual.Height / 2};
-}
-
 bool LedTo(const Visual& visual)
 {
     return visual.ByArrows && visual.Reachable();

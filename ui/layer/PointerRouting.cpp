@@ -7,17 +7,23 @@
 namespace malvone {
 namespace {
 
-bool Seen(const Visual& visual)
-{
-    return visual.Visible && (visual.Container() == nullptr || visual.Container()->Visible);
-}
-
 Mouse Within(const Visual& visual, const Mouse& mouse)
 {
     Mouse inside = mouse;
     inside.X -= visual.WindowLeft();
     inside.Y -= visual.WindowTop();
     return inside;
+}
+
+std::vector<Picture> PicturesOf(const Window& window)
+{
+    std::vector<Picture> pictures;
+    for (const Visual* const visual : window.FrontToBack()) {
+        if (const auto* const image = dynamic_cast<const Image*>(visual)) {
+            pictures.push_back(image->Picture);
+        }
+    }
+    return pictures;
 }
 
 }  // namespace
@@ -28,11 +34,17 @@ Visual* ControlAt(const Window& window, Twips x, Twips y)
         return nullptr;
     }
     for (Visual* const visual : window.FrontToBack()) {
-        if (visual->TakesPointer() && Seen(*visual) && visual->Covers(x, y)) {
+        if (visual->TakesPointer() && visual->Seen() && visual->Covers(x, y)) {
             return visual;
         }
     }
     return nullptr;
+}
+
+Mouse MiddleOf(const Visual& visual, std::int16_t button)
+{
+    return {button, 0, visual.WindowLeft() + visual.Width / 2,
+            visual.WindowTop() + visual.Height / 2};
 }
 
 void PointerPressed(Window& window, const Mouse& mouse)
@@ -104,6 +116,26 @@ void PointerReleased(Window& window, const Mouse& mouse)
     if (left) {
         Hover(window, Mouse{0, mouse.Shift, mouse.X, mouse.Y});
     }
+}
+
+void FingerPressed(Window& window, const Mouse& mouse)
+{
+    Mouse coming = mouse;
+    coming.Button = 0;
+    const std::vector<Picture> before = PicturesOf(window);
+    PointerMoved(window, coming);
+    if (before == PicturesOf(window)) {
+        PointerPressed(window, mouse);
+    }
+}
+
+void Press(Visual& visual)
+{
+    const EventScope scope;
+    Window& window = visual.Owner();
+    PointerMoved(window, MiddleOf(visual, 0));
+    PointerPressed(window, MiddleOf(visual, kLeftButton));
+    PointerReleased(window, MiddleOf(visual, kLeftButton));
 }
 
 }  // namespace malvone

@@ -8,6 +8,9 @@ namespace malvone {
 // The topmost visible control under a place of the client area, in twips; null: the window itself.
 Visual* ControlAt(const Window& window, Twips x, Twips y);
 
+// The pointer in the middle of a control.
+Mouse MiddleOf(const Visual& visual, std::int16_t button);
+
 // X and Y of the mouse are those in the client area. A press keeps the pointer: all moves, the
 // release and, for the left button and while the pointer is still inside, the click go to the
 // pressed control, or to the window where its own surface was pressed. Where the pointer has left
@@ -20,5 +23,13 @@ void PointerReleased(Window& window, const Mouse& mouse);
 // What a movement does. A pointer that rests is moved by nobody, though browsers tell so when
 // something changes below it: it leaves the place of the arrow keys alone.
 void Hover(Window& window, const Mouse& mouse);
+
+// A finger cannot point without touching. Where its coming changes what is seen, it has pointed;
+// where nothing changes, it presses.
+void FingerPressed(Window& window, const Mouse& mouse);
+
+// For who cannot point: as if the player pointed at the middle of a control and clicked. What the
+// first of the three does may take the window away; the others do nothing then.
+void Press(Visual& visual);
 
 }  // namespace malvone

@@ -21,27 +21,6 @@ Window* ModelOf(const FormWidget* form)
     return form != nullptr ? form->Model() : nullptr;
 }
 
-// As if the player pointed at the middle of the control and clicked. The window may go away with
-// each of these, and the control with it.
-void Press(const QPointer<FormWidget>& form, const Visual* visual)
-{
-    Window* const pointed = ModelOf(form);
-    if (pointed == nullptr) {
-        return;
-    }
-    Mouse mouse;
-    mouse.X = visual->WindowLeft() + visual->Width / 2;
-    mouse.Y = visual->WindowTop() + visual->Height / 2;
-    PointerMoved(*pointed, mouse);
-    mouse.Button = kLeftButton;
-    if (Window* const window = ModelOf(form)) {
-        PointerPressed(*window, mouse);
-    }
-    if (Window* const window = ModelOf(form)) {
-        PointerReleased(*window, mouse);
-    }
-}
-
 void Tell(QAccessibleInterface* who, QAccessible::Event what)
 {
     QAccessibleEvent event(who, what);
@@ -124,7 +103,12 @@ void AccessiblePart::doAction(const QString& name)
 {
     if (isValid() && Pressable() && name == pressAction()) {
         QMetaObject::invokeMethod(
-            form_, [form = form_, visual = part_.Where] { Press(form, visual); },
+            form_,
+            [form = form_, visual = part_.Where] {
+                if (ModelOf(form) != nullptr) {
+                    Press(*visual);
+                }
+            },
             Qt::QueuedConnection);
     }
 }

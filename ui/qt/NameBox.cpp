@@ -103,7 +103,7 @@ void NameBox::Follow(const Scale& scale)
     setFocusPolicy(model_->Locked ? Qt::NoFocus : Qt::ClickFocus);  // Tab is the layer's
     setAttribute(Qt::WA_TransparentForMouseEvents, model_->Locked);
     setEnabled(model_->Enabled);
-    setVisible(IsSeen(*model_));
+    setVisible(model_->Seen());
     FollowText();
 }
 

@@ -192,13 +192,6 @@ QRectF PlaceOf(const Visual& visual)
             ToPixels(visual.Height)};
 }
 
-bool IsSeen(const Visual& visual)
-{
-    const bool open = visual.Container() == nullptr || visual.Container()->Visible;
-    return visual.Visible && open && visual.WindowLeft() < visual.Owner().ClientWidth &&
-           visual.WindowTop() < visual.Owner().ClientHeight;
-}
-
 void PaintWindow(QPainter& painter, const Window& window, PictureStore& pictures,
                  const QRegion& dirty, const QSizeF& client)
 {
@@ -207,7 +200,7 @@ void PaintWindow(QPainter& painter, const Window& window, PictureStore& pictures
     const std::vector<Visual*>& frontToBack = window.FrontToBack();
     std::for_each(frontToBack.rbegin(), frontToBack.rend(), [&](const Visual* visual) {
         const QRectF place = PlaceOf(*visual);
-        if (IsSeen(*visual) && dirty.intersects(place.toAlignedRect())) {
+        if (visual->Seen() && dirty.intersects(place.toAlignedRect())) {
             painting.Paint(*visual, place);
             if (visual == window.Place()) {
                 painting.Frame(place);

@@ -19,10 +19,6 @@ class PictureStore;
 // A control's place in pixels of the design, from the corner of the client area.
 QRectF PlaceOf(const Visual& visual);
 
-// Whether a control is drawn: it is visible, and it begins within the designed client area. What
-// the design puts beside it stays out of sight in a larger window too.
-bool IsSeen(const Visual& visual);
-
 // Paints what lies in `dirty`, given in pixels of the design from the corner of the client area,
 // where the painter has its origin. `client` is the size of the client area.
 void PaintWindow(QPainter& painter, const Window& window, PictureStore& pictures,

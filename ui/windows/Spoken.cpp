@@ -186,9 +186,7 @@ std::string DescriptionOf(const Spoken& spoken)
 
 bool IsSpokenNow(const Spoken& spoken)
 {
-    const Visual& where = *spoken.Where;
-    const bool open = where.Container() == nullptr || where.Container()->Visible;
-    return where.Visible && open && !NameOf(spoken).empty();
+    return spoken.Where->Seen() && !NameOf(spoken).empty();
 }
 
 std::string TitleOf(const Window& window)
