@@ -5,7 +5,7 @@ add_executable(malvone ${web_sources})
 malvone_target(malvone)
 target_link_libraries(malvone PRIVATE malvone_core)
 # The program's one stack is put aside while it waits for an event.
-target_link_options(malvone PRIVATE -sENVIRONMENT=web -sASYNCIFY
+target_link_options(malvone PRIVATE --bind -sENVIRONMENT=web -sASYNCIFY
     -sASYNCIFY_STACK_SIZE=65536 -sFILESYSTEM=0 -sDYNAMIC_EXECUTION=0)
 
 find_program(MALVONE_NODE NAMES node nodejs REQUIRED)

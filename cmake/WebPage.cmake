@@ -7,14 +7,16 @@ file(GLOB manuals "${BINARY}/*.pdf")
 file(COPY "${BINARY}/malvone.js" "${BINARY}/malvone.wasm" "${SOURCE}/ui/web/page.js" "${SOURCE}/packaging/malvone.svg"
     "${SOURCE}/ui/web/malvone.webmanifest" ${sounds} ${manuals} DESTINATION "${OUT}")
 
-# The first picture of the game is shown before the program runs.
-execute_process(COMMAND "${NODE}" "${SOURCE}/ui/web/first-picture.mjs" "${OUT}"
+# The first picture of the game is shown before the program and the other pictures are there.
+execute_process(COMMAND "${NODE}" "${SOURCE}/ui/web/first-picture.mjs" "${OUT}" "${SOURCE}/assets/pictures"
     "${BINARY}/first.html" "${BINARY}/first.css" COMMAND_ERROR_IS_FATAL ANY)
 file(READ "${BINARY}/first.html" MALVONE_FIRST)
 file(READ "${BINARY}/first.css" first_style)
-
-# The style sheet holds every picture, so that one request brings them all.
 file(READ "${SOURCE}/ui/web/page.css" style)
+file(WRITE "${OUT}/malvone.css" "${style}${first_style}")
+
+# One style sheet holds all pictures, so that one request brings them.
+file(WRITE "${OUT}/pictures.css" "")
 file(GLOB pictures "${SOURCE}/assets/pictures/*.svg")
 foreach(picture IN LISTS pictures)
     cmake_path(GET picture STEM name)
@@ -27,12 +29,11 @@ foreach(picture IN LISTS pictures)
     string(REPLACE "<svg " "<svg preserveAspectRatio='none' " svg "${svg}")
     set(url "url(\"data:image/svg+xml,${svg}\")")
     if(name STREQUAL "hand")
-        string(APPEND style "[data-hand] { cursor: ${url} 5 0, pointer; }\n")
+        file(APPEND "${OUT}/pictures.css" "[data-hand] { cursor: ${url} 5 0, pointer; }\n")
     else()
-        string(APPEND style "[data-picture=${name}] { background-image: ${url}; }\n")
+        file(APPEND "${OUT}/pictures.css" "[data-picture=${name}] { background-image: ${url}; }\n")
     endif()
 endforeach()
-file(WRITE "${OUT}/malvone.css" "${style}${first_style}")
 
 # What is asked for carries the mark of its build, so that files of two builds never meet.
 set(contents "${MALVONE_FIRST}")
@@ -53,7 +54,7 @@ endforeach()
 string(SHA256 mark "${contents}")
 string(SUBSTRING "${mark}" 0 12 MALVONE_BUILD)
 list(JOIN MALVONE_BESIDE " " MALVONE_BESIDE)
-set(MALVONE_FILES "page.js?${MALVONE_BUILD} malvone.css?${MALVONE_BUILD} malvone.js?${MALVONE_BUILD} \
+set(MALVONE_FILES "page.js?${MALVONE_BUILD} malvone.css?${MALVONE_BUILD} pictures.css?${MALVONE_BUILD} malvone.js?${MALVONE_BUILD} \
 malvone.wasm?${MALVONE_BUILD} malvone.svg malvone.webmanifest")
 configure_file("${SOURCE}/ui/web/index.html.in" "${OUT}/index.html" @ONLY)
 configure_file("${SOURCE}/ui/web/worker.js.in" "${OUT}/worker.js" @ONLY)

@@ -18,6 +18,8 @@ PORT = 8713
 
 class Handler(http.server.SimpleHTTPRequestHandler):
     protocol_version = "HTTP/1.1"
+    # An answer leaves in one piece: in two, the second would wait for the word that the first came.
+    wbufsize = -1
     extensions_map = {**http.server.SimpleHTTPRequestHandler.extensions_map,
                       ".wasm": "application/wasm", ".webmanifest": "application/manifest+json"}
 

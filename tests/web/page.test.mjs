@@ -79,6 +79,7 @@ const actions = page => {
     gone: id => page.waitForFunction(name => !document.getElementById(name), limit, id),
     reads: (id, words) => page.waitForFunction((name, text) => document.getElementById(name)?.textContent.includes(text), limit, id, words),
     name: id => page.$eval(element(id), e => e.ariaLabel),
+    named: (id, words) => page.waitForFunction((name, text) => document.getElementById(name)?.ariaLabel === text, limit, id, words),
     click: async id => page.mouse.click(...await at(id)),
     point: async id => page.mouse.move(...await at(id)),
     tap: async id => page.touchscreen.tap(...await at(id)),
@@ -96,6 +97,10 @@ const actions = page => {
         ((i % 10 < 9 && cells[i + 1] === colour) || cells[i + 10] === colour));
       return stone < 0 ? null : `frmTessel.imgFeld(${stone + 1})`;
     },
+    begin: async () => {
+      await game.click("frmTessel.lblNeu");
+      await game.named("frmTessel.Image4", "Level: 1");
+    },
     // Until the message at its end.
     playLevel: async () => {
       const cell = await (await game.sees("frmTessel.imgFeld(1)")).boundingBox();
@@ -111,8 +116,7 @@ const actions = page => {
 
 test("a level is played by pointer", async t => {
   const game = await open(t);
-  await game.click("frmTessel.lblNeu");
-  await game.reads("frmTessel.lblSumme", "");
+  await game.begin();
   const stone = await game.group();
   await game.point(stone);
   await game.reads("frmTessel.lblSumme", "Dieser Spielzug ergibt");
@@ -152,7 +156,7 @@ test("a finger points first and takes then", async t => {
   const all = await (await game.sees("frmTessel")).boundingBox();
   assert.ok(all.x >= 0 && all.y >= 0 && all.x + all.width <= phone.width && all.y + all.height <= phone.height);
   await game.tap("frmTessel.lblNeu");
-  await game.page.waitForFunction(() => document.getElementById("frmTessel.Image4").ariaLabel === "Level: 1", limit);
+  await game.named("frmTessel.Image4", "Level: 1");
   const stone = await game.group();
   await game.tap(stone);
   await game.reads("frmTessel.lblSumme", "ergibt");
@@ -174,12 +178,17 @@ test("an entry is typed, kept as the file's bytes and found again by keyboard al
   await game.reads("frmMsgJa", "eine neue Bestmarke");
   await game.press("KeyJ");
   await game.sees("frmBeste");
+  const box = "frmBeste.txtSpieler(0)";
+  const holds = name => game.page.waitForFunction((id, text) => document.getElementById(id).value === text, limit, box, name);
+  const given = await game.page.$eval(element(box), e => e.value);
+  await game.page.keyboard.sendCharacter("中文");  // as a paste does: it comes at once
+  await holds(given);
   await game.page.keyboard.type("Jörg 中Müßig, €");
-  await game.page.waitForFunction(id => document.getElementById(id).value === "Jörg Müßig, €", limit, "frmBeste.txtSpieler(0)");
+  await holds("Jörg Müßig, €");
   await game.press("Tab");
   while (await game.page.evaluate(() => document.activeElement.id !== "frmBeste.cmdEnde")) await game.press("Tab");
   await game.press("Enter");
-  await game.reads("frmMsgJa", "");
+  await game.page.waitForFunction(key => localStorage[key].includes("rg M"), limit, list);
   assert.match(await game.entry(list), /^J\xf6rg M\xfc\xdfig, \x80\r\nNiemand\r\n/);
   await game.page.reload();
   await game.sees("frmTessel");
@@ -230,8 +239,7 @@ test("a storage that is full, cleared or forbidden gives the game's own messages
   const forbidden = await open(t, { browser: guarded, started: false });
   await forbidden.reads("frmMsgOk", "Festplatte");
   await forbidden.press("Escape");
-  await forbidden.click("frmTessel.lblNeu");
-  await forbidden.page.waitForFunction(() => document.getElementById("frmTessel.Image4").ariaLabel === "Level: 1", limit);
+  await forbidden.begin();
 });
 
 test("one page of a browser has the game", async t => {
@@ -244,16 +252,32 @@ test("one page of a browser has the game", async t => {
   await other.sees("frmTessel");
 });
 
+// Requests for a part of the page go another way.
+const divert = (part, way) => async page => {
+  await page.setRequestInterception(true);
+  page.on("request", request => (request.url().includes(part) ? way(request) : request.continue()));
+};
+
+test("the first picture is the game's, and is seen before the program is there", async t => {
+  let held;
+  const game = await open(t, { started: false, prepare: divert("malvone.js", request => { held = request; }) });
+  await game.page.waitForSelector("#first svg", { visible: true, ...limit });
+  const box = async selector => (await (await game.page.waitForSelector(selector, { visible: true, ...limit })).boundingBox());
+  const before = await box("#first .Window");
+  const words = await game.page.$eval("#first .Window", e => e.innerText);
+  assert.match(words, /Klicken Sie auf »Neues Spiel«/);
+  while (!held) await new Promise(done => setTimeout(done, 10));
+  held.continue();
+  assert.deepEqual(await box(element("frmTessel")), before);
+  assert.equal(await game.page.$("#first"), null);
+});
+
 test("bad luck is told in a sentence", async t => {
-  const game = await open(t, {
-    started: false,
-    prepare: async page => {
-      await page.setRequestInterception(true);
-      page.on("request", request => (request.url().includes(".wasm") ? request.abort() : request.continue()));
-    },
-  });
-  await game.reads("notice", "Eine seiner Dateien fehlt");
-  game.told.length = 0;  // the browser tells of the missing file, as it should
+  for (const part of [".wasm", "malvone.js", "pictures.css", "malvone.css"]) {
+    const game = await open(t, { started: false, prepare: divert(part, request => request.abort()) });
+    await game.reads("notice", "Eine seiner Dateien fehlt");
+    game.told.length = 0;  // the browser tells of the missing file, as it should
+  }
   const silent = await open(t, { started: false, prepare: page => page.setJavaScriptEnabled(false) });
   await silent.page.waitForFunction(() => document.body.innerText.includes("braucht JavaScript"), limit);
 });
@@ -263,9 +287,9 @@ test("the page is drawn sharply at every ratio", async t => {
   const sizes = [desktop, { ...desktop, deviceScaleFactor: 2 }, { ...desktop, deviceScaleFactor: 3 }, phone, { width: 1920, height: 1080, deviceScaleFactor: 1 }];
   for (const size of sizes) {
     const game = await open(t, { size });
-    await game.click("frmTessel.lblNeu");
-    await game.point("frmTessel.imgFeld(55)");
-    await game.reads("frmTessel.lblSumme", "");
+    await game.begin();
+    await game.point(await game.group());
+    await game.reads("frmTessel.lblSumme", "ergibt");
     const cell = await (await game.sees("frmTessel.imgFeld(1)")).boundingBox();
     assert.equal((cell.width * size.deviceScaleFactor) % 1, 0);
     await game.page.screenshot({ path: join(shots, `${size.width}x${size.height}@${size.deviceScaleFactor}.png`) });
@@ -306,9 +330,12 @@ test("a new version plays from the next start on", async t => {
   assert.ok(await page.evaluate(() => document.querySelector("script").src.endsWith("?next")));
 });
 
-test("a new sound cuts the old one, and a manual opens beside the game", async t => {
+test("no sound plays before the first gesture; a new one cuts the old one; a manual opens beside the game", async t => {
   const game = await open(t, {
     prepare: page => page.evaluateOnNewDocument(() => {
+      // To the browser, this test's own questions are gestures too.
+      Object.defineProperty(navigator, "userActivation", { value: { hasBeenActive: false } });
+      addEventListener("pointerdown", () => { navigator.userActivation.hasBeenActive = true; }, true);
       const players = new Set();
       const { play } = HTMLMediaElement.prototype;
       globalThis.heard = [];
@@ -320,7 +347,7 @@ test("a new sound cuts the old one, and a manual opens beside the game", async t
       };
     }),
   });
-  // The test's own questions already count as a gesture, so what plays at the start is left out.
+  assert.deepEqual(await game.page.evaluate(() => heard), []);
   const hears = sound => game.page.waitForFunction(text => heard.at(-1) === text, limit, sound);
   await game.click("frmTessel.lblEnde");
   await hears("CHIMES.WAV 1");

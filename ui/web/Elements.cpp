@@ -1,10 +1,12 @@
-// Elements.cpp: which properties the page hears of. How each looks stands in page.js.
+// Elements.cpp: what the page hears of windows and controls. How it looks stands in page.css.
 #include "ui/web/Elements.h"
 
 #include <algorithm>
-#include <cmath>
+#include <array>
+#include <cstdio>
 #include <type_traits>
 
+#include "ui/layer/App.h"
 #include "ui/web/Page.h"
 #include "ui/windows/PictureFiles.h"
 
@@ -13,42 +15,58 @@ namespace {
 
 constexpr Twips kBar = 360;
 
-// The properties of one element, a name and a value for each.
+std::string Css(Colour colour)
+{
+    std::array<char, 8> text{};
+    std::snprintf(text.data(), text.size(), "#%06X",
+                  static_cast<unsigned>(Rgb(static_cast<std::uint32_t>(colour))));
+    return text.data();
+}
+
+// The properties of an element by name. Those that begin with dashes are of its style; page.css
+// makes lengths and colours of them.
 class Properties
 {
 public:
     template<class T>
     Properties& operator()(const char* name, const T& value)
     {
-        text_ += (text_.empty() ? "" : "\x1e") + std::string(name) + "\x1f";
+        (text_ += name) += '\x1f';
         if constexpr (std::is_same_v<T, bool>) {
-            text_ += value ? "1" : "";
+            text_ += value ? "true" : "";
         } else if constexpr (std::is_arithmetic_v<T>) {
-            const std::string number = std::to_string(value);
-            text_ += number;
+            std::array<char, 16> number{};
+            std::snprintf(number.data(), number.size(), "%.7g", static_cast<double>(value));
+            text_ += number.data();
         } else {
             text_ += value;
         }
+        text_ += '\x1e';
         return *this;
     }
-    Properties& Font(const Font& font, Colour colour)
+    Properties& Place(Twips left, Twips top, Twips width, Twips height)
     {
-        return (*this)("font", font.Size)("bold", font.Bold)("colour", colour);
+        return (*this)("--left", left)("--top", top)("--width", width)("--height", height);
     }
-    // A picture in its own size, cut off where its place ends.
-    Properties& Unscaled(const Picture& picture)
+    Properties& Words(const Font& font, Colour colour)
     {
-        return (*this)("picture", FileOf(picture.Name()))("across", picture.Width());
+        constexpr float kTwipsPerPoint = 20;
+        (*this)("--font", font.Size * kTwipsPerPoint)("--weight", font.Bold ? "bold" : "normal");
+        return (*this)("--colour", Css(colour));
     }
-    void Tell(const std::string& id) const { web::Tell("put", id, text_); }
+    // The element lies in another one, of the page or told before.
+    void Tell(const char* kind, const std::string& id, const std::string& inside) const
+    {
+        Ask("put", std::string(kind), id, inside, text_);
+    }
 
 private:
     std::string text_;
 };
 
-std::string KeyName(Key key)
+std::string KeyName(Key key, const char* control = "Control+")
 {
-    std::string name = (key.Shift & kCtrlKey) != 0 ? "Control+" : "";
+    std::string name = (key.Shift & kCtrlKey) != 0 ? control : "";
     name += (key.Shift & kAltKey) != 0 ? "Alt+" : "";
     if (key.Code >= kKeyF1) {
         return name + "F" + std::to_string(key.Code - kKeyF1 + 1);
@@ -56,73 +74,103 @@ std::string KeyName(Key key)
     return key.Code == 0 ? std::string() : name + static_cast<char>(key.Code);
 }
 
-std::string AccessKeyName(const std::string& caption)
+// The list that an entry opens; without one, the menu bar.
+std::string ListOf(const Window& window, const MenuEntry* entry)
 {
-    return KeyName({AccessKey(caption), kAltKey});
+    return (entry != nullptr ? IdOf(*entry) : IdOf(window)) + " menu";
 }
 
-// What the design puts beside the client area stays out of sight.
-bool IsSeen(const Visual& visual)
-{
-    const bool open = visual.Container() == nullptr || visual.Container()->Visible;
-    return visual.Visible && open && visual.WindowLeft() < visual.Owner().ClientWidth &&
-           visual.WindowTop() < visual.Owner().ClientHeight;
-}
-
+// Entries are told before those of their lists, so that each list comes to stand behind its entry.
 void PutEntry(const MenuEntry& entry)
 {
-    const std::string parent = entry.Parent() != nullptr ? IdOf(*entry.Parent()) : std::string();
+    const Window& window = entry.Owner();
+    const MenuEntry* const parent = entry.Parent();
+    const std::string list = ListOf(window, parent);
+    if (parent == nullptr) {
+        Properties()("role", "menubar").Tell("Menu", list, IdOf(window));
+    } else {
+        Properties()("aria-haspopup", "menu").Tell("MenuEntry", IdOf(*parent), "");
+        Properties()("role", "menu")("hidden", true)
+            .Tell("Menu", list, ListOf(window, parent->Parent()));
+    }
     if (entry.Separator()) {
-        Properties()("kind", "Separator")("parent", parent).Tell(IdOf(entry));
+        Properties()("role", "separator").Tell("Separator", IdOf(entry), list);
         return;
     }
-    const std::string key = KeyName(entry.Shortcut);
-    const std::string letter = AccessKeyName(entry.Caption);
-    Properties()("kind", "MenuEntry")("parent", parent)("caption",
-                                                        PlainCaption(entry.Caption.Get()))(
-        "shortcut", key)("keys", parent.empty() ? letter : key)("letter", letter)(
-        "enabled", entry.Enabled.Get())("hidden", !entry.Visible)("checked", entry.Checked.Get())
-        .Tell(IdOf(entry));
+    const char letter = AccessKey(entry.Caption.Get());
+    const Key key = parent != nullptr ? entry.Shortcut : Key{letter, kAltKey};
+    Properties element;
+    element("textContent", PlainCaption(entry.Caption.Get()));
+    element("data-letter", letter == 0 ? std::string() : std::string(1, letter));
+    element("aria-keyshortcuts", KeyName(key))("data-shortcut", KeyName(entry.Shortcut, "Strg+"));
+    element("disabled", !entry.Enabled)("hidden", !entry.Visible);
+    element("role", entry.Checked ? "menuitemcheckbox" : "menuitem");
+    element("aria-checked", entry.Checked.Get()).Tell("MenuEntry", IdOf(entry), list);
+}
+
+// What only controls of its kind have. The kind names the element's class.
+const char* Describe(const Visual& visual, Properties& element)
+{
+    if (const auto* const image = dynamic_cast<const Image*>(&visual)) {
+        element("data-picture", FileOf(image->Picture->Name()));
+        return "Image";
+    }
+    if (const auto* const label = dynamic_cast<const Label*>(&visual)) {
+        std::string text = label->Caption;
+        std::erase(text, '\r');
+        element("textContent", text);
+        element.Words(label->TextFont, label->ForeColor);
+        element("--align", label->Align == Alignment::Centre ? "center" : "left");
+        if (!label->Transparent) {
+            element("--ground", Css(label->BackColor));
+        }
+        return "Label";
+    }
+    if (const auto* const panel = dynamic_cast<const PictureBox*>(&visual)) {
+        element("--ground", Css(panel->BackColor));
+        element("--across", panel->Picture->Width());
+        element("data-border", panel->Border.Get())("data-picture", FileOf(panel->Picture->Name()));
+        return "PictureBox";
+    }
+    if (const auto* const box = dynamic_cast<const TextBox*>(&visual)) {
+        element.Words(box->TextFont, box->ForeColor);
+        element("--ground", Css(box->BackColor));
+        element("value", box->Text.Get())("maxLength", box->MaxLength);
+        element("readOnly", box->Locked.Get())("tabIndex", box->TabStop && !box->Locked ? 0 : -1);
+        element("selectionEnd", box->SelStart + box->SelLength)("selectionStart",
+                                                                box->SelStart.Get());
+        return "TextBox";
+    }
+    if (const auto* const button = dynamic_cast<const CommandButton*>(&visual)) {
+        element("aria-keyshortcuts", KeyName({AccessKey(button->Caption.Get()), kAltKey}));
+        element("textContent", PlainCaption(button->Caption.Get()));
+        return "CommandButton";
+    }
+    if (const auto* const shape = dynamic_cast<const Shape*>(&visual)) {
+        element("--ground", Css(shape->FillColor));
+        return "Shape";
+    }
+    if (const auto* const line = dynamic_cast<const Line*>(&visual)) {
+        const auto [left, right] = std::minmax<Twips>(line->X1, line->X2);
+        const auto [top, bottom] = std::minmax<Twips>(line->Y1, line->Y2);
+        element.Place(left, top, right - left + kTwipsPerPixel, bottom - top + kTwipsPerPixel);
+        element("--ground", Css(line->BorderColor));
+        return "Line";
+    }
+    return "List";
 }
 
 void PutVisual(const Visual& visual)
 {
     const std::vector<Visual*>& all = visual.Owner().FrontToBack();
     Properties element;
-    element("left", visual.WindowLeft())("top", visual.WindowTop())("width", visual.Width.Get())(
-        "height", visual.Height.Get())("hidden", !IsSeen(visual))("tip", visual.ToolTipText.Get())(
-        "hand", visual.MousePointer == Pointer::Hand)("place", visual.Owner().Place() == &visual)(
-        "level", std::distance(std::find(all.begin(), all.end(), &visual), all.end()));
-    if (const auto* const image = dynamic_cast<const Image*>(&visual)) {
-        element("kind", "Image")("picture", FileOf(image->Picture->Name()));
-    } else if (const auto* const label = dynamic_cast<const Label*>(&visual)) {
-        element("kind", "Label")("text", label->Caption.Get())
-            .Font(label->TextFont, label->ForeColor)("centre", label->Align == Alignment::Centre)(
-                "ground", label->Transparent ? -1 : label->BackColor);
-    } else if (const auto* const panel = dynamic_cast<const PictureBox*>(&visual)) {
-        element("kind", "PictureBox")("ground", panel->BackColor.Get())("border",
-                                                                        panel->Border.Get())
-            .Unscaled(panel->Picture);
-    } else if (const auto* const box = dynamic_cast<const TextBox*>(&visual)) {
-        element("kind", "TextBox")("value", box->Text.Get())("locked", box->Locked.Get())(
-            "stop", box->TabStop && !box->Locked)("ground", box->BackColor.Get())
-            .Font(box->TextFont, box->ForeColor)("select", std::to_string(box->SelStart) + " " +
-                                                               std::to_string(box->SelLength));
-    } else if (const auto* const button = dynamic_cast<const CommandButton*>(&visual)) {
-        element("kind", "CommandButton")("keys", AccessKeyName(button->Caption))(
-            "text", PlainCaption(button->Caption.Get()));
-    } else if (const auto* const shape = dynamic_cast<const Shape*>(&visual)) {
-        element("kind", "Shape")("ground", shape->FillColor.Get());
-    } else if (const auto* const line = dynamic_cast<const Line*>(&visual)) {
-        element("kind", "Line")("ground", line->BorderColor.Get())(
-            "left", std::min<Twips>(line->X1, line->X2))("top",
-                                                         std::min<Twips>(line->Y1, line->Y2))(
-            "width", std::abs(line->X1 - line->X2) +
-                         kTwipsPerPixel)("height", std::abs(line->Y1 - line->Y2) + kTwipsPerPixel);
-    } else {
-        element("kind", "List")("hidden", true);
-    }
-    element.Tell(IdOf(visual));
+    element("--level", std::distance(std::find(all.begin(), all.end(), &visual), all.end()));
+    element.Place(visual.WindowLeft(), visual.WindowTop(), visual.Width, visual.Height);
+    element("hidden", !visual.Seen())("title", visual.ToolTipText.Get());
+    element("data-hand", visual.MousePointer == Pointer::Hand);
+    element("data-place", visual.Owner().Place() == &visual);
+    const char* const kind = Describe(visual, element);
+    element.Tell(kind, IdOf(visual), IdOf(visual.Owner()));
 }
 
 }  // namespace
@@ -133,23 +181,36 @@ Twips Above(const Window& window)
     return bar ? kBar : 0;
 }
 
-std::string IdOf(const Control& control)
+std::string IdOf(const Window& window)
 {
-    return std::string(control.Owner().Name()) + "." + control.FullName();
+    return std::string(window.Name());
 }
 
-void Put(const Window& window)
+std::string IdOf(const Control& control)
 {
-    const bool page = !window.MenuEntries().empty();
+    return IdOf(control.Owner()) + "." + control.FullName();
+}
+
+void Put(const Window& window, int level)
+{
+    Properties element;
+    element("--level", level)("--above", Above(window))("--across", window.Picture->Width());
+    element.Place(window.Left, window.Top, window.Width, window.Height);
+    element("--ground", Css(window.BackColor));
+    const bool main = !window.MenuEntries().empty();
     const bool silent = TitleOf(window) == "Form1";
-    const char* const role = page ? "main" : IsMessage(window) ? "alertdialog" : "dialog";
-    Properties()("kind", "Window")("left", window.Left.Get())("top", window.Top.Get())(
-        "width", window.Width.Get())("height", window.Height.Get())("above", Above(window))(
-        "ground", window.BackColor.Get())("role", silent ? "" : role)(
-        "name", silent ? std::string() : TitleOf(window))(
-        "title", page || Above(window) > 0 ? window.Caption.Get() : std::string())
-        .Unscaled(window.Picture)
-        .Tell(std::string(window.Name()));
+    const Window* const modal = App.TopModal();
+    const std::string words = IdOf(window) + ".lblMeldung " + IdOf(window) + ".lblTitel";
+    element("data-picture", FileOf(window.Picture->Name()));
+    element("role", main ? "main" : IsMessage(window) ? "alertdialog" : "dialog");
+    element("aria-label", TitleOf(window))("aria-describedby", IsMessage(window) ? words : "");
+    element("aria-hidden", silent)("aria-modal", modal == &window);
+    element("inert", modal != nullptr && modal != &window);
+    element("data-title", main ? std::string() : window.Caption.Get());
+    element.Tell("Window", IdOf(window), "screen");
+    if (main) {
+        Properties()("textContent", window.Caption.Get()).Tell("", "title", "");
+    }
 }
 
 void Put(const Control& control)
@@ -163,15 +224,17 @@ void Put(const Control& control)
 
 void Put(const Spoken& spoken, const std::string& name)
 {
-    constexpr const char* kRoles[] = {"img", "button", "button", ""};
+    const bool presses = spoken.Kind == SpokenKind::Button || spoken.Kind == SpokenKind::Cell;
     const bool caption = dynamic_cast<const Label*>(spoken.Where) && spoken.Painted.empty();
-    Properties all;
-    all("said", true)("role", caption ? "" : kRoles[static_cast<int>(spoken.Kind)])(
-        "name", caption ? "" : name);
-    if (spoken.Kind == SpokenKind::Button || spoken.Kind == SpokenKind::Cell) {
-        all("stop", spoken.Kind == SpokenKind::Button);
+    Properties element;
+    element("aria-hidden", "")("aria-label", caption ? "" : name);
+    if (spoken.Kind != SpokenKind::NameBox && !caption) {
+        element("role", presses ? "button" : "img");
     }
-    all.Tell(IdOf(*spoken.Where));
+    if (presses) {
+        element("tabIndex", spoken.Kind == SpokenKind::Button ? 0 : -1);
+    }
+    element.Tell("", IdOf(*spoken.Where), "");
 }
 
 }  // namespace malvone::web

@@ -1,4 +1,5 @@
-// Elements.h: windows and controls as the page is told of them: names of properties with values.
+// Elements.h: windows and controls as the page is told of them: names of an element's properties
+// and attributes, with a value each.
 #pragma once
 
 #include <string>
@@ -12,10 +13,12 @@ namespace malvone::web {
 // the page is its frame.
 Twips Above(const Window& window);
 
+std::string IdOf(const Window& window);
 std::string IdOf(const Control& control);
 
-// Make their element where there is none yet, and tell it what has changed.
-void Put(const Window& window);
+// Make an element where there is none yet, and tell it what has changed. The level of a window
+// grows towards the player.
+void Put(const Window& window, int level);
 void Put(const Control& control);
 void Put(const Spoken& spoken, const std::string& name);
 

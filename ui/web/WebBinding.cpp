@@ -16,48 +16,13 @@
 namespace malvone::web {
 namespace {
 
-Window* WindowNamed(const std::string& name)
-{
-    InstanceBase* const instance = InstanceBase::Find(name);
-    return instance != nullptr ? instance->Current() : nullptr;
-}
-
-// Null where the control has gone since the page has named it.
-Control* ControlNamed(const std::string& id)
-{
-    const std::size_t dot = std::min(id.find('.'), id.size() - 1);
-    const Window* const window = WindowNamed(id.substr(0, dot));
-    return window != nullptr ? window->Find(id.substr(dot + 1)) : nullptr;
-}
-
-std::vector<Picture> PicturesOf(const Window& window)
-{
-    std::vector<Picture> pictures;
-    for (const Visual* const visual : window.FrontToBack()) {
-        if (const auto* const image = dynamic_cast<const Image*>(visual)) {
-            pictures.push_back(image->Picture);
-        }
-    }
-    return pictures;
-}
+using emscripten::val;
 
 // What would hang over the edge of the page could not be reached.
 void KeepOnScreen(Window& window)
 {
     window.Move(std::max<Twips>(0, std::min<Twips>(window.Left, Screen.Width - window.Width)),
                 std::max<Twips>(0, std::min<Twips>(window.Top, Screen.Height - window.Height)));
-}
-
-// As if the player pointed at the middle of the control and clicked.
-void Press(const Visual& visual)
-{
-    Window& window = visual.Owner();
-    Mouse mouse{0, 0, visual.WindowLeft() + visual.Width / 2,
-                visual.WindowTop() + visual.Height / 2};
-    PointerMoved(window, mouse);
-    mouse.Button = kLeftButton;
-    PointerPressed(window, mouse);
-    PointerReleased(window, mouse);
 }
 
 }  // namespace
@@ -78,12 +43,12 @@ void WebBinding::RunModal(Window& window)
 
 Twips WebBinding::ScreenWidth()
 {
-    return static_cast<Twips>(Ask("width"));
+    return Ask<Twips>("width");
 }
 
 Twips WebBinding::ScreenHeight()
 {
-    return static_cast<Twips>(Ask("height"));
+    return Ask<Twips>("height");
 }
 
 // The page is drawn as large as the window with the menu fits it.
@@ -91,35 +56,29 @@ void WebBinding::WindowLoaded(Window& window)
 {
     window.Height = window.ClientHeight + Above(window);
     if (!window.MenuEntries().empty()) {
-        Tell("fit", std::to_string(window.Width), std::to_string(window.Height));
-    }
-}
-
-void WebBinding::WindowShown(Window& window, ShowMode /*mode*/)
-{
-    const auto form = std::find_if(forms_.begin(), forms_.end(),
-                                   [&](const Form& f) { return f.Model == &window; });
-    if (form == forms_.end()) {
-        KeepOnScreen(window);
-        MakeForm(window);
-    } else {
-        std::rotate(form, form + 1, forms_.end());
+        Ask("fit", window.Width.Get(), window.Height.Get());
     }
 }
 
 // The elements stand in the order in which they are read.
-void WebBinding::MakeForm(Window& window)
+void WebBinding::WindowShown(Window& window, ShowMode /*mode*/)
 {
-    Put(window);
-    Form form{&window, SpokenOn(window), {}};
-    for (const Spoken& spoken : form.Said) {
+    const auto shown = std::find_if(forms_.begin(), forms_.end(),
+                                    [&](const Form& form) { return form.Model == &window; });
+    if (shown != forms_.end()) {
+        std::rotate(shown, shown + 1, forms_.end());
+        return;
+    }
+    KeepOnScreen(window);
+    Form& form = forms_.emplace_back(Form{&window, {}});
+    Put(window, 0);
+    for (const Spoken& spoken : SpokenOn(window)) {
         Put(*spoken.Where);
-        Put(spoken, form.Names.emplace_back(NameOf(spoken)));
+        form.Said.emplace_back(spoken, "");
     }
     for (const Control* const control : window.Controls()) {
         Put(*control);
     }
-    forms_.push_back(std::move(form));
 }
 
 void WebBinding::WindowHidden(Window& window)
@@ -129,6 +88,7 @@ void WebBinding::WindowHidden(Window& window)
 
 void WebBinding::WindowUnloaded(Window& window)
 {
+    Ask("remove", IdOf(window));
     std::erase_if(forms_, [&](const Form& form) { return form.Model == &window; });
     std::erase_if(changed_, [&](const Control* control) { return &control->Owner() == &window; });
     dragged_ = dragged_ == &window ? nullptr : dragged_;
@@ -137,7 +97,7 @@ void WebBinding::WindowUnloaded(Window& window)
 void WebBinding::ControlChanged(Control& control, Change what)
 {
     if (const auto* const timer = dynamic_cast<Timer*>(&control)) {
-        Tell("timer", IdOf(control), timer->Running() ? std::to_string(timer->Interval) : "");
+        Ask("timer", IdOf(control), timer->Running() ? timer->Interval.Get() : 0);
     } else if (control.Owner().Shown() && what != Change::Data) {
         changed_.insert(&control);
     }
@@ -150,7 +110,7 @@ void WebBinding::DragWindow(Window& window)
 
 void WebBinding::Ended()
 {
-    Tell("end");
+    Ask("end");
 }
 
 // Before it waits, the program shows what has become different.
@@ -160,137 +120,120 @@ void WebBinding::ShowChanges()
         Put(*control);
     }
     changed_.clear();
-    TellScreenReader();
-    std::string order;
-    for (const Form& form : forms_) {
-        Put(*form.Model);
-        order += std::string(form.Model->Name()) + " ";
-    }
-    const Window* const modal = App.TopModal();
-    Tell("arrange", order, modal != nullptr ? std::string(modal->Name()) : "");
-    const Window* const front = modal != nullptr ? modal : frmTessel.Current();
-    const Visual* focus = front != nullptr ? front->Place() : nullptr;
-    if (front != nullptr && dynamic_cast<const TextBox*>(front->Focus()) != nullptr) {
-        focus = front->Focus();
-    }
-    Tell("focus", focus != nullptr ? IdOf(*focus) : "");
-}
-
-void WebBinding::TellScreenReader()
-{
+    int level = 0;
     for (Form& form : forms_) {
-        for (std::size_t i = 0; i < form.Said.size(); ++i) {
-            std::string name = NameOf(form.Said[i]);
-            if (name != form.Names[i]) {
-                Put(form.Said[i], name);
-                form.Names[i] = std::move(name);
+        Put(*form.Model, ++level);
+        for (auto& [spoken, told] : form.Said) {
+            if (std::string name = NameOf(spoken); name != told) {
+                Put(spoken, name);
+                told = std::move(name);
             }
         }
     }
     if (const std::string news = reporter_.News(); !news.empty()) {
-        Tell("say", news);
+        Ask("say", news);
+    }
+    const Window* const front = App.TopModal() != nullptr ? App.TopModal() : frmTessel.Current();
+    if (front != nullptr) {
+        const auto* const box = dynamic_cast<const TextBox*>(front->Focus());
+        const Visual* const focus = box != nullptr ? box : front->Place();
+        Ask("focus", focus != nullptr ? IdOf(*focus) : IdOf(*front));
     }
 }
 
+// While there is a game that leaving the page would lose, the browser asks before the page goes.
 void WebBinding::HandleNext()
 {
     ShowChanges();
-    const PageEvent event = NextEvent(!Stand.KeinSpielBegonnen);
+    const val event = Ask<val>("nextEvent", !Stand.KeinSpielBegonnen).await();
     const EventScope scope;
-    if (event.Kind == "key") {
+    const auto kind = event["kind"].as<std::string>();
+    // A window, or a control as in "frmTessel.lblNeu". It may have gone since the page has named
+    // it.
+    const auto target = event["target"].as<std::string>();
+    const std::size_t dot = std::min(target.find('.'), target.size());
+    const InstanceBase* const instance = InstanceBase::Find(target.substr(0, dot));
+    Window* const window = instance != nullptr ? instance->Current() : nullptr;
+    if (kind == "key") {
         KeyPressed(event);
-    } else if (event.Kind == "resize") {
+    } else if (kind == "resize") {
         FitScreen();
-    } else if (Window* const window = WindowNamed(event.Target)) {
-        if (event.Kind == "close") {
-            RaiseClose(*window);
-        } else {
-            Pointed(*window, event);
-        }
-    } else if (Control* const control = ControlNamed(event.Target)) {
-        Handle(*control, event);
+    } else if (window != nullptr && dot == target.size()) {
+        Pointed(*window, kind, event);
+    } else if (window != nullptr && window->Find(target.substr(dot + 1)) != nullptr) {
+        Used(*window->Find(target.substr(dot + 1)), kind, event);
     }
 }
 
-void WebBinding::Handle(Control& control, const PageEvent& event)
+void WebBinding::Used(Control& control, const std::string& kind, const val& event)
 {
-    auto* const box = dynamic_cast<TextBox*>(&control);
     if (auto* const timer = dynamic_cast<Timer*>(&control)) {
         RaiseTimer(*timer);
-    } else if (event.Kind == "menu") {
-        RaiseClick(control);
-    } else if (event.Kind == "press") {
+    } else if (auto* const entry = dynamic_cast<MenuEntry*>(&control)) {
+        RaiseMenuClick(*entry);
+    } else if (kind == "press") {
         Press(dynamic_cast<Visual&>(control));
-    } else if (box != nullptr && App.TakesInput(box->Owner())) {
-        box->SetFocus();
-        if (event.Kind == "focus") {
-            return;
+    } else if (auto& box = dynamic_cast<TextBox&>(control); App.TakesInput(box.Owner())) {
+        box.SetFocus();
+        if (kind == "text") {
+            Typed(box, event["text"].as<std::string>(), event["caret"].as<std::int32_t>());
         }
-        const std::string kept = KeepTypable(event.Text);
-        const auto refused = CharacterCount(event.Text) - CharacterCount(kept);
-        box->Text = kept;
-        box->SelStart =
-            static_cast<std::int32_t>(event.Numbers[0]) - static_cast<std::int32_t>(refused);
-        box->SelLength = 0;
-        changed_.insert(box);  // the page has to forget what was refused
     }
 }
 
-void WebBinding::Pointed(Window& window, const PageEvent& event)
+// Where nothing would be left of what was typed, the text stays as it was.
+void WebBinding::Typed(TextBox& box, const std::string& text, std::int32_t caret)
 {
-    const auto [x, y, button, shift, finger] = event.Numbers;
-    const Mouse mouse{static_cast<std::int16_t>(button), static_cast<std::int16_t>(shift),
-                      x - window.Left, y - window.Top - Above(window)};
-    if (event.Kind == "down") {
-        if (&window == frmHintergrund.Current()) {
-            RaiseActivate(window);
-        } else if (mouse.Y < 0 && App.TakesInput(window)) {
+    const std::string kept = KeepTypable(text);
+    if (!kept.empty() || text.empty()) {
+        const std::size_t refused = CharacterCount(text) - CharacterCount(kept);
+        box.Text = kept;
+        box.SelStart = caret - static_cast<std::int32_t>(refused);
+        box.SelLength = 0;
+    }
+    changed_.insert(&box);  // the page has to forget what was refused
+}
+
+void WebBinding::Pointed(Window& window, const std::string& kind, const val& event)
+{
+    if (kind == "close") {
+        RaiseClose(window);
+        return;
+    }
+    const Twips x = event["x"].as<Twips>() - window.Left;
+    const Twips y = event["y"].as<Twips>() - window.Top;
+    const Mouse mouse{event["button"].as<std::int16_t>(), event["shift"].as<std::int16_t>(), x,
+                      y - Above(window)};
+    if (kind == "move" && dragged_ == &window) {
+        window.Move(window.Left + x - grip_.X, window.Top + y - grip_.Y);
+    } else if (kind == "move") {
+        PointerMoved(window, mouse);
+    } else if (kind == "up") {
+        dragged_ = nullptr;
+        PointerReleased(window, mouse);
+    } else if (&window == frmHintergrund.Current()) {
+        RaiseActivate(window);
+    } else {
+        grip_ = Mouse{0, 0, x, y};
+        if (mouse.Y < 0 && App.TakesInput(window)) {
             dragged_ = &window;
-        } else if (finger != 0) {
-            Touched(window, mouse);
+        } else if (event["finger"].as<bool>()) {
+            FingerPressed(window, mouse);
         } else {
             PointerPressed(window, mouse);
         }
-    } else if (dragged_ == &window && event.Kind == "move") {
-        window.Move(window.Left + x - pointerX_, window.Top + y - pointerY_);
-    } else if (event.Kind == "move") {
-        PointerMoved(window, mouse);
-    } else {
-        if (dragged_ == nullptr && !pointing_) {
-            PointerReleased(window, mouse);
-        }
-        dragged_ = nullptr;
-        pointing_ = false;
-    }
-    pointerX_ = x;
-    pointerY_ = y;
-}
-
-// A finger cannot point without touching. Where its coming changes what is seen, it has pointed;
-// where nothing changes, it presses.
-void WebBinding::Touched(Window& window, const Mouse& mouse)
-{
-    Mouse coming = mouse;
-    coming.Button = 0;
-    const std::vector<Picture> before = PicturesOf(window);
-    PointerMoved(window, coming);
-    pointing_ = before != PicturesOf(window);
-    if (!pointing_) {
-        PointerPressed(window, mouse);
     }
 }
 
-void WebBinding::KeyPressed(const PageEvent& event)
+void WebBinding::KeyPressed(const val& event)
 {
     Window* const window = App.TopModal() != nullptr ? App.TopModal() : frmTessel.Current();
-    const Key key{static_cast<std::int16_t>(event.Numbers[0]),
-                  static_cast<std::int16_t>(event.Numbers[1])};
-    const bool heldDown = event.Numbers[2] != 0;
-    if (window == nullptr || (heldDown && !MayRepeat(key))) {
+    const Key key{event["code"].as<std::int16_t>(), event["shift"].as<std::int16_t>()};
+    if (window == nullptr || (event["held"].as<bool>() && !MayRepeat(key))) {
         return;
     }
     if (!RouteKey(*window, key) && App.TakesInput(*window)) {
-        Tell("openMenu", event.Text);
+        Ask("openMenu", event["text"]);
     }
 }
 

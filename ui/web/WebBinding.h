@@ -2,16 +2,17 @@
 // whoever waits, the main loop or the loop of a modal window, takes the next one from it.
 #pragma once
 
+#include <emscripten/val.h>
+
 #include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "ui/layer/Binding.h"
 #include "ui/windows/Spoken.h"
 
 namespace malvone::web {
-
-struct PageEvent;
 
 class WebBinding final : public Binding
 {
@@ -31,30 +32,25 @@ public:
     void Ended() override;
 
 private:
-    // A window on the page, and what a screen reader has been told of it.
+    // A window on the page, and by what name a screen reader knows each of its parts.
     struct Form
     {
         Window* Model;
-        std::vector<Spoken> Said;
-        std::vector<std::string> Names;
+        std::vector<std::pair<Spoken, std::string>> Said;
     };
 
     std::vector<Form> forms_;  // from the lowest to the topmost
     std::set<Control*> changed_;
     Reporter reporter_;
     Window* dragged_ = nullptr;
-    Twips pointerX_ = 0;  // where the pointer was last, on the page
-    Twips pointerY_ = 0;
-    bool pointing_ = false;  // a finger is down that has only pointed
+    Mouse grip_;  // where the pressed window was pressed, from its corner
 
-    void MakeForm(Window& window);
     void ShowChanges();
-    void TellScreenReader();
     void HandleNext();
-    void Handle(Control& control, const PageEvent& event);
-    void Pointed(Window& window, const PageEvent& event);
-    void Touched(Window& window, const Mouse& mouse);
-    void KeyPressed(const PageEvent& event);
+    void Used(Control& control, const std::string& kind, const emscripten::val& event);
+    void Typed(TextBox& box, const std::string& text, std::int32_t caret);
+    void Pointed(Window& window, const std::string& kind, const emscripten::val& event);
+    void KeyPressed(const emscripten::val& event);
     void FitScreen();
 };
 

@@ -1,7 +1,6 @@
 // WebPlatform.cpp: paths as names of entries.
 #include "ui/web/WebPlatform.h"
 
-#include <chrono>
 #include <optional>
 
 #include "platform/TextLines.h"
@@ -9,6 +8,26 @@
 
 namespace malvone::web {
 namespace {
+
+// The bytes of an entry are characters up to 255 on the page.
+std::optional<std::string> ReadEntry(const std::string& name)
+{
+    const auto entry = Ask<emscripten::val>("readEntry", name);
+    if (entry.isUndefined()) {
+        return std::nullopt;
+    }
+    const auto text = entry.as<std::u16string>();
+    return std::string(text.begin(), text.end());
+}
+
+FileFault WriteEntry(const std::string& name, const std::string& bytes)
+{
+    std::u16string text;
+    for (const char byte : bytes) {
+        text += static_cast<unsigned char>(byte);
+    }
+    return static_cast<FileFault>(Ask<std::int32_t>("writeEntry", name, text));
+}
 
 std::string FileName(const std::string& path)
 {
@@ -26,7 +45,7 @@ bool FolderOfExists(const std::string& path)
 
 std::string WebPlatform::GetWindowsDirectoryA()
 {
-    return Ask("storageAllowed") != 0 ? "C:\\WINDOWS" : "";
+    return Ask<bool>("storageAllowed") ? "C:\\WINDOWS" : "";
 }
 
 bool WebPlatform::CreateDirectoryA(const std::string& path)
@@ -48,22 +67,14 @@ std::int32_t WebPlatform::OpenFileExist(const std::string& path)
 void WebPlatform::DeleteFileA(const std::string& path)
 {
     if (!Over) {
-        Tell("removeEntry", path);
+        Ask("removeEntry", path);
     }
 }
 
 ReadLines WebPlatform::ReadTextLines(const std::string& path, std::size_t count)
 {
     const std::optional<std::string> content = ReadEntry(path);
-    if (!content) {
-        return {FileFault::NotFound, {}};
-    }
-    ReadLines result;
-    LineCollector collector(count, result.Lines);
-    collector.Take(*content);
-    collector.EndOfFile();
-    result.Fault = collector.Complete() ? FileFault::None : FileFault::PastEnd;
-    return result;
+    return content ? LinesOf(*content, count) : ReadLines{FileFault::NotFound, {}};
 }
 
 FileFault WebPlatform::WriteTextLines(const std::string& path,
@@ -95,31 +106,19 @@ FileFault WebPlatform::ReplaceTextLines(const std::string& path,
         fault = WriteTextLines(path, lines);
     }
     if (fault != FileFault::None) {
-        Tell("removeEntry", kept);
+        Ask("removeEntry", kept);
     }
     return fault;
 }
 
 void WebPlatform::sndPlaySoundA(const std::string& path)
 {
-    Tell("sound", FileName(path));
-}
-
-std::int32_t WebPlatform::waveOutGetNumDevs()
-{
-    return 1;
+    Ask("sound", FileName(path));
 }
 
 void WebPlatform::ShellExecuteA(const std::string& path)
 {
-    Tell("open", FileName(path));
-}
-
-std::uint64_t WebPlatform::ClockNs()
-{
-    const auto now = std::chrono::system_clock::now().time_since_epoch();
-    return static_cast<std::uint64_t>(
-        std::chrono::duration_cast<std::chrono::nanoseconds>(now).count());
+    Ask("open", FileName(path));
 }
 
 }  // namespace malvone::web

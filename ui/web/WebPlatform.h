@@ -19,9 +19,7 @@ public:
     FileFault ReplaceTextLines(const std::string& path, const std::vector<std::string>& lines,
                                OldFile old) override;
     void sndPlaySoundA(const std::string& path) override;
-    std::int32_t waveOutGetNumDevs() override;
     void ShellExecuteA(const std::string& path) override;
-    std::uint64_t ClockNs() override;
 };
 
 }  // namespace malvone::web

@@ -1,94 +1,100 @@
-// first-picture.mjs: the markup and the style of the game's first picture, made by the program
-// itself, so that a browser shows it while it still loads the program. Run when the page is built,
-// by Node: first-picture.mjs FOLDER MARKUP STYLE
+// first-picture.mjs: the game's first picture, made by the program itself, so that a browser shows it
+// while it still loads the program: the main window's pictures as one picture, its words as elements.
+// Run when the page is built, by Node: first-picture.mjs FOLDER PICTURES MARKUP STYLE
 import { readFileSync, writeFileSync } from "node:fs";
 import vm from "node:vm";
 
-const [folder, markupFile, styleFile] = process.argv.slice(2);
+const [folder, pictures, markupFile, styleFile] = process.argv.slice(2);
 
-// As much of a document as page.js needs to make the first windows in.
-class Element {
-  attributes = {};
-  children = [];
-  dataset = {};
-  style = { setProperty() {} };
-  constructor(localName) { this.localName = localName; }
-  get nextSibling() { return this.parent.children[this.parent.children.indexOf(this) + 1]; }
-  get firstChild() { return this.children[0]; }
-  get lastChild() { return this.children.at(-1); }
-  append(child) {
-    this.children.push(child);
-    child.parent = this;
-  }
-  after(element) {
-    element.parent.children.splice(element.parent.children.indexOf(element), 1);
-    element.parent = this.parent;
-    this.parent.children.splice(this.parent.children.indexOf(this) + 1, 0, element);
-  }
-  setAttribute(name, value) { this.attributes[name] = value; }
-  removeAttribute(name) { delete this.attributes[name]; }
-  toggleAttribute(name, on) { if (on) this.attributes[name] = ""; }
-  addEventListener() {}
-  focus() {}
-  all() { return [this, ...this.children.flatMap(child => child.all())]; }
-  querySelector(selector) {
-    const [, name, value] = /^\[(.*)=(.*)\]$/.exec(selector);
-    return this.all().find(element => element.attributes[name] === value) ?? null;
-  }
-  querySelectorAll() { return []; }
-}
-
-const root = new Element("body");
-for (const id of ["screen", "notice", "again", "news", "stock"]) {
-  root.append(Object.assign(new Element("div"), { id }));
-}
-root.dataset.files = "";
-const getElementById = id => (id && root.all().find(element => element.id === id)) || null;
-const context = vm.createContext({
-  document: {
-    body: root, documentElement: new Element("html"), currentScript: { src: "" }, styleSheets: [{ cssRules: [] }],
-    createElement: name => new Element(name), getElementById,
-  },
-  innerWidth: 1280, innerHeight: 720, devicePixelRatio: 1,
-  addEventListener() {}, clearInterval() {}, setInterval() {},
-  navigator: { userActivation: { hasBeenActive: false } }, localStorage: {}, Audio: class { pause() {} }, console, performance, TextDecoder,
-  fetch: async () => new Response(readFileSync(`${folder}/malvone.wasm`), { headers: { "Content-Type": "application/wasm" } }),
+// Takes down what the program tells a page, up to the first time that it waits.
+const elements = new Map();
+const shown = new Promise((resolve, reject) => {
+  const told = {
+    width: () => 19200,
+    height: () => 10800,
+    storageAllowed: () => true,
+    writeEntry: () => 0,
+    put(kind, id, inside, described) {
+      const of = elements.get(id) ?? { kind, id, inside };
+      for (const pair of described.split("\x1e").slice(0, -1)) {
+        const [name, value] = pair.split("\x1f");
+        of[name] = value;
+      }
+      elements.set(id, of);
+    },
+    nextEvent: () => new Promise(resolve),
+  };
+  const context = vm.createContext({
+    page: new Proxy(told, { get: (all, name) => all[name] ?? (() => {}) }),
+    Module: {}, document: { currentScript: { src: "" } }, console, performance, TextDecoder, setTimeout, clearTimeout,
+    fetch: async () => new Response(readFileSync(`${folder}/malvone.wasm`), { headers: { "Content-Type": "application/wasm" } }),
+  });
+  context.window = context;
+  vm.runInContext(readFileSync(`${folder}/malvone.js`, "utf8"), context);
+  setTimeout(() => reject(new Error("The program does not come to its first picture.")), 60_000).unref();
 });
-context.window = context;
-for (const script of ["page.js", "malvone.js"]) {
-  vm.runInContext(readFileSync(`${folder}/${script}`, "utf8"), context);
-}
-const page = vm.runInContext("page", context);
-const limit = setTimeout(() => { throw new Error("The program does not come to its first picture."); }, 60_000);
-await new Promise(shown => { page.nextEvent = () => new Promise(shown); });
-clearTimeout(limit);
+await shown;
 
-// What covers the screen covers it at every size; any other window lies about its middle.
-const styleOf = ({ className, told, style: { setProperty, ...style } }) => {
-  if (Number(told.width) === page.width()) {
-    Object.assign(style, { left: 0, top: 0, width: "100%", height: "100%" });
-  } else if (className === "Window") {
-    style.left = `calc(50vw + ${told.left - page.width() / 2} * var(--u))`;
-    style.top = `calc(50vh + ${told.top - page.height() / 2} * var(--u))`;
-  }
-  return Object.entries(style).map(([name, value]) =>
-    `${name.replace(/[A-Z]/g, capital => "-" + capital.toLowerCase())}:${value}`).join(";");
-};
+const main = elements.get("frmTessel");
+const seen = [...elements.values()].filter(({ inside, hidden }) => inside === main.id && !hidden)
+  .sort((a, b) => a["--level"] - b["--level"]);
+const pixels = (element, name) => element[name] / 15;
 
-// The page's security policy forbids styles in the markup, so each gets a class. A style that
-// several elements share is written once.
-const styles = new Map();
-const markupOf = element => {
-  if (element.hidden) return "";
-  const style = styleOf(element);
-  if (style && !styles.has(style)) styles.set(style, `f${styles.size}`);
-  const pairs = [["class", `${element.className} ${styles.get(style) ?? ""}`.trim()], ["role", element.attributes.role],
-    ["data-border", element.attributes["data-border"]], ["data-picture", element.dataset.picture]];
-  const attributes = pairs.filter(([, value]) => value !== undefined).map(([name, value]) => `${name}="${value}"`);
-  const text = (element.textContent ?? "").replaceAll("&", "&amp;").replaceAll("<", "&lt;");
-  return `<${element.localName} ${attributes.join(" ")}>${text}${element.children.map(markupOf).join("")}</${element.localName}>`;
+// What a picture draws stands once in the whole, with names of its own.
+const defined = new Map();
+const contentOf = name => {
+  const [, given, drawn] = /<svg ([^>]*)>(.*)<\/svg>/s.exec(readFileSync(`${pictures}/${name}.svg`, "utf8"));
+  const [width, height] = ["width", "height"].map(side => Number(new RegExp(` ${side}="(\\d+)"`).exec(given)[1]));
+  const own = drawn.replace(/id="/g, `$&${name}-`).replace(/(url\(#|href="#)/g, `$&${name}-`).replaceAll("\n", "");
+  return { width, height, own, box: /viewBox="[^"]*"/.exec(given)[0] };
 };
-const windows = getElementById("screen").children.map(markupOf).join("");
-writeFileSync(markupFile, `<div id="first" data-size="${page.design.join(" ")}" aria-hidden="true" inert>${windows}</div>`);
-writeFileSync(styleFile, [...styles].map(([style, name]) => `.${name} { ${style} }\n`).join(""));
+const place = (x, y, [width, height]) => `x="${x}" y="${y}" width="${width}" height="${height}"`;
+const use = (name, x, y, size) => {
+  const { own, box } = contentOf(name);
+  defined.set(name, `<symbol id="${name}" ${box} preserveAspectRatio="none">${own}</symbol>`);
+  return `<use href="#${name}" ${place(x, y, size)}/>`;
+};
+// In its own size, cut off where its place ends.
+const cut = (name, x, y, size) => {
+  const { width, height } = contentOf(name);
+  return `<svg ${place(x, y, size)}>${use(name, 0, 0, [width, height])}</svg>`;
+};
+// The cells of the empty board are alike and touch each other: one pattern is drawn faster than 140
+// pictures.
+const tile = (name, x, y, size) => {
+  const { own } = contentOf(name);
+  if (!defined.has(name)) defined.set(name, `<pattern id="${name}" patternUnits="userSpaceOnUse" ${place(x, y, size)}>${own}</pattern>`);
+  return `<rect fill="url(#${name})" ${place(x, y, size)}/>`;
+};
+// As on the page, edges are moved to whole pixels.
+const drawn = seen.map(element => {
+  const [x, y] = ["--left", "--top"].map(name => Math.round(pixels(element, name)));
+  const size = [["--left", "--width", x], ["--top", "--height", y]]
+    .map(([start, length, from]) => Math.round(pixels(element, start) + pixels(element, length)) - from);
+  const ground = element["--ground"] ? `<rect ${place(x, y, size)} fill="${element["--ground"]}"/>` : "";
+  const picture = element["data-picture"];
+  const way = element.kind !== "Image" ? cut : element.id.startsWith("frmTessel.imgFeld") ? tile : use;
+  return ground + (picture ? way(picture, x, y, size) : "");
+});
+const client = [pixels(main, "--width"), pixels(main, "--height") - pixels(main, "--above")];
+const ground = cut(main["data-picture"], 0, 0, client);
+const whole = `<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 ${client.join(" ")}">` +
+  `${[...defined.values()].join("")}${ground}${drawn.join("")}</svg>`;
+
+// The page's security policy forbids styles in the markup. Before page.js knows the size to the pixel,
+// the picture has as much of it as style sheets can tell.
+const escape = text => text.replaceAll("&", "&amp;").replaceAll("<", "&lt;");
+const style = element => Object.keys(element).filter(name => name.startsWith("--"))
+  .map(name => `${name}: ${element[name]};`).join(" ");
+const words = seen.filter(({ kind, textContent }) => kind === "Label" && textContent);
+const bar = [...elements.values()].filter(({ kind, inside }) => inside === `${main.id} menu` && kind === "MenuEntry");
+const [wide, high] = [pixels(main, "--width"), pixels(main, "--height")];
+const sizes = [2, 3, 4, 5, 6, 7, 8].map(times =>
+  `@media (min-width: ${times * wide}px) and (min-height: ${times * high}px) { :root { --u: calc(${times}px / 15); } }`);
+writeFileSync(markupFile, `<div id="first" aria-hidden="true" inert><div class="Window first">` +
+  `<div role="menubar">${bar.map(entry => `<button>${escape(entry.textContent)}</button>`).join("")}</div><div class="Client">${whole}` +
+  `${words.map((label, i) => `<div class="Label first${i}">${escape(label.textContent)}</div>`).join("")}</div></div></div>`);
+writeFileSync(styleFile, [
+  `@media (max-width: ${wide - 1}px), (max-height: ${high - 1}px) { :root { --u: min(100vw / ${15 * wide}, 100vh / ${15 * high}); } }`,
+  ...sizes, `.first { ${style(main)} }`, ...words.map((label, i) => `.first${i} { ${style(label)} }`), ""].join("\n"));
 process.exit(0);
