@@ -30,6 +30,9 @@ program starts, the others in their place, while the program waits:
     #: mal 5                          the next command is given five times, and told once if it is
                                       answered alike each time
     #: neustart [OPTIONEN]            ends the program by the end of its input and starts it anew
+    #: spur 3fa9 ...                  what can be asked after each command, as two short sums: the
+                                      windows and lists, and the board; -- where each run differs.
+                                      Written by --schreiben at the end; a script without one has none
 
     #|text                            one line of a file
     #*139 text                        139 such lines
@@ -41,6 +44,7 @@ import re
 import shutil
 import sys
 import tempfile
+import zlib
 
 sys.path.append(os.path.join(os.path.dirname(os.path.abspath(__file__)), os.pardir, "support"))
 from processes import Failed, end, script, start
@@ -48,6 +52,27 @@ from processes import Failed, end, script, start
 FILES = ("TADA.WAV", "WHOOSH.WAV", "CHIMES.WAV", "FRAGE.WAV", "FEHLER.WAV", "BLIP.WAV", "ding.wav",
          "Malvone.pdf", "Meldefenster.pdf", "Bestespieler.pdf")
 LIMIT_S = 100
+
+# All that a player sees and that a command may change; what lies on the board goes its own way, as
+# a board that was drawn by lot is another one in each run.
+SEEN = ["windows", "state"] + ["get " + name for name in (
+    *(f"frmTessel.{label}.{what}" for label in ("lblMeldung", "lblSumme", "lblNeu") for what in ("Caption", "ForeColor")),
+    *(f"frmTessel.{image}.{what}" for image in ("imgNext", "imgStart", "imgNaechsterLevel", "imgWiederholen", "lblHilfe", "lblInfo")
+      for what in ("Picture", "Visible")),
+    *(f"frmTessel.{row}({place}).Picture" for row, places in (("imgDiggiPunkte", 5), ("imgDiggiLevelPunkte", 4), ("imgDiggiLevel", 2))
+      for place in range(places)),
+    *(f"frmTessel.cmdSchalt({place}).{what}" for place in range(4) for what in ("Caption", "Enabled", "Visible", "Default")),
+    *(f"frmTessel.mnuTessel({place}).Enabled" for place in range(1, 5)),
+    "frmTessel.mnuSoundan.Checked", "frmTessel.mnuSoundaus.Checked", "frmTessel.Timer1.Enabled", "frmTessel.Timer1.Interval",
+    "frmTessel.Picture1.Visible", "frmTessel.Caption", "frmHintergrund.Width",
+    *(f"frmBeste.{what}.ListCount" for what in ("lstName", "lstPunkte")),
+    *(f"frmBeste.{what}.List({place})" for what in ("lstName", "lstPunkte") for place in range(5)),
+    *(f"frmBeste.txtSpieler({place}).{what}" for place in range(10) for what in ("Text", "Locked", "SelStart", "SelLength")),
+    *(f"frmBeste.imgDiggi({place}).{what}" for place in range(25) for what in ("Picture", "Visible")),
+    *(f"{window}.{label}.Caption" for window in ("frmMsgOk", "frmMsgJa") for label in ("lblMeldung", "lblTitel", "lblName")))]
+BOARD = ["board", "marks", "previews", "pictures"]
+PER_LINE = 18
+RUNS = 20       # in which what differs by chance has shown it
 
 
 def readable(raw):
@@ -64,6 +89,7 @@ class Play:
         self.process = self.prompt = None
         self.times = 1
         self.kept, self.wanted = {}, None   # (name, regex): the next answer is kept or compared
+        self.trace, self.traced = [], any(line.startswith("#: spur") for line in lines)
         for name in ("daten", "programm"):
             (folder / name).mkdir()
         for name in FILES:
@@ -73,6 +99,8 @@ class Play:
         while self.at < len(self.lines):
             line = self.lines[self.at]
             self.at += 1
+            if line.startswith("#: spur"):
+                continue
             if line.startswith("#") or not line:
                 if line.startswith("#: neustart"):
                     self.begin()
@@ -119,6 +147,25 @@ class Play:
         self.process.stdin.flush()
         if text.rstrip("\r") and not text.startswith("#"):
             self.read()
+        if self.traced:
+            self.trace.append((self.all(SEEN), self.all(BOARD)) if self.prompt else ("", ""))
+
+    def all(self, questions):
+        """The answers to many questions, with the questions."""
+        self.process.stdin.write("".join(question + "\n" for question in questions).encode())
+        self.process.stdin.flush()
+        answers = []
+        while len(answers) < len(questions):
+            line = readable(self.process.stdout.readline())
+            if not line:
+                raise Failed("the program has ended with a question")
+            if not line.startswith("> "):
+                answers.append(f"{questions[len(answers)]} {line}\n")
+                if line.startswith("? unknown"):
+                    raise Failed(answers[-1])
+        while not readable(self.process.stdout.readline()).startswith("> "):
+            pass
+        return "".join(answers)
 
     def disguised(self, line):
         """Stands a name in for an answer that is different each time."""
@@ -216,6 +263,45 @@ class Play:
         self.options = options      # The end of the run before it is told above this line.
 
 
+def sums(traces):
+    """For each command of all runs, two short sums of what was seen then."""
+    def short(answers):
+        return zlib.crc32(answers[0].encode("utf-8", "surrogateescape")) & 0xFF if len(set(answers)) == 1 else None
+    return ["".join("--" if value is None else f"{value:02x}" for value in map(short, zip(*runs))) for runs in zip(*traces)]
+
+
+def wanted_sums(lines):
+    return [value for line in lines if line.startswith("#: spur") for value in line.split()[2:]]
+
+
+def compared(trace, lines):
+    """The sums of a run, as blind where the script is blind; prints what was seen where they differ first."""
+    wanted = wanted_sums(lines)
+    found = ["".join(blind if blind == "--" else seen for blind, seen in ((old[:2], new[:2]), (old[2:], new[2:])))
+             for old, new in zip(wanted, sums([trace]))]
+    for number, (old, new, seen) in enumerate(zip(wanted, found, trace), 1):
+        if old != new:
+            print(f"Seen after command {number}, where the sums are {new} instead of {old}:", *seen, sep="\n")
+            break
+    return found + sums([trace])[len(wanted):]
+
+
+def in_lines(values):
+    return ["#: spur " + " ".join(values[i:i + PER_LINE]) for i in range(0, len(values), PER_LINE)]
+
+
+def played_once(program, source, lines):
+    with tempfile.TemporaryDirectory(prefix="malvone-") as folder:
+        play = Play(program, lines, pathlib.Path(folder))
+        try:
+            return play.play(), play.trace
+        except Failed as failure:
+            print("\n".join(play.transcript[-20:]))
+            raise Failed(f"{source}:{play.at}: {failure}") from failure
+        finally:
+            end(play.process)
+
+
 def main():
     arguments = sys.argv[1:]
     writing = "--schreiben" in arguments
@@ -225,18 +311,13 @@ def main():
         sys.exit(__doc__)
     program, source = map(pathlib.Path, arguments)
     lines = source.read_bytes().decode("utf-8", "surrogateescape").removesuffix("\n").split("\n")
-    with tempfile.TemporaryDirectory(prefix="malvone-") as folder:
-        play = Play(program, lines, pathlib.Path(folder))
-        try:
-            played = play.play()
-        except Failed as failure:
-            print("\n".join(play.transcript[-20:]))
-            raise Failed(f"{source}:{play.at}: {failure}") from failure
-        finally:
-            end(play.process)
     if writing:
+        runs = [played_once(program, source, lines) for _ in range(RUNS)]
+        played = runs[0][0] + in_lines(sums([trace for _, trace in runs]))
         source.write_bytes("".join(line + "\n" for line in played).encode("utf-8", "surrogateescape"))
         return 0
+    played, trace = played_once(program, source, lines)
+    played += in_lines(compared(trace, lines))
     difference = list(difflib.unified_diff(lines, played, str(source), "played", lineterm=""))
     sys.stdout.buffer.write("\n".join(difference).encode("utf-8", "backslashreplace"))
     return 1 if difference else 0
