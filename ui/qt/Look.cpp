@@ -3,26 +3,10 @@
 
 #include <QPainter>
 #include <QSvgRenderer>
-#include <algorithm>
 
 #include "ui/qt/PictureFiles.h"
 
 namespace malvone::qt {
-
-namespace {
-
-bool Opaque(const QImage& image)
-{
-    for (int y = 0; y < image.height(); ++y) {
-        const auto* const line = reinterpret_cast<const QRgb*>(image.constScanLine(y));
-        if (!std::all_of(line, line + image.width(), [](QRgb p) { return qAlpha(p) == 255; })) {
-            return false;
-        }
-    }
-    return true;
-}
-
-}  // namespace
 
 Look LookOf(std::string_view file, QSize size, QSize seen)
 {
@@ -44,10 +28,6 @@ QImage Rendered(const Look& look)
     QPainter painter(&image);
     QSvgRenderer(ResourcePath(file)).render(&painter, QRectF(0, 0, width, height));
     painter.end();
-    // What hides everything under it is painted without blending, which is several times faster.
-    if (Opaque(image)) {
-        image.reinterpretAsFormat(QImage::Format_RGB32);
-    }
     return image;
 }
 
