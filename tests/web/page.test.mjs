@@ -139,6 +139,7 @@ test("messages are answered by pointer, key and touch, and move", async t => {
   await game.page.mouse.move(before.x + 250, before.y + 120, { steps: 4 });
   await game.page.mouse.up();
   assert.ok((await (await game.sees("frmMsgJa")).boundingBox()).x > before.x + 40);
+  assert.equal(await game.page.$eval(element("frmMsgJa"), e => getComputedStyle(e, "::before").content), "none");
   await game.press("Escape");
   await game.gone("frmMsgJa");
   await ask();

@@ -206,7 +206,7 @@ void Put(const Window& window, int level)
     element("aria-label", TitleOf(window))("aria-describedby", IsMessage(window) ? words : "");
     element("aria-hidden", silent)("aria-modal", modal == &window);
     element("inert", modal != nullptr && modal != &window);
-    element("data-title", main ? std::string() : window.Caption.Get());
+    element("data-title", main || Above(window) == 0 ? std::string() : window.Caption.Get());
     element.Tell("Window", IdOf(window), "screen");
     if (main) {
         Properties()("textContent", window.Caption.Get()).Tell("", "title", "");
