@@ -85,7 +85,12 @@ public:
     // The value of a text of decimal digits with an optional minus sign; 0 for any other text.
     std::int32_t Number() const { return number_; }
 
-    friend bool operator==(const TagText& a, const TagText& b) { return a.text_ == b.text_; }
+    // Nearly all are one digit long, for which the library's comparison costs more than the rest.
+    friend bool operator==(const TagText& a, const TagText& b)
+    {
+        const bool single = a.text_.size() == 1 && b.text_.size() == 1;
+        return single ? a.text_.front() == b.text_.front() : a.text_ == b.text_;
+    }
 
 private:
     std::string text_;
