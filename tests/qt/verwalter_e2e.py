@@ -29,16 +29,13 @@ def play(desktop, game):
 
 def front_is_kept(name, desktop, game):
     until(lambda: name in TILES or backdrop_in_sight(desktop), "the backdrop on the whole screen")
-    def board_in_sight():
-        """The backdrop has no more than 17 colours; a window of fluxbox's own may lie over a part."""
-        return len(set(game.look(*BOARD))) > 30
-    until(board_in_sight, "the board")
+    board = until(lambda: len(set(game.look(*BOARD))) > 30 and game.look(*BOARD), "the board")
     desktop.do("mousemove", SCREEN[0] - 4, SCREEN[1] // 2, "click", 1)
-    until(board_in_sight, "the game before the backdrop that was clicked")
+    until(lambda: game.look(*BOARD) == board, "the game before the backdrop that was clicked")
     if name not in TILES:
         desktop.do("windowminimize", game.main)
         desktop.do("mousemove", SCREEN[0] - 4, SCREEN[1] // 2, "click", 1)
-        until(board_in_sight, "the game that was minimised")
+        until(lambda: game.look(*BOARD) == board, "the game that was minimised")
 
 
 def message_is_torn_away(desktop, game):

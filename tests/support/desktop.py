@@ -100,6 +100,11 @@ class Desktop:
             told = "OPENBOX_READY"
             self.run("xprop", "-root", "-remove", told)
             manager = [*manager, "--startup", f"xprop -root -f {told} 32x -set {told} 1"]
+        if name == "fluxbox":
+            # Its style wants a wallpaper, and where that fails a message comes over the game.
+            os.makedirs(os.path.join(self.folder, ".fluxbox"), exist_ok=True)
+            with open(os.path.join(self.folder, ".fluxbox", "overlay"), "w", encoding="utf-8") as overlay:
+                overlay.write("background: none\n")
         self.manager = self.start(*manager, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
         until(lambda: "SubstructureRedirect" in self.run("xwininfo", "-root", "-events"), name)
         if name != "twm":

@@ -259,16 +259,16 @@ const divert = (part, way) => async page => {
   page.on("request", request => (request.url().includes(part) ? way(request) : request.continue()));
 };
 
-test("the first picture is the game's, and is seen before the program is there", async t => {
-  let held;
-  const game = await open(t, { started: false, prepare: divert("malvone.js", request => { held = request; }) });
+test("the first picture is the game's, and is seen before the program is there", limit, async t => {
+  let hold;
+  const held = new Promise(resolve => { hold = resolve; });
+  const game = await open(t, { started: false, prepare: divert("malvone.js", hold) });
   await game.page.waitForSelector("#first svg", { visible: true, ...limit });
   const box = async selector => (await (await game.page.waitForSelector(selector, { visible: true, ...limit })).boundingBox());
   const before = await box("#first .Window");
   const words = await game.page.$eval("#first .Window", e => e.innerText);
   assert.match(words, /Klicken Sie auf »Neues Spiel«/);
-  while (!held) await new Promise(done => setTimeout(done, 10));
-  held.continue();
+  (await held).continue();
   assert.deepEqual(await box(element("frmTessel")), before);
   assert.equal(await game.page.$("#first"), null);
 });

@@ -121,9 +121,7 @@ const char* Describe(const Visual& visual, Properties& element)
         element("textContent", text);
         element.Words(label->TextFont, label->ForeColor);
         element("--align", label->Align == Alignment::Centre ? "center" : "left");
-        if (!label->Transparent) {
-            element("--ground", Css(label->BackColor));
-        }
+        element("--ground", label->Transparent ? "transparent" : Css(label->BackColor));
         return "Label";
     }
     if (const auto* const panel = dynamic_cast<const PictureBox*>(&visual)) {

@@ -88,6 +88,8 @@ const style = element => Object.keys(element).filter(name => name.startsWith("--
   .map(name => `${name}: ${element[name]};`).join(" ");
 const words = seen.filter(({ kind, textContent }) => kind === "Label" && textContent);
 const bar = [...elements.values()].filter(({ kind, inside }) => inside === `${main.id} menu` && kind === "MenuEntry");
+// Until its picture is there, the backdrop is as plain as the colour that lies under all of it.
+const backdrop = readFileSync(`${pictures}/${elements.get("frmHintergrund.Image1")["data-picture"]}.svg`, "utf8");
 const [wide, high] = [pixels(main, "--width"), pixels(main, "--height")];
 const sizes = [2, 3, 4, 5, 6, 7, 8].map(times =>
   `@media (min-width: ${times * wide}px) and (min-height: ${times * high}px) { :root { --u: calc(${times}px / 15); } }`);
@@ -96,5 +98,5 @@ writeFileSync(markupFile, `<div id="first" aria-hidden="true" inert><div class="
   `${words.map((label, i) => `<div class="Label first${i}">${escape(label.textContent)}</div>`).join("")}</div></div></div>`);
 writeFileSync(styleFile, [
   `@media (max-width: ${wide - 1}px), (max-height: ${high - 1}px) { :root { --u: min(100vw / ${15 * wide}, 100vh / ${15 * high}); } }`,
-  ...sizes, `.first { ${style(main)} }`, ...words.map((label, i) => `.first${i} { ${style(label)} }`), ""].join("\n"));
+  ...sizes, `#first { background: ${/fill="(#\w+)"/.exec(backdrop)[1]}; }`, `.first { ${style(main)} }`, ...words.map((label, i) => `.first${i} { ${style(label)} }`), ""].join("\n"));
 process.exit(0);
