@@ -64,7 +64,7 @@ class Complaints(logging.Handler):
 
 
 BOARD_CELL = re.compile(r"[.#]|[1-4][ln]?")
-CELL_PICTURES = {"": "stein-{}", "l": "stein-{}-lacht", "n": "stein-{}-neutral"}
+CELL_PICTURES = {"": "stone-{}", "l": "stone-{}-laughing", "n": "stone-{}-neutral"}
 
 
 def board(match):
@@ -82,7 +82,7 @@ def board(match):
         for left, cell in enumerate(row):
             if not BOARD_CELL.fullmatch(cell):
                 fail(f"a board holds the unknown cell {cell!r}")
-            name = "kachel" if cell == "." else CELL_PICTURES[cell[1:]].format(cell[0])
+            name = "tile" if cell == "." else CELL_PICTURES[cell[1:]].format(cell[0])
             cells.append(f'<img src="spiel/{name}.svg" alt="" style="left:{left * size:g}mm;'
                          f'top:{top * size:g}mm;width:{size:g}mm;height:{size:g}mm">')
     label = html.escape(attributes["alt"], quote=True)

@@ -172,7 +172,7 @@ class Making(unittest.TestCase):
         with tempfile.TemporaryDirectory() as folder:
             made = self.build(folder, Path(folder) / "out")
             self.assertEqual(made.returncode, 1)
-            self.assertIn("stein-2-lacht.svg", made.stderr)
+            self.assertIn("stone-2-laughing.svg", made.stderr)
             self.assertEqual(list((Path(folder) / "out").glob("*.pdf")), [])
 
 
