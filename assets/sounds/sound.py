@@ -1,11 +1,11 @@
 #!/usr/bin/env python3
 """Makes the seven waves of the game, the same every time, and measures them.
 
-  klingen.py             writes the waves beside this script and prints what they measure
-  klingen.py --pruefen   writes nothing; fails if a wave is not what this script makes
+  sound.py          writes the waves beside this script and prints what they measure
+  sound.py --check  writes nothing; fails if a wave is not what this script makes
 
-Every sound begins with tones of its own, so that ear and tests/sound/hoeren.py know it from its
-first 150 ms. Loudness is the mean power after the K weighting of ITU-R BS.1770, taken over the
+Every sound begins with tones of its own, so that ear and tests know it from its first
+150 ms. Loudness is the mean power after the K weighting of ITU-R BS.1770, taken over the
 10 ms pieces that lie within 20 dB of the loudest; all seven are brought to the same value.
 """
 import array
@@ -16,110 +16,110 @@ import sys
 import wave
 
 RATE = 44100
-LAUTHEIT_DB = -19.0         # below full scale, K-weighted, over the active part
-TOLERANZ_DB = 1.5           # what --pruefen allows between the waves
-SPITZE_HOECHSTENS = 0.85    # of full scale; nothing may come near clipping
+LOUDNESS_DB = -19.0  # below full scale, K-weighted, over the active part
+TOLERANCE_DB = 1.5   # what --check allows between the waves
+HIGHEST_PEAK = 0.85  # of full scale; nothing may come near clipping
 
 
-def leer(dauer):
-    return [0.0] * round(dauer * RATE)
+def silence(duration):
+    return [0.0] * round(duration * RATE)
 
 
-def ton(ziel, beginn, dauer, hz, teiltoene, staerke=1.0, abkling=None, anstieg=0.006, ende=0.03):
+def note(target, start, duration, hz, partials, strength=1.0, decay=None, attack=0.006, release=0.03):
     """Adds one note: partials (ratio, strength, decay factor), soft at both ends."""
-    erster, zahl = round(beginn * RATE), round(dauer * RATE)
-    an, aus = max(1, round(anstieg * RATE)), max(1, round(ende * RATE))
-    for i in range(min(zahl, len(ziel) - erster)):
+    first, count = round(start * RATE), round(duration * RATE)
+    rising, falling = max(1, round(attack * RATE)), max(1, round(release * RATE))
+    for i in range(min(count, len(target) - first)):
         t = i / RATE
-        wert = sum(s * math.sin(2 * math.pi * hz * v * t)
-                   * (math.exp(-t * f / abkling) if abkling else 1.0) for v, s, f in teiltoene)
-        rand = min(1.0, i / an, (zahl - 1 - i) / aus)
-        ziel[erster + i] += staerke * wert * (0.5 - 0.5 * math.cos(math.pi * rand))
+        value = sum(s * math.sin(2 * math.pi * hz * v * t)
+                    * (math.exp(-t * f / decay) if decay else 1.0) for v, s, f in partials)
+        edge = min(1.0, i / rising, (count - 1 - i) / falling)
+        target[first + i] += strength * value * (0.5 - 0.5 * math.cos(math.pi * edge))
 
 
-BLECH = [(n, n ** -1.3, 0.6 + 0.25 * n) for n in range(1, 8)]
-GLOCKE = [(1.0, 1.0, 1.0), (2.0, 0.35, 1.6), (3.01, 0.16, 2.4), (4.2, 0.06, 4.0)]
-HOLZ = [(1.0, 1.0, 1.0), (3.93, 0.22, 5.0)]
-DUMPF = [(n, n ** -1.5, 0.8 + 0.1 * n) for n in (1, 2, 3, 4, 5)]
-HELL = [(1.0, 1.0, 1.0), (2.76, 0.28, 2.2)]
+BRASS = [(n, n ** -1.3, 0.6 + 0.25 * n) for n in range(1, 8)]
+BELL = [(1.0, 1.0, 1.0), (2.0, 0.35, 1.6), (3.01, 0.16, 2.4), (4.2, 0.06, 4.0)]
+WOOD = [(1.0, 1.0, 1.0), (3.93, 0.22, 5.0)]
+DULL = [(n, n ** -1.5, 0.8 + 0.1 * n) for n in (1, 2, 3, 4, 5)]
+BRIGHT = [(1.0, 1.0, 1.0), (2.76, 0.28, 2.2)]
 
 
 def tada():
-    x = leer(1.15)
+    x = silence(1.15)
     for hz in (392.0, 493.9):
-        ton(x, 0.0, 0.15, hz, BLECH, abkling=0.6, anstieg=0.012)
+        note(x, 0.0, 0.15, hz, BRASS, decay=0.6, attack=0.012)
     for hz, s in ((523.3, 1.0), (659.3, 0.8), (784.0, 0.8)):
-        ton(x, 0.16, 0.99, hz, BLECH, s, abkling=0.55, anstieg=0.015, ende=0.25)
+        note(x, 0.16, 0.99, hz, BRASS, s, decay=0.55, attack=0.015, release=0.25)
     return x
 
 
 def whoosh():
     """Noise through a band that rises and falls again (a state variable filter)."""
-    x, zufall, tief, band = leer(0.42), 20011, 0.0, 0.0
+    x, random, low, band = silence(0.42), 20011, 0.0, 0.0
     for i in range(len(x)):
-        teil = i / len(x)
-        zufall = (zufall * 1103515245 + 12345) % 2 ** 31
-        hz = 600 * (5.5 ** math.sin(math.pi * teil ** 0.7))
+        part = i / len(x)
+        random = (random * 1103515245 + 12345) % 2 ** 31
+        hz = 600 * (5.5 ** math.sin(math.pi * part ** 0.7))
         f = 2 * math.sin(math.pi * hz / RATE)
-        tief += f * band
-        band += f * (zufall / 2 ** 30 - 1 - tief - 0.45 * band)
-        x[i] = band * math.sin(math.pi * teil ** 0.55) ** 2
+        low += f * band
+        band += f * (random / 2 ** 30 - 1 - low - 0.45 * band)
+        x[i] = band * math.sin(math.pi * part ** 0.55) ** 2
     return x
 
 
 def chimes():
-    x = leer(1.2)
+    x = silence(1.2)
     for k, hz in enumerate((1046.5, 1318.5, 1568.0, 2093.0)):
-        ton(x, 0.13 * k, 1.2 - 0.13 * k, hz, GLOCKE, (1.0, 0.9, 0.8, 0.8)[k], abkling=0.22, ende=0.3)
+        note(x, 0.13 * k, 1.2 - 0.13 * k, hz, BELL, (1.0, 0.9, 0.8, 0.8)[k], decay=0.22, release=0.3)
     return x
 
 
 def frage():
-    x = leer(0.5)
-    ton(x, 0.0, 0.2, 587.3, HOLZ, abkling=0.14, ende=0.05)
-    ton(x, 0.17, 0.33, 880.0, HOLZ, abkling=0.14, ende=0.12)
+    x = silence(0.5)
+    note(x, 0.0, 0.2, 587.3, WOOD, decay=0.14, release=0.05)
+    note(x, 0.17, 0.33, 880.0, WOOD, decay=0.14, release=0.12)
     return x
 
 
 def fehler():
-    x = leer(0.62)
-    ton(x, 0.0, 0.22, 233.1, DUMPF, abkling=0.5, anstieg=0.01)
-    ton(x, 0.24, 0.38, 174.6, DUMPF, abkling=0.4, anstieg=0.01, ende=0.12)
+    x = silence(0.62)
+    note(x, 0.0, 0.22, 233.1, DULL, decay=0.5, attack=0.01)
+    note(x, 0.24, 0.38, 174.6, DULL, decay=0.4, attack=0.01, release=0.12)
     return x
 
 
 def blip():
     """One short tone that glides upwards."""
-    x = leer(0.1)
+    x = silence(0.1)
     phase = 0.0
     for i in range(len(x)):
         phase += 2 * math.pi * (680 + 300 * i / len(x)) / RATE
-        rand = min(1.0, i / 350, (len(x) - 1 - i) / 900)
-        x[i] = (math.sin(phase) + 0.15 * math.sin(2 * phase)) * (0.5 - 0.5 * math.cos(math.pi * rand))
+        edge = min(1.0, i / 350, (len(x) - 1 - i) / 900)
+        x[i] = (math.sin(phase) + 0.15 * math.sin(2 * phase)) * (0.5 - 0.5 * math.cos(math.pi * edge))
     return x
 
 
 def ding():
-    x = leer(0.8)
-    ton(x, 0.0, 0.8, 1760.0, HELL, abkling=0.2, ende=0.25)
+    x = silence(0.8)
+    note(x, 0.0, 0.8, 1760.0, BRIGHT, decay=0.2, release=0.25)
     return x
 
 
-KLAENGE = [('TADA.WAV', tada), ('WHOOSH.WAV', whoosh), ('CHIMES.WAV', chimes), ('FRAGE.WAV', frage),
-           ('FEHLER.WAV', fehler), ('BLIP.WAV', blip), ('ding.wav', ding)]
+SOUNDS = [('TADA.WAV', tada), ('WHOOSH.WAV', whoosh), ('CHIMES.WAV', chimes), ('FRAGE.WAV', frage),
+          ('FEHLER.WAV', fehler), ('BLIP.WAV', blip), ('ding.wav', ding)]
 
 
-def k_gewichtet(x):
+def k_weighted(x):
     """The two filters of BS.1770 (a shelf for the head, a high pass), computed for our rate."""
     k = math.tan(math.pi * 1681.974450955533 / RATE)
     q, vh = 0.7071752369554196, 10 ** (3.999843853973347 / 20)
     vb, a0 = vh ** 0.4996667741545416, 1 + k / q + k * k
-    regal = ((vh + vb * k / q + k * k) / a0, 2 * (k * k - vh) / a0, (vh - vb * k / q + k * k) / a0,
+    shelf = ((vh + vb * k / q + k * k) / a0, 2 * (k * k - vh) / a0, (vh - vb * k / q + k * k) / a0,
              2 * (k * k - 1) / a0, (1 - k / q + k * k) / a0)
     k, q = math.tan(math.pi * 38.13547087602444 / RATE), 0.5003270373238773
     a0 = 1 + k / q + k * k
-    hoch = (1.0, -2.0, 1.0, 2 * (k * k - 1) / a0, (1 - k / q + k * k) / a0)
-    for b0, b1, b2, a1, a2 in (regal, hoch):
+    high = (1.0, -2.0, 1.0, 2 * (k * k - 1) / a0, (1 - k / q + k * k) / a0)
+    for b0, b1, b2, a1, a2 in (shelf, high):
         y, z1, z2 = [], 0.0, 0.0
         for w in x:
             o = b0 * w + z1
@@ -129,59 +129,59 @@ def k_gewichtet(x):
     return x
 
 
-def lautheit(x):
-    y, breite = k_gewichtet(x), RATE // 100
-    teile = [sum(w * w for w in y[i:i + breite]) / len(y[i:i + breite]) for i in range(0, len(y), breite)]
-    aktiv = [p for p in teile if p > max(teile) / 100]
-    return 10 * math.log10(sum(aktiv) / len(aktiv))
+def loudness(x):
+    y, width = k_weighted(x), RATE // 100
+    parts = [sum(w * w for w in y[i:i + width]) / len(y[i:i + width]) for i in range(0, len(y), width)]
+    active = [p for p in parts if p > max(parts) / 100]
+    return 10 * math.log10(sum(active) / len(active))
 
 
-def ganze_zahlen(x):
-    faktor = 10 ** ((LAUTHEIT_DB - lautheit(x)) / 20)
-    return array.array('h', [max(-32767, min(32767, round(32767 * faktor * w))) for w in x])
+def whole_numbers(x):
+    factor = 10 ** ((LOUDNESS_DB - loudness(x)) / 20)
+    return array.array('h', [max(-32767, min(32767, round(32767 * factor * w))) for w in x])
 
 
-def schreiben(pfad, werte):
-    with wave.open(pfad, 'wb') as datei:
-        datei.setnchannels(1)
-        datei.setsampwidth(2)
-        datei.setframerate(RATE)
-        datei.writeframes(struct.pack('<%dh' % len(werte), *werte))
+def write(path, values):
+    with wave.open(path, 'wb') as file:
+        file.setnchannels(1)
+        file.setsampwidth(2)
+        file.setframerate(RATE)
+        file.writeframes(struct.pack('<%dh' % len(values), *values))
 
 
-def lesen(pfad):
-    with wave.open(pfad, 'rb') as datei:
-        if (datei.getnchannels(), datei.getsampwidth(), datei.getframerate()) != (1, 2, RATE):
-            sys.exit('%s: not mono, 16 bit, %d Hz' % (pfad, RATE))
-        return struct.unpack('<%dh' % datei.getnframes(), datei.readframes(datei.getnframes()))
+def read(path):
+    with wave.open(path, 'rb') as file:
+        if (file.getnchannels(), file.getsampwidth(), file.getframerate()) != (1, 2, RATE):
+            sys.exit('%s: not mono, 16 bit, %d Hz' % (path, RATE))
+        return struct.unpack('<%dh' % file.getnframes(), file.readframes(file.getnframes()))
 
 
 def main():
-    ordner, pruefen = os.path.dirname(os.path.abspath(__file__)), sys.argv[1:] == ['--pruefen']
-    if sys.argv[1:] and not pruefen:
+    folder, checking = os.path.dirname(os.path.abspath(__file__)), sys.argv[1:] == ['--check']
+    if sys.argv[1:] and not checking:
         sys.exit(__doc__)
-    klagen, laut = [], []
-    for name, machen in KLAENGE:
-        soll, pfad = ganze_zahlen(machen()), os.path.join(ordner, name)
-        if not pruefen:
-            schreiben(pfad, soll)
-        ist = lesen(pfad)
+    complaints, loudnesses = [], []
+    for name, make in SOUNDS:
+        wanted, path = whole_numbers(make()), os.path.join(folder, name)
+        if not checking:
+            write(path, wanted)
+        found = read(path)
         # The mathematics of another machine may round one step differently.
-        if len(ist) != len(soll) or any(abs(a - b) > 1 for a, b in zip(ist, soll)):
-            klagen.append('%s is not what klingen.py makes' % name)
-        x = [w / 32768 for w in ist]
-        spitze, sprung = max(map(abs, x)), max(abs(x[0]), abs(x[-1]))
-        laut.append(lautheit(x))
-        print('%-11s %5.0f ms  peak %.2f  loudness %.2f dB' % (name, 1e3 * len(x) / RATE, spitze, laut[-1]))
-        if spitze > SPITZE_HOECHSTENS:
-            klagen.append('%s: peak %.2f' % (name, spitze))
-        if sprung > 0.002:
-            klagen.append('%s begins or ends with a click' % name)
-    if max(laut) - min(laut) > TOLERANZ_DB:
-        klagen.append('the waves differ by %.1f dB' % (max(laut) - min(laut)))
-    for klage in klagen:
-        print(klage, file=sys.stderr)
-    return 1 if klagen else 0
+        if len(found) != len(wanted) or any(abs(a - b) > 1 for a, b in zip(found, wanted)):
+            complaints.append('%s is not what sound.py makes' % name)
+        x = [w / 32768 for w in found]
+        peak, step = max(map(abs, x)), max(abs(x[0]), abs(x[-1]))
+        loudnesses.append(loudness(x))
+        print('%-11s %5.0f ms  peak %.2f  loudness %.2f dB' % (name, 1e3 * len(x) / RATE, peak, loudnesses[-1]))
+        if peak > HIGHEST_PEAK:
+            complaints.append('%s: peak %.2f' % (name, peak))
+        if step > 0.002:
+            complaints.append('%s begins or ends with a click' % name)
+    if max(loudnesses) - min(loudnesses) > TOLERANCE_DB:
+        complaints.append('the waves differ by %.1f dB' % (max(loudnesses) - min(loudnesses)))
+    for complaint in complaints:
+        print(complaint, file=sys.stderr)
+    return 1 if complaints else 0
 
 
 if __name__ == '__main__':

@@ -59,8 +59,8 @@ class Player:
 
 
 def the_waves_are_what_their_script_makes():
-    run = subprocess.run([sys.executable, "-B", os.path.join(hoeren.WAVES, "klingen.py"),
-                          "--pruefen"], capture_output=True, text=True, timeout=60)
+    run = subprocess.run([sys.executable, "-B", os.path.join(hoeren.WAVES, "sound.py"),
+                          "--check"], capture_output=True, text=True, timeout=60)
     expect(run.returncode == 0, run.stdout + run.stderr)
 
 
