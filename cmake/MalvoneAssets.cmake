@@ -10,10 +10,10 @@ foreach(sound IN LISTS sounds)
 endforeach()
 add_custom_target(klaenge ALL DEPENDS ${sounds_copied})
 
-set(manual_builder "${PROJECT_SOURCE_DIR}/assets/manuals/bauen.py")
+set(manual_builder "${PROJECT_SOURCE_DIR}/assets/manuals/typeset.py")
 if(NOT MALVONE_SANITIZE)
     find_package(Python3 REQUIRED COMPONENTS Interpreter)
-    malvone_glob(manual_parts assets/manuals/*.* assets/manuals/bilder/* assets/pictures/*.svg)
+    malvone_glob(manual_parts assets/manuals/*.* assets/manuals/screenshots/* assets/pictures/*.svg)
     set(manuals_stamp "${PROJECT_BINARY_DIR}/generated/handbuecher.stamp")
     # Each manual is one .html file there; the builder makes a PDF of the same name from it.
     malvone_glob(manual_files assets/manuals/*.html)

@@ -1,13 +1,16 @@
 #!/usr/bin/env python3
 """Makes the three PDF manuals of the game from the HTML sources beside this script.
 
-    bauen.py --pictures DIR --out DIR
+    typeset.py --pictures DIR --out DIR
 
-DIR of --pictures holds the game's own SVG pictures; a source names them as "spiel/NAME.svg".
+DIR of --pictures holds the game's own SVG pictures; a source names them as "pictures/NAME.svg".
 They are drawn as fine pixels by rsvg-convert, because PDF viewers differ in how they draw shaded
-shapes: many show torn rims and lines where there are none. Screenshots lie in "bilder" beside this script. The same input gives the same
-bytes wherever and whenever it is built; a date is written only where SOURCE_DATE_EPOCH sets one. Everything that WeasyPrint warns about stops the
-build, so no manual is shipped with a hole in it.
+shapes: many show torn rims and lines where there are none. The screenshots lie in "screenshots"
+beside this script.
+
+The same input gives the same bytes wherever and whenever it is built; a date is written only where
+SOURCE_DATE_EPOCH sets one. Whatever WeasyPrint warns about stops the build, so that no manual is
+shipped with a hole in it.
 """
 
 import argparse
@@ -24,14 +27,14 @@ from urllib.parse import unquote, urlparse
 
 SOURCES = Path(__file__).resolve().parent
 # Pictures are named in the PDF after their address, so the addresses are no paths of this machine.
-ADDRESS = Path("/handbuch")
+ADDRESS = Path("/manual")
 MANUALS = ("Malvone", "Meldefenster", "Bestespieler")
 FONT = "Liberation-Sans"
 PICTURE_ZOOM = 6  # A stone of 32 pixels printed 7.6 mm wide gets 640 dots per inch.
 
 
 def fail(text):
-    sys.exit(f"bauen.py: {text}")
+    sys.exit(f"typeset.py: {text}")
 
 
 def import_weasyprint():
@@ -68,7 +71,7 @@ CELL_PICTURES = {"": "stone-{}", "l": "stone-{}-laughing", "n": "stone-{}-neutra
 
 
 def board(match):
-    """Turns <brett alt="..." groesse="...">rows</brett> into a drawn section of the board.
+    """Turns <board alt="..." size="...">rows</board> into a drawn section of the board.
 
     A cell is "." (empty) or a colour 1 to 4, followed by l (laughing) or n (neutral).
     """
@@ -76,24 +79,24 @@ def board(match):
     rows = [line.split() for line in match[2].strip().splitlines()]
     if len({len(row) for row in rows}) != 1:
         fail(f"the rows of a board are not equally long: {match[2].strip()!r}")
-    size = float(attributes.get("groesse", "7"))
+    size = float(attributes.get("size", "7"))
     cells = []
     for top, row in enumerate(rows):
         for left, cell in enumerate(row):
             if not BOARD_CELL.fullmatch(cell):
                 fail(f"a board holds the unknown cell {cell!r}")
             name = "tile" if cell == "." else CELL_PICTURES[cell[1:]].format(cell[0])
-            cells.append(f'<img src="spiel/{name}.svg" alt="" style="left:{left * size:g}mm;'
+            cells.append(f'<img src="pictures/{name}.svg" alt="" style="left:{left * size:g}mm;'
                          f'top:{top * size:g}mm;width:{size:g}mm;height:{size:g}mm">')
     label = html.escape(attributes["alt"], quote=True)
-    return (f'<span class="brett" role="img" aria-label="{label}" '
+    return (f'<span class="board" role="img" aria-label="{label}" '
             f'style="width:{len(rows[0]) * size:g}mm;height:{len(rows) * size:g}mm">'
             + "".join(cells) + "</span>")
 
 
 def read_source(name, created):
     text = (SOURCES / f"{name}.html").read_text(encoding="utf-8")
-    text = re.sub(r"<brett\b([^>]*)>(.*?)</brett>", board, text, flags=re.DOTALL)
+    text = re.sub(r"<board\b([^>]*)>(.*?)</board>", board, text, flags=re.DOTALL)
     if created:
         text = text.replace("</title>",
                             f'</title>\n<meta name="dcterms.created" content="{created}">', 1)
@@ -123,13 +126,13 @@ def drawn(picture):
 
 
 def fetcher(pictures):
-    """Reads local files only, and the game's pictures where a source says spiel/."""
+    """Reads local files only, and the game's pictures where a source says pictures/."""
 
     def fetch(url, *_unused_limits, **_unused_options):
         path = Path(unquote(urlparse(url).path))
         if urlparse(url).scheme != "file":
             raise ValueError("only local files may be used")
-        if path.parent == ADDRESS / "spiel":
+        if path.parent == ADDRESS / "pictures":
             return {"string": drawn(pictures / path.name), "mime_type": "image/png"}
         mime = {".png": "image/png", ".css": "text/css"}[path.suffix]
         return {"string": (SOURCES / path.relative_to(ADDRESS)).read_bytes(), "mime_type": mime}

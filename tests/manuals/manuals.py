@@ -1,11 +1,11 @@
 #!/usr/bin/env python3
 """Checks the three PDF manuals in a build folder: their form, and what they tell the player.
 
-    handbuecher.py [BUILDDIR]
+    manuals.py [BUILDDIR]
 
 Without BUILDDIR the environment variable MALVONE_BUILD names the folder.
 Needs pdfinfo, pdffonts, pdftotext and pdftohtml of poppler-utils. The last two tests make the
-manuals themselves, so they also need what assets/manuals/bauen.py needs.
+manuals themselves, so they also need what assets/manuals/typeset.py needs.
 """
 import os
 import re
@@ -153,7 +153,7 @@ class Manuals(unittest.TestCase):
 class Making(unittest.TestCase):
     def build(self, pictures, out, **environment):
         return subprocess.run(
-            [sys.executable, "-B", ROOT / "assets/manuals/bauen.py", "--pictures", pictures,
+            [sys.executable, "-B", ROOT / "assets/manuals/typeset.py", "--pictures", pictures,
              "--out", out], check=False, env={**os.environ, **environment}, capture_output=True,
             encoding="utf-8")
 
