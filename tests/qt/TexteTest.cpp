@@ -63,7 +63,11 @@ TEST_F(Texte, FontsKeepTheSizeOfTheDesign)
 {
     EXPECT_EQ(ToQFont(Font{"Arial", 9.75F, true}).pixelSize(), 13);
     EXPECT_EQ(ToQFont(Font{"Arial", 14.25F, false}).pixelSize(), 19);
-    EXPECT_NE(ToQFont(Font{"MS Sans Serif", 12.0F, true}).family(), QStringLiteral("Arial"));
+}
+
+TEST_F(Texte, AllWordsAreSetInOneFace)
+{
+    EXPECT_EQ(ToQFont(frmBeste->Label1.TextFont).family(), ToQFont(Font()).family());
 }
 
 TEST_F(Texte, EveryMessageFitsItsLabels)

@@ -42,15 +42,9 @@ double LineSpacing(const QFontMetricsF& metrics, std::size_t lines, double heigh
 QFont ToQFont(const Font& font)
 {
     constexpr double kPixelsPerPoint = 96.0 / 72.0;
-    QFont result(ToQString(font.Name));
+    // Few desktops have MS Sans Serif. Arial is close to it and sets all other words.
+    QFont result(font.Name == "MS Sans Serif" ? QStringLiteral("Arial") : ToQString(font.Name));
     result.setStyleHint(QFont::SansSerif);
-    if (font.Name == "MS Sans Serif") {
-        // Few desktops have it. What stands in for it is often a wide face, in which the words
-        // would not fit their labels.
-        result.setFamilies({result.family(), QStringLiteral("Microsoft Sans Serif"),
-                            QStringLiteral("DejaVu Sans"), QStringLiteral("sans-serif")});
-        result.setStretch(QFont::SemiCondensed);
-    }
     result.setPixelSize(
         static_cast<int>(std::lround(static_cast<double>(font.Size) * kPixelsPerPoint)));
     result.setBold(font.Bold);
