@@ -8,13 +8,13 @@ foreach(sound IN LISTS sounds)
         DEPENDS "${sound}" VERBATIM)
     list(APPEND sounds_copied "${PROJECT_BINARY_DIR}/${name}")
 endforeach()
-add_custom_target(klaenge ALL DEPENDS ${sounds_copied})
+add_custom_target(sounds ALL DEPENDS ${sounds_copied})
 
 set(manual_builder "${PROJECT_SOURCE_DIR}/assets/manuals/typeset.py")
 if(NOT MALVONE_SANITIZE)
     find_package(Python3 REQUIRED COMPONENTS Interpreter)
     malvone_glob(manual_parts assets/manuals/*.* assets/manuals/screenshots/* assets/pictures/*.svg)
-    set(manuals_stamp "${PROJECT_BINARY_DIR}/generated/handbuecher.stamp")
+    set(manuals_stamp "${PROJECT_BINARY_DIR}/generated/manuals.stamp")
     # Each manual is one .html file there; the builder makes a PDF of the same name from it.
     malvone_glob(manual_files assets/manuals/*.html)
     list(TRANSFORM manual_files REPLACE ".*/([^/]+)\\.html$" "${PROJECT_BINARY_DIR}/\\1.pdf")
@@ -23,11 +23,11 @@ if(NOT MALVONE_SANITIZE)
                 --pictures "${PROJECT_SOURCE_DIR}/assets/pictures" --out "${PROJECT_BINARY_DIR}"
         COMMAND "${CMAKE_COMMAND}" -E touch "${manuals_stamp}"
         DEPENDS ${manual_parts} COMMENT "Setting the manuals" VERBATIM)
-    add_custom_target(handbuecher ALL DEPENDS "${manuals_stamp}")
+    add_custom_target(manuals ALL DEPENDS "${manuals_stamp}")
 endif()
 
 # What ./play builds: the game and all that it needs beside it.
-add_custom_target(spiel DEPENDS malvone klaenge)
+add_custom_target(playable DEPENDS malvone sounds)
 if(NOT MALVONE_SANITIZE)
-    add_dependencies(spiel handbuecher)
+    add_dependencies(playable manuals)
 endif()

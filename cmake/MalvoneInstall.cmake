@@ -31,7 +31,7 @@ if(NOT MALVONE_SANITIZE)
             DESTINATION "${CMAKE_INSTALL_DATADIR}/icons/hicolor/${size}x${size}/apps")
         list(APPEND icons "${icon}")
     endforeach()
-    add_custom_target(symbole ALL DEPENDS ${icons})
+    add_custom_target(icons ALL DEPENDS ${icons})
 
     install(FILES ${manual_files} DESTINATION "${CMAKE_INSTALL_DOCDIR}")
     cmake_path(RELATIVE_PATH CMAKE_INSTALL_FULL_DOCDIR BASE_DIRECTORY "${MALVONE_SHARE_FOLDER}"

@@ -6,14 +6,14 @@ pkg_check_modules(LIBPULSE REQUIRED libpulse)
 pkg_check_modules(XCB IMPORTED_TARGET xcb xcb-render)
 
 # libpulse is loaded at run time, beside the start; only its headers are needed here.
-malvone_library(malvone_klang ui/sound)
-target_include_directories(malvone_klang SYSTEM PRIVATE ${LIBPULSE_INCLUDE_DIRS})
-target_link_libraries(malvone_klang PUBLIC Threads::Threads ${CMAKE_DL_LIBS})
+malvone_library(malvone_sound ui/sound)
+target_include_directories(malvone_sound SYSTEM PRIVATE ${LIBPULSE_INCLUDE_DIRS})
+target_link_libraries(malvone_sound PUBLIC Threads::Threads ${CMAKE_DL_LIBS})
 
 malvone_library(malvone_qt ui/qt)
 set_target_properties(malvone_qt PROPERTIES AUTOMOC ON)
 target_compile_definitions(malvone_qt PUBLIC QT_NO_CAST_FROM_ASCII QT_NO_KEYWORDS)
-target_link_libraries(malvone_qt PUBLIC Qt6::Widgets Qt6::Svg malvone_core malvone_klang)
+target_link_libraries(malvone_qt PUBLIC Qt6::Widgets Qt6::Svg malvone_core malvone_sound)
 if(TARGET PkgConfig::XCB)
     target_compile_definitions(malvone_qt PRIVATE MALVONE_XCB)
     target_link_libraries(malvone_qt PRIVATE PkgConfig::XCB)
@@ -38,17 +38,17 @@ string(APPEND qrc "</qresource>\n<qresource prefix=\"/\">\n")
 string(APPEND qrc
     "<file alias=\"malvone.svg\">${PROJECT_SOURCE_DIR}/packaging/malvone.svg</file>\n"
     "</qresource>\n</RCC>\n")
-file(CONFIGURE OUTPUT generated/bilder.qrc CONTENT "${qrc}" @ONLY)
-qt_add_resources(picture_sources "${PROJECT_BINARY_DIR}/generated/bilder.qrc"
+file(CONFIGURE OUTPUT generated/pictures.qrc CONTENT "${qrc}" @ONLY)
+qt_add_resources(picture_sources "${PROJECT_BINARY_DIR}/generated/pictures.qrc"
     OPTIONS --no-compress --no-zstd --format-version 1)
-add_library(malvone_bilder OBJECT ${picture_sources})
-target_link_libraries(malvone_bilder PRIVATE Qt6::Core)
+add_library(malvone_pictures OBJECT ${picture_sources})
+target_link_libraries(malvone_pictures PRIVATE Qt6::Core)
 
 # What the first frame shows at scale 1 is rendered by a program of the build.
 add_executable(vorab assets/pictures/vorab.cpp ui/qt/Look.cpp ui/qt/PictureFiles.cpp)
 malvone_target(vorab)
 target_compile_definitions(vorab PRIVATE QT_NO_CAST_FROM_ASCII)
-target_link_libraries(vorab PRIVATE malvone_core malvone_bilder Qt6::Svg)
+target_link_libraries(vorab PRIVATE malvone_core malvone_pictures Qt6::Svg)
 set(ready_pictures "${PROJECT_BINARY_DIR}/generated/ReadyPictures.cpp")
 add_custom_command(OUTPUT "${ready_pictures}"
     COMMAND "${CMAKE_COMMAND}" -E env ASAN_OPTIONS=detect_leaks=0 $<TARGET_FILE:vorab>
@@ -59,7 +59,7 @@ target_sources(malvone_qt PRIVATE "${ready_pictures}")
 # Links a program with the Qt binding and its pictures.
 function(malvone_qt_program NAME)
     malvone_target(${NAME})
-    target_link_libraries(${NAME} PRIVATE malvone_qt malvone_bilder)
+    target_link_libraries(${NAME} PRIVATE malvone_qt malvone_pictures)
 endfunction()
 
 add_executable(malvone "${PROJECT_SOURCE_DIR}/ui/qt/main.cpp")

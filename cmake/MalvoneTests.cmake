@@ -41,8 +41,8 @@ malvone_tests(core_tests malvone_drehbuch SOURCES
 malvone_tests(drehbuch_tests malvone_drehbuch SOURCES tests/games/*Test.cpp)
 
 if(MALVONE_QT)
-    malvone_tests(sound_tests malvone_klang SOURCES tests/sound/*Test.cpp)
-    malvone_tests(qt_tests malvone_qt malvone_bilder SOURCES tests/qt/*Test.cpp tests/qt/main.cpp
+    malvone_tests(sound_tests malvone_sound SOURCES tests/sound/*Test.cpp)
+    malvone_tests(qt_tests malvone_qt malvone_pictures SOURCES tests/qt/*Test.cpp tests/qt/main.cpp
         ENVIRONMENT QT_QPA_PLATFORM=offscreen)
     set_target_properties(qt_tests PROPERTIES AUTOMOC ON)
 
@@ -53,7 +53,7 @@ if(MALVONE_QT)
         cmake_path(GET source STEM name)
         add_executable(${name} ${source})
         malvone_target(${name})
-        target_link_libraries(${name} PRIVATE malvone_klang)
+        target_link_libraries(${name} PRIVATE malvone_sound)
     endforeach()
 endif()
 
@@ -103,7 +103,7 @@ if(MALVONE_QT AND NOT MALVONE_SANITIZE)
         ARGUMENTS "${PROJECT_BINARY_DIR}")
 
     add_test(NAME packaging COMMAND "${Python3_EXECUTABLE}"
-        "${PROJECT_SOURCE_DIR}/packaging/pruefen.py" "${CMAKE_COMMAND}"
+        "${PROJECT_SOURCE_DIR}/packaging/check_install.py" "${CMAKE_COMMAND}"
         "${PROJECT_BINARY_DIR}" "${CMAKE_INSTALL_PREFIX}")
     set_tests_properties(packaging PROPERTIES
         ENVIRONMENT "${test_environment}" LABELS files TIMEOUT 120)

@@ -16,9 +16,9 @@ add_custom_command(OUTPUT "${PROJECT_BINARY_DIR}/web.stamp"
     COMMAND "${CMAKE_COMMAND}" "-DSOURCE=${PROJECT_SOURCE_DIR}" "-DBINARY=${PROJECT_BINARY_DIR}"
             "-DOUT=${web_folder}" "-DNODE=${MALVONE_NODE}" -P "${web_assembler}"
     COMMAND "${CMAKE_COMMAND}" -E touch "${PROJECT_BINARY_DIR}/web.stamp"
-    DEPENDS malvone klaenge handbuecher ${web_parts} "${web_assembler}"
+    DEPENDS malvone sounds manuals ${web_parts} "${web_assembler}"
             "${PROJECT_SOURCE_DIR}/packaging/malvone.svg" VERBATIM)
-add_custom_target(seite ALL DEPENDS "${PROJECT_BINARY_DIR}/web.stamp")
+add_custom_target(page ALL DEPENDS "${PROJECT_BINARY_DIR}/web.stamp")
 
 # The script program under Node reads and writes the real files of the machine.
 malvone_library(malvone_drehbuch tests/drehbuch)

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Installs a build into an empty folder, looks at what lies there as a desktop would, and takes it away.
 
-    pruefen.py CMAKE BUILDDIR PREFIX
+    check_install.py CMAKE BUILDDIR PREFIX
 """
 import os
 import pathlib

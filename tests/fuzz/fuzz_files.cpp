@@ -1,5 +1,5 @@
-// fuzz_dateien.cpp: feeds the two routines that load a data file with arbitrary bytes, and breaks
-// off where one of them crashes, writes, or leaves what no failure may leave.
+// Feeds arbitrary bytes to the two routines that load a data file, and aborts if one of them
+// crashes, writes, or leaves behind what no failure may leave.
 #include <sys/mman.h>
 #include <unistd.h>
 

@@ -3,7 +3,7 @@
 bytes, nothing that lintian has to say, a game that starts where it is installed, and no trace of it
 after its removal.
 
-    paket.py FOLDER     an empty or missing folder to work in, which is left for a look
+    check_package.py FOLDER     an empty or missing folder to work in, which is left for a look
 """
 import contextlib
 import filecmp
@@ -75,7 +75,7 @@ def build(source, folder, conditions, kind, prefix=()):
 
 def same_needs():
     """What ./play installs to build and play, the package asks for too."""
-    listed = run("bash", "-c", '. tools/pakete.sh; printf "%s\\n" "${pakete_spiel[@]}"', cwd=ROOT).split()
+    listed = run("bash", "-c", '. tools/packages.sh; printf "%s\\n" "${play_packages[@]}"', cwd=ROOT).split()
     asked = set(re.findall(r"[a-z0-9.+-]+", (ROOT / "debian/control").read_text()))
     missing = [entry for entry in listed if asked.isdisjoint(entry.split("|"))]
     expect(missing == ["build-essential", "ccache"], f"debian/control does not ask for {missing}")
