@@ -24,7 +24,7 @@ for (const signal of ["SIGTERM", "SIGINT"]) process.on(signal, () => end().final
 
 const built = join(root, "build/web");
 const serve = async (folder = built) => {
-  const server = spawn(join(root, "tools/ausliefern.py"), [folder, "0"], { stdio: ["ignore", "pipe", "inherit"] });
+  const server = spawn(join(root, "tools/serve.py"), [folder, "0"], { stdio: ["ignore", "pipe", "inherit"] });
   ending.push(() => server.kill());
   const line = await new Promise(resolve => server.stdout.once("data", resolve));
   return { address: /http\S+/.exec(line)[0], stop: () => server.kill() };
@@ -113,6 +113,17 @@ const actions = page => {
   };
   return game;
 };
+
+test("the server compresses, names what never changes, and refuses what is no name", async () => {
+  const answer = (path, headers = {}) => fetch(server.address + path, { headers });
+  for (const path of ["%00", "%zz", "%ff"]) assert.equal((await answer(path)).status, 400, path);
+  assert.equal((await answer("..%2f..%2fetc/passwd")).status, 404);
+  const page = await answer("", { "Accept-Encoding": "gzip" });
+  assert.equal(page.headers.get("Content-Encoding"), "gzip");
+  assert.equal(page.headers.get("Cache-Control"), "no-cache");
+  assert.match((await answer("page.js?mark")).headers.get("Cache-Control"), /immutable/);
+  assert.equal((await answer("", { "If-None-Match": page.headers.get("ETag") })).status, 304);
+});
 
 test("a level is played by pointer", async t => {
   const game = await open(t);
@@ -318,6 +329,7 @@ test("a new version plays from the next start on", async t => {
   const only = name => page.waitForFunction(kept => caches.keys().then(names => names.join() === kept), limit, name);
   await page.goto((await serve(folder)).address);
   const [, mark] = /const build = "malvone-(\w+)"/.exec(readFileSync(join(folder, "worker.js"), "utf8"));
+  await page.evaluate(() => navigator.serviceWorker.ready);
   await only(`malvone-${mark}`);
   for (const name of ["index.html", "worker.js"]) {
     const text = readFileSync(join(folder, name), "utf8");
