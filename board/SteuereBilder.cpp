@@ -6,8 +6,8 @@
 
 #include "state/Spielstand.h"
 #include "state/Zellen.h"
-#include "ui/Anzeigen.h"
-#include "ui/Klaenge.h"
+#include "ui/services/Anzeigen.h"
+#include "ui/services/Klaenge.h"
 #include "ui/windows/FrmBilder.h"
 #include "ui/windows/FrmTessel.h"
 

@@ -1,8 +1,8 @@
 // Hilfe.cpp: the two picture buttons of the main window that lead to the manual and to the
 // information window.
-#include "ui/Handbuch.h"
-#include "ui/Klaenge.h"
-#include "ui/Meldungen.h"
+#include "ui/services/Handbuch.h"
+#include "ui/services/Klaenge.h"
+#include "ui/services/Meldungen.h"
 #include "ui/windows/FrmBilder.h"
 #include "ui/windows/FrmTessel.h"
 

@@ -6,8 +6,8 @@
 #include "state/Spielstand.h"
 #include "state/Zellen.h"
 #include "storage/modBeste.h"
-#include "ui/Klaenge.h"
-#include "ui/Meldungen.h"
+#include "ui/services/Klaenge.h"
+#include "ui/services/Meldungen.h"
 #include "ui/windows/FrmBilder.h"
 #include "ui/windows/FrmTessel.h"
 

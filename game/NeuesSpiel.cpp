@@ -3,9 +3,9 @@
 
 #include "board/iniTessel.h"
 #include "state/Spielstand.h"
-#include "ui/Anzeigen.h"
-#include "ui/Klaenge.h"
-#include "ui/Meldungen.h"
+#include "ui/services/Anzeigen.h"
+#include "ui/services/Klaenge.h"
+#include "ui/services/Meldungen.h"
 #include "ui/windows/FrmBilder.h"
 #include "ui/windows/FrmTessel.h"
 

@@ -1,7 +1,7 @@
 // Verlassen.cpp: the question before the main window closes, and the end of the program.
-#include "ui/Klaenge.h"
-#include "ui/Meldungen.h"
 #include "ui/layer/App.h"
+#include "ui/services/Klaenge.h"
+#include "ui/services/Meldungen.h"
 #include "ui/windows/FrmTessel.h"
 
 namespace malvone {

@@ -2,9 +2,9 @@
 #include "storage/Datenordner.h"
 
 #include "state/Pfade.h"
-#include "ui/Klaenge.h"
-#include "ui/Meldungen.h"
 #include "ui/layer/App.h"
+#include "ui/services/Klaenge.h"
+#include "ui/services/Meldungen.h"
 
 namespace malvone {
 

@@ -8,10 +8,10 @@
 #include "platform/CodePage.h"
 #include "state/Pfade.h"
 #include "storage/modBeste.h"
-#include "ui/Handbuch.h"
-#include "ui/Meldungen.h"
 #include "ui/layer/App.h"
 #include "ui/layer/Keys.h"
+#include "ui/services/Handbuch.h"
+#include "ui/services/Meldungen.h"
 #include "ui/windows/FrmDigital.h"
 
 namespace malvone {

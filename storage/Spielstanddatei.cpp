@@ -10,9 +10,9 @@
 #include "state/Spielstand.h"
 #include "state/Zellen.h"
 #include "storage/Zahlen.h"
-#include "ui/Klaenge.h"
-#include "ui/Meldungen.h"
 #include "ui/layer/App.h"
+#include "ui/services/Klaenge.h"
+#include "ui/services/Meldungen.h"
 #include "ui/windows/FrmBilder.h"
 #include "ui/windows/FrmTessel.h"
 

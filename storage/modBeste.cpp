@@ -8,8 +8,8 @@
 #include "state/Pfade.h"
 #include "state/Spielstand.h"
 #include "storage/Zahlen.h"
-#include "ui/Meldungen.h"
 #include "ui/layer/App.h"
+#include "ui/services/Meldungen.h"
 #include "ui/windows/FrmBeste.h"
 #include "ui/windows/FrmTessel.h"
 

@@ -6,8 +6,8 @@
 #include "state/Spielstand.h"
 #include "state/Zellen.h"
 #include "tests/drehbuch/Commands.h"
-#include "ui/Meldungen.h"
 #include "ui/layer/App.h"
+#include "ui/services/Meldungen.h"
 #include "ui/windows/FrmTessel.h"
 
 namespace malvone::script {

@@ -3,8 +3,8 @@
 
 #include "state/Spielstand.h"
 #include "tests/support/Game.h"
-#include "ui/Anzeigen.h"
-#include "ui/Klaenge.h"
+#include "ui/services/Anzeigen.h"
+#include "ui/services/Klaenge.h"
 #include "ui/windows/FrmTessel.h"
 
 namespace malvone::test {

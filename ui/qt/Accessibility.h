@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "ui/layer/Control.h"
-#include "ui/windows/Spoken.h"
+#include "ui/services/Spoken.h"
 
 namespace malvone::qt {
 

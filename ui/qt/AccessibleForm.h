@@ -6,7 +6,7 @@
 #include <QPointer>
 #include <vector>
 
-#include "ui/windows/Spoken.h"
+#include "ui/services/Spoken.h"
 
 namespace malvone::qt {
 

@@ -5,7 +5,7 @@
 #include <string>
 
 #include "ui/layer/Window.h"
-#include "ui/windows/Spoken.h"
+#include "ui/services/Spoken.h"
 
 namespace malvone::web {
 

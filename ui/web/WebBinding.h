@@ -10,7 +10,7 @@
 #include <vector>
 
 #include "ui/layer/Binding.h"
-#include "ui/windows/Spoken.h"
+#include "ui/services/Spoken.h"
 
 namespace malvone::web {
 

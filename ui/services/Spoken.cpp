@@ -1,5 +1,5 @@
 // Spoken.cpp: the words for screen readers, and the tables of what has them.
-#include "ui/windows/Spoken.h"
+#include "ui/services/Spoken.h"
 
 #include <algorithm>
 #include <charconv>

@@ -1,5 +1,5 @@
 // Anzeigen.cpp: numbers as rows of seven-segment pictures.
-#include "ui/Anzeigen.h"
+#include "ui/services/Anzeigen.h"
 
 #include <algorithm>
 #include <cstdint>

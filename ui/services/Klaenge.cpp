@@ -1,5 +1,5 @@
 // Klaenge.cpp: the list of sounds, the sound menu and the test for a device.
-#include "ui/Klaenge.h"
+#include "ui/services/Klaenge.h"
 
 #include <cstddef>
 

@@ -1,10 +1,10 @@
 // Meldungen.cpp: how the two message windows are used, and what they do while they are open.
-#include "ui/Meldungen.h"
+#include "ui/services/Meldungen.h"
 
 #include <string>
 
-#include "ui/Handbuch.h"
 #include "ui/layer/App.h"
+#include "ui/services/Handbuch.h"
 #include "ui/windows/FrmMsgJa.h"
 #include "ui/windows/FrmMsgOk.h"
 #include "ui/windows/FrmTessel.h"

@@ -1,5 +1,5 @@
 // Handbuch.cpp: the manuals beside the program file.
-#include "ui/Handbuch.h"
+#include "ui/services/Handbuch.h"
 
 #include <string>
 
