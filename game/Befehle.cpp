@@ -1,16 +1,11 @@
 // Befehle.cpp: the commands of the main window outside the board, but for the new game.
-#include "board/SteuereBilder.h"
 #include "board/iniTessel.h"
-#include "game/NeuesSpiel.h"
 #include "state/Beste.h"
 #include "state/Spielstand.h"
 #include "storage/Spielstanddatei.h"
-#include "ui/layer/App.h"
 #include "ui/services/Anzeigen.h"
 #include "ui/services/Klaenge.h"
-#include "ui/services/Meldungen.h"
 #include "ui/windows/FrmBeste.h"
-#include "ui/windows/FrmBilder.h"
 #include "ui/windows/FrmTessel.h"
 
 namespace malvone {
@@ -85,28 +80,6 @@ void FrmTessel::imgWiederholen_Click()
     StandLaden();
 }
 
-void FrmTessel::ExternesEnde()
-{
-    if (FrageStellen("\r\nDas aktuelle Spiel ist beendet.\r\n"
-                     "Möchten Sie ein neues Spiel beginnen?\"",
-                     "\r\n»Neues Spiel« bestätigen")) {
-        // By design (halbes-angebot): one would expect the whole offer to go. Only the next level
-        // does. Test:
-        // Levelende.TheEndOfAGameTakesOnePictureOfTheOfferAndItsArrow
-        imgNext.Picture = frmBilder->imgPfeil(kPfeilLeer).Picture;
-        imgNaechsterLevel.Visible = false;
-        Beste.EndPunkte = 0;
-        SpielZuruecksetzen();
-        FeldFuellen();
-        AnzeigenAktualisieren();
-        lblMeldung.Caption = "";
-        Stand.PunkteLevelStart = 0;
-        Stand.LevelWiederholt = 0;
-        return;
-    }
-    App.Ende();
-}
-
 void FrmTessel::mnuTessel_Click(std::int16_t Index)
 {
     switch (Index) {
@@ -125,6 +98,18 @@ void FrmTessel::mnuInfo_Click(std::int16_t Index)
     case kMenuBeste: BesteAnsehen(); break;
     default: break;
     }
+}
+
+void FrmTessel::mnuSoundan_Click()
+{
+    mnuSoundan.Checked = true;
+    mnuSoundaus.Checked = false;
+}
+
+void FrmTessel::mnuSoundaus_Click()
+{
+    mnuSoundaus.Checked = true;
+    mnuSoundan.Checked = false;
 }
 
 void FrmTessel::lblEnde_Click()

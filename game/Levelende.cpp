@@ -1,11 +1,15 @@
-// Levelende.cpp: what follows when a move has left an empty board, or none that can be played on.
+// Levelende.cpp: what follows when a move leaves an empty board or no further move: the bonus, the
+// offer of the next level, or the end of the game.
 #include <string>
 
 #include "board/SteuereBilder.h"
 #include "board/iniTessel.h"
+#include "game/NeuesSpiel.h"
+#include "state/Beste.h"
 #include "state/Spielstand.h"
 #include "state/Zellen.h"
 #include "storage/modBeste.h"
+#include "ui/layer/App.h"
 #include "ui/services/Klaenge.h"
 #include "ui/services/Meldungen.h"
 #include "ui/windows/FrmBilder.h"
@@ -55,6 +59,7 @@ void FrmTessel::LevelAuswerten()
     // does; who empties it plays on without an end. Test: games.leeres_brett
     if (Stand.RundenZahl == kLetzterLevel) {
         BestePruefen();
+        ExternesEnde();
         lblSumme.Caption = "";
         return;
     }
@@ -71,6 +76,22 @@ void FrmTessel::LevelAuswerten()
                                 : "Klicken Sie auf \r\n»Nächster Level«";
     FeldLeeren();
     WiederholenAnbieten(true);
+}
+
+void FrmTessel::ExternesEnde()
+{
+    if (FrageStellen("\r\nDas aktuelle Spiel ist beendet.\r\n"
+                     "Möchten Sie ein neues Spiel beginnen?\"",
+                     "\r\n»Neues Spiel« bestätigen")) {
+        // By design (halbes-angebot): one would expect the whole offer to go. Only the next level
+        // does. Test: Levelende.TheEndOfAGameTakesOnePictureOfTheOfferAndItsArrow
+        imgNext.Picture = frmBilder->imgPfeil(kPfeilLeer).Picture;
+        imgNaechsterLevel.Visible = false;
+        Beste.EndPunkte = 0;
+        SpielBeginnen();
+        return;
+    }
+    App.Ende();
 }
 
 }  // namespace malvone

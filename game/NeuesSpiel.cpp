@@ -10,6 +10,7 @@
 #include "ui/windows/FrmTessel.h"
 
 namespace malvone {
+
 void SpielZuruecksetzen()
 {
     Stand.ZugPunkte = 0;
@@ -18,6 +19,17 @@ void SpielZuruecksetzen()
     Stand.MarkiertZahl = 0;
     frmTessel->cmdSchalt(kSchaltWeiter).Caption = "Spiel begi&nnen";
     frmTessel->cmdSchalt(kSchaltWeiter).ToolTipText = "Klicken Sie hier, um das Spiel zu beginnen";
+}
+
+void SpielBeginnen()
+{
+    SpielZuruecksetzen();
+    FeldFuellen();
+    Stand.KeinSpielBegonnen = false;
+    AnzeigenAktualisieren();
+    frmTessel->lblMeldung.Caption = "";
+    Stand.PunkteLevelStart = 0;
+    Stand.LevelWiederholt = 0;
 }
 
 // Nothing turns the timer on again.
@@ -51,13 +63,7 @@ void FrmTessel::lblNeu_Click()
             return;
         }
     }
-    SpielZuruecksetzen();
-    FeldFuellen();
-    Stand.KeinSpielBegonnen = false;
-    AnzeigenAktualisieren();
-    lblMeldung.Caption = "";
-    Stand.PunkteLevelStart = 0;
-    Stand.LevelWiederholt = 0;
+    SpielBeginnen();
 }
 
 void FrmTessel::Timer1_Timer()

@@ -157,7 +157,6 @@ void BesteEintragen(std::int16_t platz)
     }
     frmBeste->Move(frmTessel->Left - kVersatz, frmTessel->Top - kVersatz);
     frmBeste->Show(ShowMode::Modal);
-    frmTessel->ExternesEnde();
 }
 
 std::int32_t PunkteDesPlatzes(int platz)
@@ -184,15 +183,10 @@ void BestePruefen()
     }
     if (Beste.EintragPlatz == -1) {
         MeldungZeigen(kKeinEintrag);
-        frmTessel->ExternesEnde();
-        return;
+    } else if (FrageStellen(kNeueBestmarke)) {
+        Beste.EintragModus = True;
+        BesteEintragen(Beste.EintragPlatz);
     }
-    if (!FrageStellen(kNeueBestmarke)) {
-        frmTessel->ExternesEnde();
-        return;
-    }
-    Beste.EintragModus = True;
-    BesteEintragen(Beste.EintragPlatz);
 }
 
 }  // namespace malvone

@@ -18,9 +18,9 @@ void BesteLesen();
 // Lists to file, in one step. A file that was not read whole is kept beside it. After a failure,
 // which the player is told, the file is the old one.
 void BesteSpeichern();
-// Inserts Beste.EndPunkte at a place 0 to 4, lets the player type a name, then ends the game.
+// Inserts Beste.EndPunkte at a place 0 to 4 and lets the player type a name.
 void BesteEintragen(std::int16_t platz);
-// Decides whether the finished game comes into the list. Ends in frmTessel's ExternesEnde.
+// Decides whether the finished game comes into the list, and lets the player enter it.
 void BestePruefen();
 
 // The points at a place; a place that is missing or holds no number counts as 0.

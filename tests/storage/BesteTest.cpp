@@ -7,6 +7,7 @@
 #include "storage/modBeste.h"
 #include "tests/support/Game.h"
 #include "ui/windows/FrmBeste.h"
+#include "ui/windows/FrmTessel.h"
 
 namespace malvone::test {
 namespace {
@@ -27,6 +28,12 @@ std::string Digits(int place)
         }
     }
     return digits;
+}
+
+void EndOfGame()
+{
+    BestePruefen();
+    frmTessel->ExternesEnde();
 }
 
 TEST(BesteFenster, ARowShowsItsPoints)
@@ -69,7 +76,7 @@ TEST(BestePruefen, OnlyAGreaterResultTakesAPlace)
         Game game;
         Stand.PunkteGesamt = points;
         Beste.EintragModus = True;  // of an entry that its window has lost
-        const std::string told = game("key Esc\nkey Esc\n", &BestePruefen);
+        const std::string told = game("key Esc\nkey Esc\n", &EndOfGame);
         EXPECT_EQ(Beste.EintragPlatz, place);
         EXPECT_EQ(Beste.EndPunkte, points);
         EXPECT_EQ(Beste.EintragModus, False);
@@ -98,7 +105,7 @@ TEST(BestePruefen, APlaceWithoutANumberCountsAsNothing)
         WriteFile(game.BestList, c.List);
         game("key Esc\n", [] { frmBeste.Touch(); });
         Stand.PunkteGesamt = c.Points;
-        game("key N\nkey Esc\nkey N\n", &BestePruefen);
+        game("key N\nkey Esc\nkey N\n", &EndOfGame);
         EXPECT_EQ(Beste.EintragPlatz, c.Place);
         EXPECT_EQ(Contents(game.BestList), c.List);
     }
@@ -127,7 +134,7 @@ TEST(BestePruefen, AnEntryMovesTheWorseOnesDownAlsoInADamagedList)
         Game game(c.Before);
         game("key Esc\n", [] { frmBeste.Touch(); });
         Stand.PunkteGesamt = c.Points;
-        game("key J\ntype x\ndo frmBeste.cmdEnde Click\nkey J\n", &BestePruefen);
+        game("key J\ntype x\ndo frmBeste.cmdEnde Click\nkey J\n", &EndOfGame);
         EXPECT_EQ(Contents(game.BestList), c.After != nullptr
                                                ? c.After
                                                : "J\xFCrgen \x80\r\n\"a\", b\r\nx\r\n" +

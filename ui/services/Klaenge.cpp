@@ -1,4 +1,4 @@
-// Klaenge.cpp: the list of sounds, the sound menu and the test for a device.
+// Klaenge.cpp: the list of sounds, and when they are played.
 #include "ui/services/Klaenge.h"
 
 #include <cstddef>
@@ -48,18 +48,6 @@ void SoundDirekt(int index)
     if (!App.Ended()) {
         App.System().sndPlaySoundA(SoundDateien[static_cast<std::size_t>(index)]);
     }
-}
-
-void FrmTessel::mnuSoundan_Click()
-{
-    mnuSoundan.Checked = true;
-    mnuSoundaus.Checked = false;
-}
-
-void FrmTessel::mnuSoundaus_Click()
-{
-    mnuSoundaus.Checked = true;
-    mnuSoundan.Checked = false;
 }
 
 }  // namespace malvone

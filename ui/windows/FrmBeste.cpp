@@ -86,4 +86,6 @@ FrmBeste::FrmBeste() : Window("frmBeste", 5130, 4845)
     lblTessel.Click = [this] { lblTessel_Click(); };
 }
 
+FrmBeste::~FrmBeste() = default;
+
 }  // namespace malvone

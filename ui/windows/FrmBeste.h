@@ -12,6 +12,7 @@ class FrmBeste final : public Window
 {
 public:
     FrmBeste();
+    ~FrmBeste() override;
 
     // From front to back. What lies outside the client area is never seen: the two lists are the
     // best list in memory, txtSpieler(5) to (9) hold the points as text, cmdTessel lends Alt+A.

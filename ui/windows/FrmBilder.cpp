@@ -18,4 +18,6 @@ FrmBilder::FrmBilder() : Window("frmBilder", 6000, 4500)
     }
 }
 
+FrmBilder::~FrmBilder() = default;
+
 }  // namespace malvone

@@ -12,6 +12,7 @@ class FrmBilder final : public Window
 {
 public:
     FrmBilder();
+    ~FrmBilder() override;
 
     // Index 0 to 4 is the value of a cell.
     ControlArray<Image> imgBild{Named("imgBild"), IndexRange{0, 4}};          // the normal look

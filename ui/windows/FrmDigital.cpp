@@ -15,4 +15,6 @@ FrmDigital::FrmDigital() : Window("frmDigital", 6000, 4500)
     }
 }
 
+FrmDigital::~FrmDigital() = default;
+
 }  // namespace malvone

@@ -11,6 +11,7 @@ class FrmDigital final : public Window
 {
 public:
     FrmDigital();
+    ~FrmDigital() override;
 
     // 0 to 9 show that digit, kZifferLeer is the blank place.
     ControlArray<Image> imgDiggi{Named("imgDiggi"), IndexRange{0, kZifferLeer}};

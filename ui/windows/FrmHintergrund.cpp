@@ -17,4 +17,6 @@ FrmHintergrund::FrmHintergrund() : Window("frmHintergrund", 13920, 10695)
     Image1.Picture = PictureNamed("frmHintergrund.Image1");
 }
 
+FrmHintergrund::~FrmHintergrund() = default;
+
 }  // namespace malvone

@@ -9,6 +9,7 @@ class FrmHintergrund final : public Window
 {
 public:
     FrmHintergrund();
+    ~FrmHintergrund() override;
 
     Image Image1{Named("Image1")};
 

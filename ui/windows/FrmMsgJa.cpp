@@ -52,4 +52,6 @@ FrmMsgJa::FrmMsgJa() : Window("frmMsgJa", 5880, 3540)
     lblName.MouseMove = [this](const Mouse& mouse) { lblName_MouseMove(mouse); };
 }
 
+FrmMsgJa::~FrmMsgJa() = default;
+
 }  // namespace malvone

@@ -9,6 +9,7 @@ class FrmMsgJa final : public Window
 {
 public:
     FrmMsgJa();
+    ~FrmMsgJa() override;
 
     // From front to back.
     PictureBox Picture1{Named("Picture1")};  // the white panel

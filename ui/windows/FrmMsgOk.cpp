@@ -48,4 +48,6 @@ FrmMsgOk::FrmMsgOk() : Window("frmMsgOk", 5805, 3420)
     lblName.MouseMove = [this](const Mouse& mouse) { lblName_MouseMove(mouse); };
 }
 
+FrmMsgOk::~FrmMsgOk() = default;
+
 }  // namespace malvone

@@ -9,6 +9,7 @@ class FrmMsgOk final : public Window
 {
 public:
     FrmMsgOk();
+    ~FrmMsgOk() override;
 
     // From front to back.
     PictureBox Picture1{Named("Picture1")};  // the white panel

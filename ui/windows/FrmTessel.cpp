@@ -30,6 +30,8 @@ FrmTessel::FrmTessel() : Window("frmTessel", 11325, 6945)
     ConnectEvents();
 }
 
+FrmTessel::~FrmTessel() = default;
+
 void FrmTessel::PlaceControls()
 {
     const design::Place places[] = {

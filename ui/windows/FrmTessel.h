@@ -9,6 +9,7 @@ class FrmTessel final : public Window
 {
 public:
     FrmTessel();
+    ~FrmTessel() override;
 
     // The menu. mnuTessel and mnuInfo begin at index 1.
     MenuEntry mnuTesselMenu{Named("mnuTesselMenu"), nullptr};
