@@ -1,24 +1,48 @@
 #!/usr/bin/env python3
-"""Holds every #include of the game against the table of floors in docs/architecture.md.
+"""Holds the game against the table of floors in docs/architecture.md.
 
-A file may include what lies on its own floor or on a lower one, headers of the standard library
-and, where the table says so, those of its platform. No two files include each other in a circle.
+    tools/floors.py BUILD_FOLDER...
+
+A file may include what lies on its own floor or below, headers of the standard library and, where
+the table says so, those of its platform; no two files include each other in a circle. The same
+holds for calls: what an object file leaves undefined is defined on its own floor or below. The one
+way up is a window's constructor, which connects its events to handlers that stand higher. No two
+folders of one floor need each other.
 """
+import collections
 import pathlib
 import re
+import subprocess
 import sys
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 ROW = re.compile(r"^\| (\d+) \| ([^|]*) \| [^|]* \|([^|]*)\|$", re.M)
 INCLUDE = re.compile(r'^#include ([<"])([^>"]+)[>"]', re.M)
+CONSTRUCTOR = re.compile(r"_ZN(\w+)C[12]E")
 
 
-def main():
-    floors, systems = {}, {}
-    for floor, folders, allowed in ROW.findall((ROOT / "docs/architecture.md").read_text()):
-        for folder in re.findall(r"`([^`]+)/`", folders):
-            floors[folder] = int(floor)
-            systems[folder] = re.findall(r"`<([^>]*)>`", allowed)
+def folder_of(name):
+    return str(pathlib.PurePath(name).parent)
+
+
+def circles(graph):
+    """The ways through a graph that lead back to where they began, each told once."""
+    found, done = [], set()
+
+    def follow(node, trail):
+        if node in trail:
+            found.append("circle: " + " -> ".join([*trail[trail.index(node):], node]))
+        elif node not in done:
+            for following in sorted(graph.get(node, ())):
+                follow(following, [*trail, node])
+            done.add(node)
+
+    for node in sorted(graph):
+        follow(node, [])
+    return found
+
+
+def look_at_includes(floors, systems, rooms):
     faults, reach = [], {}
     for path in (p for folder in floors for p in sorted((ROOT / folder).glob("*.[ch]*"))):
         name, folder = str(path.relative_to(ROOT)), str(path.parent.relative_to(ROOT))
@@ -30,22 +54,85 @@ def main():
                     faults.append(f"{name}: <{wanted}> belongs to no library of this floor")
             elif (ROOT / wanted).exists():
                 reach[name].append(wanted)
-                if floors.get(str(pathlib.PurePath(wanted).parent), 99) > floors[folder]:
+                rooms[folder].add(folder_of(wanted))
+                if floors.get(folder_of(wanted), 99) > floors[folder]:
                     faults.append(f"{name}: {wanted} lies on a higher floor")
-    done = set()
+    return faults + circles(reach), len(reach)
 
-    def follow(name, trail):
-        if name in trail:
-            faults.append("circle: " + " -> ".join([*trail[trail.index(name):], name]))
-        elif name not in done:
-            for wanted in reach.get(name, []):
-                follow(wanted, [*trail, name])
-            done.add(name)
 
-    for name in reach:
-        follow(name, [])
-    print("\n".join(faults) or f"{len(reach)} files stand on {len(set(floors.values()))} floors.")
-    return bool(faults) or not reach
+def objects_in(build, floors):
+    """Object files by source. A folder is built as a whole or not at all."""
+    faults, found = [], {}
+    for path in build.glob("CMakeFiles/*.dir/**/*.o"):
+        source = str(path.relative_to(build)).split(".dir/", 1)[1][:-len(".o")]
+        if folder_of(source) in floors and (ROOT / source).exists():
+            found[source] = path
+    for folder in sorted({folder_of(source) for source in found}):
+        missing = {str(p.relative_to(ROOT)) for p in (ROOT / folder).glob("*.cpp")} - found.keys()
+        faults += [f"{source} is not built in {build}" for source in sorted(missing)]
+    return found, faults or [] if found else [f"{build} holds no object files: build it first"]
+
+
+def symbols_of(build, objects):
+    """What each source defines (strong before weak), and what it leaves to others."""
+    nm = re.search(r"^CMAKE_NM:\w+=(.+)$", (build / "CMakeCache.txt").read_text(), re.M)[1]
+    lines = subprocess.run([nm, "-A", *map(str, objects.values())], check=True, text=True,
+                           stdout=subprocess.PIPE).stdout.splitlines()
+    source_of = {str(path): source for source, path in objects.items()}
+    defined, weak = collections.defaultdict(set), collections.defaultdict(set)
+    wanted = collections.defaultdict(set)
+    for line in lines:
+        place, kind, symbol = re.fullmatch(r"(.*?):[\s0-9a-f-]* ([A-Za-z]) (\S+)", line).groups()
+        if kind in "Uwv":
+            wanted[source_of[place]].add(symbol)
+        elif kind.isupper() or kind == "u":
+            (weak if kind in "WVu" else defined)[symbol].add(source_of[place])
+    return {**weak, **defined}, wanted
+
+
+def look_at_symbols(build, floors, rooms):
+    objects, faults = objects_in(build, floors)
+    if faults:
+        return faults, 0
+    defined, wanted = symbols_of(build, objects)
+    constructed = collections.defaultdict(set)
+    for symbol, sources in defined.items():
+        if match := CONSTRUCTOR.match(symbol):
+            for source in sources:
+                constructed[source].add(match[1])
+    for source, symbols in sorted(wanted.items()):
+        for symbol in sorted(symbols & defined.keys()):
+            target = min(defined[symbol], key=lambda name: floors[folder_of(name)])
+            handler = any(re.match(rf"_ZNK?{name}\d", symbol) for name in constructed[source])
+            if handler:
+                continue
+            rooms[folder_of(source)].add(folder_of(target))
+            if floors[folder_of(target)] > floors[folder_of(source)]:
+                faults.append(f"{source}: {symbol} is defined on a higher floor, in {target}")
+    return faults, len(objects)
+
+
+def main():
+    floors, systems = {}, {}
+    for floor, folders, allowed in ROW.findall((ROOT / "docs/architecture.md").read_text()):
+        for folder in re.findall(r"`([^`]+)/`", folders):
+            floors[folder] = int(floor)
+            systems[folder] = re.findall(r"`<([^>]*)>`", allowed)
+    rooms = collections.defaultdict(set)
+    faults, files = look_at_includes(floors, systems, rooms)
+    objects = 0
+    for build in sys.argv[1:]:
+        told, count = look_at_symbols(pathlib.Path(build), floors, rooms)
+        faults += told
+        objects += count
+    faults += circles({room: reached - {room} for room, reached in rooms.items()})
+    if not sys.argv[1:]:
+        faults.append("no build folder is named: calls are not looked at")
+    text = "\n".join(faults) or (f"{files} files and {objects} object files in {len(floors)} "
+                                 f"folders stand on {len(set(floors.values()))} floors.")
+    print(subprocess.run(["c++filt"], input=text, text=True, check=True,
+                         stdout=subprocess.PIPE).stdout)
+    return bool(faults) or not files
 
 
 if __name__ == "__main__":
