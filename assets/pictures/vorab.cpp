@@ -11,7 +11,6 @@
 #include "ui/qt/Look.h"
 #include "ui/qt/Scale.h"
 #include "ui/windows/FrmTessel.h"
-#include "ui/windows/PictureFiles.h"
 #include "ui/windows/Pictures.h"
 
 namespace malvone::qt {
@@ -172,7 +171,7 @@ void AddGround(Source& source, const FrmTessel& window)
 {
     const Picture& picture = window.Picture;
     const QSize seen(ToWholePixels(window.ClientWidth), ToWholePixels(window.ClientHeight));
-    const Look look = LookOf(FileOf(picture.Name()), SizeOf(picture), seen);
+    const Look look = LookOf(picture.File(), SizeOf(picture), seen);
     source.Add(look, WithoutGround(Rendered(look), ToQColor(window.BackColor).rgb()));
 }
 
@@ -180,7 +179,7 @@ void AddGround(Source& source, const FrmTessel& window)
 void AddFrame(Source& source, const PictureBox& box)
 {
     const QSize seen(ToWholePixels(box.Width), ToWholePixels(box.Height));
-    const Look look = LookOf(FileOf(box.Picture->Name()), SizeOf(box.Picture), seen);
+    const Look look = LookOf(box.Picture->File(), SizeOf(box.Picture), seen);
     source.Add(look, Rendered(look));
 }
 
@@ -193,12 +192,13 @@ bool Run(const char* path)
     const Look backdrop = CoarseLook(PictureNamed("frmHintergrund.Image1"));
     source.Add(backdrop, Rendered(backdrop));
     for (const std::string_view name : kWhole) {
-        const QSize size = SizeOf(PictureNamed(name));
-        const Look look = LookOf(FileOf(name), size, size);
+        const Picture picture = PictureNamed(name);
+        const QSize size = SizeOf(picture);
+        const Look look = LookOf(picture.File(), size, size);
         source.Add(look, Rendered(look));
     }
-    source.AddIcon(FileOf("frmTessel.Icon"));
-    source.AddIcon(FileOf("frmBeste.Icon"));
+    source.AddIcon(PictureNamed("frmTessel.Icon").File());
+    source.AddIcon(PictureNamed("frmBeste.Icon").File());
     return source.Write(path);
 }
 

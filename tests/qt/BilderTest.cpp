@@ -34,25 +34,11 @@ int PaintedPixels(const QImage& image)
     return painted;
 }
 
-TEST(Bilder, TheTableNamesAFileForEachPictureOfTheBankAndNoOther)
-{
-    std::set<std::string_view> bank;
-    std::set<std::string_view> table;
-    for (const PictureInfo& picture : AllPictures()) {
-        bank.insert(picture.Name);
-    }
-    for (const PictureFile& row : PictureFiles()) {
-        EXPECT_TRUE(table.insert(row.Picture).second) << row.Picture << " stands there twice";
-        EXPECT_TRUE(QFile::exists(ResourcePath(row.File))) << row.File;
-    }
-    EXPECT_EQ(table, bank);
-}
-
-TEST(Bilder, EveryShippedFileIsShown)
+TEST(Bilder, TheBankShowsEveryShippedFileAndNoOther)
 {
     std::set<QString> shown = {QStringLiteral("hand.svg")};
-    for (const PictureFile& row : PictureFiles()) {
-        shown.insert(ResourcePath(row.File).section(QLatin1Char('/'), -1));
+    for (const PictureInfo& picture : AllPictures()) {
+        shown.insert(ResourcePath(picture.File).section(QLatin1Char('/'), -1));
     }
     const QStringList shipped = QDir(QStringLiteral(":/pictures")).entryList();
     EXPECT_EQ(std::set<QString>(shipped.begin(), shipped.end()), shown);
@@ -89,7 +75,7 @@ TEST(Bilder, PicturesLoadWithoutWarningInTheShapeThatTheBankGives)
     warnings.clear();
     const auto before = qInstallMessageHandler(KeepWarning);
     for (const PictureInfo& picture : AllPictures()) {
-        QSvgRenderer svg(ResourcePath(FileOf(picture.Name)));
+        QSvgRenderer svg(ResourcePath(picture.File));
         const QSize shape = svg.defaultSize();
         // One file may serve in several sizes, but not in another shape.
         EXPECT_EQ(shape.width() * picture.Height, shape.height() * picture.Width) << picture.Name;

@@ -1,4 +1,5 @@
-// Picture.h: a picture as a name with a size; what file lies behind it is the binding's business.
+// Picture.h: a picture as a name with a file and a size. Where files lie, and what kind they are,
+// is the binding's business.
 #pragma once
 
 #include <string_view>
@@ -6,10 +7,12 @@
 namespace malvone {
 
 // One entry of the picture bank. The name is that of the control in whose definition the picture
-// stands, such as "frmBilder.imgPfeil(1)"; the size is in pixels at scale 1.
+// stands, such as "frmBilder.imgPfeil(1)"; the file has neither folder nor ending; the size is in
+// pixels at scale 1.
 struct PictureInfo
 {
     std::string_view Name;
+    std::string_view File;
     int Width = 0;
     int Height = 0;
 };
@@ -24,6 +27,7 @@ public:
 
     constexpr bool Empty() const { return info_ == nullptr; }
     constexpr std::string_view Name() const { return Empty() ? std::string_view() : info_->Name; }
+    constexpr std::string_view File() const { return Empty() ? std::string_view() : info_->File; }
     constexpr int Width() const { return Empty() ? 0 : info_->Width; }
     constexpr int Height() const { return Empty() ? 0 : info_->Height; }
 

@@ -5,7 +5,6 @@
 
 #include "ui/qt/ReadyPictures.h"
 #include "ui/qt/X11.h"
-#include "ui/windows/PictureFiles.h"
 
 namespace malvone::qt {
 
@@ -14,7 +13,7 @@ namespace malvone::qt {
 Icon::Icon(const Picture& picture)
 {
     if (X11Connection() != nullptr) {
-        const std::string_view file = FileOf(picture.Name());
+        const std::string_view file = picture.File();
         for (const ReadyIcon& ready : ReadyIcons()) {
             if (ready.File == file) {
                 sizes_ = qUncompress(reinterpret_cast<const uchar*>(ready.Packed.data()),

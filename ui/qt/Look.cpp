@@ -17,7 +17,7 @@ Look CoarseLook(const Picture& picture)
 {
     constexpr int kCoarser = 2;
     const QSize size(picture.Width() / kCoarser, picture.Height() / kCoarser);
-    return LookOf(FileOf(picture.Name()), size, size);
+    return LookOf(picture.File(), size, size);
 }
 
 QImage Rendered(const Look& look)

@@ -4,8 +4,6 @@
 #include <QString>
 #include <string_view>
 
-#include "ui/windows/PictureFiles.h"
-
 namespace malvone::qt {
 
 // Where a file of the table lies among the program's resources.

@@ -2,19 +2,18 @@
 #include "ui/qt/PictureStore.h"
 
 #include "ui/qt/ReadyPictures.h"
-#include "ui/windows/PictureFiles.h"
 
 namespace malvone::qt {
 
 const QImage& PictureStore::GetGround(const Picture& picture, QSize size, QSize seen, QRgb under)
 {
-    return Kept(LookOf(FileOf(picture.Name()), size, seen),
+    return Kept(LookOf(picture.File(), size, seen),
                 [under](const Look& look) { return WithoutGround(qt::Rendered(look), under); });
 }
 
 const QImage& PictureStore::Get(const Picture& picture, QSize size, QSize seen)
 {
-    return Kept(LookOf(FileOf(picture.Name()), size, seen), qt::Rendered);
+    return Kept(LookOf(picture.File(), size, seen), qt::Rendered);
 }
 
 QImage PictureStore::Coarse(const Picture& picture)

@@ -8,7 +8,6 @@
 
 #include "ui/layer/App.h"
 #include "ui/web/Page.h"
-#include "ui/windows/PictureFiles.h"
 
 namespace malvone::web {
 namespace {
@@ -112,7 +111,7 @@ void PutEntry(const MenuEntry& entry)
 const char* Describe(const Visual& visual, Properties& element)
 {
     if (const auto* const image = dynamic_cast<const Image*>(&visual)) {
-        element("data-picture", FileOf(image->Picture->Name()));
+        element("data-picture", image->Picture->File());
         return "Image";
     }
     if (const auto* const label = dynamic_cast<const Label*>(&visual)) {
@@ -127,7 +126,7 @@ const char* Describe(const Visual& visual, Properties& element)
     if (const auto* const panel = dynamic_cast<const PictureBox*>(&visual)) {
         element("--ground", Css(panel->BackColor));
         element("--across", panel->Picture->Width());
-        element("data-border", panel->Border.Get())("data-picture", FileOf(panel->Picture->Name()));
+        element("data-border", panel->Border.Get())("data-picture", panel->Picture->File());
         return "PictureBox";
     }
     if (const auto* const box = dynamic_cast<const TextBox*>(&visual)) {
@@ -199,7 +198,7 @@ void Put(const Window& window, int level)
     const bool silent = TitleOf(window) == "Form1";
     const Window* const modal = App.TopModal();
     const std::string words = IdOf(window) + ".lblMeldung " + IdOf(window) + ".lblTitel";
-    element("data-picture", FileOf(window.Picture->Name()));
+    element("data-picture", window.Picture->File());
     element("role", main ? "main" : IsMessage(window) ? "alertdialog" : "dialog");
     element("aria-label", TitleOf(window))("aria-describedby", IsMessage(window) ? words : "");
     element("aria-hidden", silent)("aria-modal", modal == &window);

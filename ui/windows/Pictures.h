@@ -1,4 +1,4 @@
-// Pictures.h: the bank of pictures: every picture of the program by name, with its size in pixels.
+// Pictures.h: the bank of pictures: every picture of the program by name, with its file and size.
 #pragma once
 
 #include <span>
