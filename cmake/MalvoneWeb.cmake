@@ -11,12 +11,11 @@ target_link_options(malvone PRIVATE --bind -sENVIRONMENT=web -sASYNCIFY
 find_program(MALVONE_NODE NAMES node nodejs REQUIRED)
 set(web_folder "${PROJECT_SOURCE_DIR}/build/web")
 malvone_glob(web_parts ui/web/*.in ui/web/*.css ui/web/*.js ui/web/*.mjs ui/web/*.webmanifest assets/pictures/*.svg)
-set(web_assembler "${PROJECT_SOURCE_DIR}/cmake/WebPage.cmake")
 add_custom_command(OUTPUT "${PROJECT_BINARY_DIR}/web.stamp"
-    COMMAND "${CMAKE_COMMAND}" "-DSOURCE=${PROJECT_SOURCE_DIR}" "-DBINARY=${PROJECT_BINARY_DIR}"
-            "-DOUT=${web_folder}" "-DNODE=${MALVONE_NODE}" -P "${web_assembler}"
+    COMMAND "${MALVONE_NODE}" "${PROJECT_SOURCE_DIR}/ui/web/build-page.mjs"
+            "${PROJECT_SOURCE_DIR}" "${PROJECT_BINARY_DIR}" "${web_folder}"
     COMMAND "${CMAKE_COMMAND}" -E touch "${PROJECT_BINARY_DIR}/web.stamp"
-    DEPENDS malvone sounds manuals ${web_parts} "${web_assembler}"
+    DEPENDS malvone sounds manuals ${web_parts}
             "${PROJECT_SOURCE_DIR}/packaging/malvone.svg" VERBATIM)
 add_custom_target(page ALL DEPENDS "${PROJECT_BINARY_DIR}/web.stamp")
 

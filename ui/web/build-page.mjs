@@ -1,0 +1,51 @@
+// build-page.mjs: puts the files of the page together. Run by Node when the page is built:
+//   build-page.mjs SOURCE BINARY OUT
+// SOURCE is the repository, BINARY holds program, sounds and manuals, OUT becomes the page.
+import { createHash } from "node:crypto";
+import { copyFileSync, mkdirSync, readdirSync, readFileSync, rmSync, writeFileSync } from "node:fs";
+import { basename, join } from "node:path";
+import { firstPicture } from "./first-picture.mjs";
+
+const [source, binary, out] = process.argv.slice(2);
+const text = path => readFileSync(path, "utf8");
+const part = name => join(source, "ui/web", name);
+const write = (name, content) => writeFileSync(join(out, name), content);
+
+rmSync(out, { recursive: true, force: true });
+mkdirSync(out, { recursive: true });
+const beside = readdirSync(binary).filter(name => /\.(wav|pdf)$/i.test(name)).sort();
+for (const name of ["malvone.js", "malvone.wasm", ...beside]) copyFileSync(join(binary, name), join(out, name));
+for (const path of [part("page.js"), part("malvone.webmanifest"), join(source, "packaging/malvone.svg")]) {
+  copyFileSync(path, join(out, basename(path)));
+}
+
+const first = await firstPicture(out, join(source, "assets/pictures"));
+write("malvone.css", text(part("page.css")) + first.style);
+
+// One style sheet holds all pictures, so that one request brings them. A picture fills its place; a
+// proportion of its own would leave a margin.
+const pictures = readdirSync(join(source, "assets/pictures")).filter(name => name.endsWith(".svg")).sort();
+write("pictures.css", pictures.map(file => {
+  const name = basename(file, ".svg");
+  const svg = text(join(source, "assets/pictures", file)).replaceAll("%", "%25").replaceAll("#", "%23")
+    .replaceAll('"', "'").replaceAll("\n", " ").replace("<svg ", "<svg preserveAspectRatio='none' ");
+  const url = `url("data:image/svg+xml,${svg}")`;
+  return name === "hand" ? `[data-hand] { cursor: ${url} 5 0, pointer; }\n`
+    : `[data-picture=${name}] { background-image: ${url}; }\n`;
+}).join(""));
+
+// What is asked for carries the mark of its build, so that files of two builds never meet.
+const sum = createHash("sha256");
+for (const name of ["index.html.in", "worker.js.in"]) sum.update(text(part(name)));
+sum.update(first.markup);
+for (const name of readdirSync(out).sort()) sum.update(readFileSync(join(out, name)));
+const build = sum.digest("hex").slice(0, 12);
+const marked = ["page.js", "malvone.css", "pictures.css", "malvone.js", "malvone.wasm"].map(name => `${name}?${build}`);
+const values = {
+  BUILD: build, BESIDE: beside.join(" "), FIRST: first.markup,
+  FILES: [...marked, "malvone.svg", "malvone.webmanifest"].join(" "),
+};
+for (const name of ["index.html", "worker.js"]) {
+  write(name, text(part(`${name}.in`)).replace(/@MALVONE_(\w+)@/g, (_, value) => values[value]));
+}
+process.exit(0);
