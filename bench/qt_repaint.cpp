@@ -8,10 +8,10 @@
 #include "game/Main.h"
 #include "state/Zellen.h"
 #include "ui/layer/App.h"
-#include "ui/qt/FormWidget.h"
-#include "ui/qt/Painting.h"
 #include "ui/qt/QtBinding.h"
-#include "ui/qt/QtPlatform.h"
+#include "ui/qt/drawing/Painting.h"
+#include "ui/qt/platform/QtPlatform.h"
+#include "ui/qt/windows/FormWidget.h"
 #include "ui/sound/Sound.h"
 #include "ui/windows/FrmTessel.h"
 

@@ -10,7 +10,7 @@ malvone_library(malvone_sound ui/sound)
 target_include_directories(malvone_sound SYSTEM PRIVATE ${LIBPULSE_INCLUDE_DIRS})
 target_link_libraries(malvone_sound PUBLIC Threads::Threads ${CMAKE_DL_LIBS})
 
-malvone_library(malvone_qt ui/qt)
+malvone_library(malvone_qt ui/qt ui/qt/windows ui/qt/accessibility ui/qt/input ui/qt/drawing ui/qt/platform)
 set_target_properties(malvone_qt PROPERTIES AUTOMOC ON)
 target_compile_definitions(malvone_qt PUBLIC QT_NO_CAST_FROM_ASCII QT_NO_KEYWORDS)
 target_link_libraries(malvone_qt PUBLIC Qt6::Widgets Qt6::Svg malvone_core malvone_sound)
@@ -45,7 +45,7 @@ add_library(malvone_pictures OBJECT ${picture_sources})
 target_link_libraries(malvone_pictures PRIVATE Qt6::Core)
 
 # What the first frame shows at scale 1 is rendered by a program of the build.
-add_executable(vorab assets/pictures/vorab.cpp ui/qt/Look.cpp ui/qt/PictureFiles.cpp)
+add_executable(vorab assets/pictures/vorab.cpp ui/qt/drawing/Look.cpp ui/qt/drawing/Resources.cpp)
 malvone_target(vorab)
 target_compile_definitions(vorab PRIVATE QT_NO_CAST_FROM_ASCII)
 target_link_libraries(vorab PRIVATE malvone_core malvone_pictures Qt6::Svg)

@@ -8,8 +8,8 @@
 #include <sstream>
 #include <string>
 
-#include "ui/qt/Look.h"
-#include "ui/qt/Scale.h"
+#include "ui/qt/drawing/Conversions.h"
+#include "ui/qt/drawing/Look.h"
 #include "ui/windows/FrmTessel.h"
 #include "ui/windows/Pictures.h"
 
@@ -130,7 +130,8 @@ public:
     bool Write(const char* path) const
     {
         std::ofstream file(path);
-        file << "#include \"ui/qt/ReadyPictures.h\"\n\nnamespace malvone::qt {\nnamespace {\n"
+        file << "#include \"ui/qt/drawing/ReadyPictures.h\"\n\nnamespace malvone::qt {\nnamespace "
+                "{\n"
              << "alignas(16) constexpr char kPixels[] =\n"
              << pixelText_ << ";\nconstexpr QRgb kColours[] = {" << colourText_
              << "0};\nconstexpr ReadyPicture kPictures[] = {\n"

@@ -8,9 +8,9 @@
 #include <QXmlStreamReader>
 #include <set>
 
-#include "ui/qt/HandCursor.h"
-#include "ui/qt/PictureFiles.h"
-#include "ui/qt/PictureStore.h"
+#include "ui/qt/drawing/HandCursor.h"
+#include "ui/qt/drawing/PictureStore.h"
+#include "ui/qt/drawing/Resources.h"
 #include "ui/windows/Pictures.h"
 
 namespace malvone::qt {

@@ -12,8 +12,9 @@
 #include "state/Spielstand.h"
 #include "state/Zellen.h"
 #include "tests/qt/Spieltisch.h"
-#include "ui/qt/BackdropWindow.h"
-#include "ui/qt/PictureStore.h"
+#include "ui/qt/drawing/Conversions.h"
+#include "ui/qt/drawing/PictureStore.h"
+#include "ui/qt/windows/BackdropWindow.h"
 
 namespace malvone::qt {
 namespace {

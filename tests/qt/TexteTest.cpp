@@ -4,7 +4,8 @@
 #include <set>
 
 #include "tests/qt/Spieltisch.h"
-#include "ui/qt/LabelText.h"
+#include "ui/qt/drawing/Conversions.h"
+#include "ui/qt/drawing/LabelText.h"
 
 namespace malvone::qt {
 namespace {
@@ -31,7 +32,7 @@ std::set<std::string> TextsOfMessages()
 
 void ExpectFits(const Label& label)
 {
-    const TextBlock block = LinesOf(label);
+    const TextBlock block = BreakIntoLines(label);
     const double width = ToPixels(label.Width);
     EXPECT_LE(block.Height, ToPixels(label.Height)) << label.FullName() << label.Caption.Get();
     double lastBaseline = 0;
@@ -50,7 +51,7 @@ void ExpectFits(const Label& label)
 void ExpectWholeWords(const Label& label)
 {
     QString joined;
-    for (const TextLine& line : LinesOf(label).Lines) {
+    for (const TextLine& line : BreakIntoLines(label).Lines) {
         joined += line.Text + QLatin1Char(' ');
     }
     EXPECT_EQ(joined.simplified().toStdString(),
@@ -108,17 +109,17 @@ TEST_F(Texte, ALabelTooLowMovesItsLinesTogetherAndCutsNoWord)
 {
     Label& label = frmMsgOk->lblTitel;
     label.Caption = "eins\r\nzwei\r\ndrei\r\nvier\r\nfünf";
-    ASSERT_EQ(LinesOf(label).Lines.size(), 5U);
-    const double natural = LinesOf(label).Height;
+    ASSERT_EQ(BreakIntoLines(label).Lines.size(), 5U);
+    const double natural = BreakIntoLines(label).Height;
     label.Height = ToTwips(natural - 12);
-    EXPECT_NEAR(LinesOf(label).Height, natural - 12, 0.1);
+    EXPECT_NEAR(BreakIntoLines(label).Height, natural - 12, 0.1);
 }
 
 TEST_F(Texte, LinesAreCentredOneByOne)
 {
     Label& label = frmMsgOk->lblMeldung;
     label.Caption = "lang und breit\r\nkurz";
-    for (const TextLine& line : LinesOf(label).Lines) {
+    for (const TextLine& line : BreakIntoLines(label).Lines) {
         EXPECT_NEAR(line.Baseline.x() + line.Width / 2, ToPixels(label.Width) / 2, 0.51);
     }
 }

@@ -4,6 +4,7 @@
 
 #include "state/Spielstand.h"
 #include "tests/qt/Spieltisch.h"
+#include "ui/qt/drawing/Conversions.h"
 
 namespace malvone::qt {
 namespace {

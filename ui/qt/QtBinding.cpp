@@ -7,12 +7,13 @@
 #include <algorithm>
 
 #include "ui/layer/App.h"
-#include "ui/qt/Backdrop.h"
-#include "ui/qt/BackdropWindow.h"
-#include "ui/qt/FormWidget.h"
-#include "ui/qt/Icon.h"
-#include "ui/qt/Scale.h"
-#include "ui/qt/WindowManager.h"
+#include "ui/qt/drawing/Conversions.h"
+#include "ui/qt/drawing/Icon.h"
+#include "ui/qt/platform/Display.h"
+#include "ui/qt/windows/Backdrop.h"
+#include "ui/qt/windows/BackdropWindow.h"
+#include "ui/qt/windows/FormWidget.h"
+#include "ui/qt/windows/WindowManager.h"
 #include "ui/windows/Pictures.h"
 
 namespace malvone::qt {
@@ -284,7 +285,7 @@ void QtBinding::LeaveLoop(const Window& window)
 void QtBinding::DragWindow(Window& window)
 {
     if (FormWidget* const form = FormOf(window)) {
-        form->Drag();
+        form->Pointer().Drag();
     }
 }
 

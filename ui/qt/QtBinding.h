@@ -7,9 +7,9 @@
 #include <vector>
 
 #include "ui/layer/Binding.h"
-#include "ui/qt/Accessibility.h"
-#include "ui/qt/PictureStore.h"
 #include "ui/qt/Timers.h"
+#include "ui/qt/accessibility/Accessibility.h"
+#include "ui/qt/drawing/PictureStore.h"
 
 namespace malvone::qt {
 

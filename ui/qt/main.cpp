@@ -8,10 +8,10 @@
 #include <optional>
 
 #include "ui/layer/App.h"
-#include "ui/qt/Display.h"
-#include "ui/qt/MenuBar.h"
 #include "ui/qt/QtBinding.h"
-#include "ui/qt/QtPlatform.h"
+#include "ui/qt/platform/Display.h"
+#include "ui/qt/platform/QtPlatform.h"
+#include "ui/qt/windows/MenuBar.h"
 #include "ui/sound/Sound.h"
 
 namespace malvone::qt {

@@ -1,0 +1,34 @@
+// LabelText.h: the lines of a label: where they break, where they stand, and how they are painted.
+#pragma once
+
+#include <QPointF>
+#include <QRectF>
+#include <QString>
+#include <vector>
+
+#include "ui/layer/Controls.h"
+
+class QPainter;
+
+namespace malvone::qt {
+
+struct TextLine
+{
+    QString Text;
+    QPointF Baseline;  // its left end, from the label's corner
+    double Width = 0;
+};
+
+struct TextBlock
+{
+    std::vector<TextLine> Lines;
+    double Height = 0;  // from the top of the first line to the bottom of the last one
+};
+
+// Breaks a label's caption at its width. Where the label is too low for its lines they move closer
+// together, so that no word is cut off.
+TextBlock BreakIntoLines(const Label& label);
+
+void PaintLabel(QPainter& painter, const Label& label, const QRectF& place);
+
+}  // namespace malvone::qt

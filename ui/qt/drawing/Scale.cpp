@@ -1,0 +1,26 @@
+// Scale.cpp: finds the scale of a window.
+#include "ui/qt/drawing/Scale.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace malvone::qt {
+namespace {
+
+constexpr double kCellPixels = 32;
+
+}  // namespace
+
+Scale::Scale(const QSizeF& design, const QRectF& room, double ratio)
+{
+    constexpr double kRounding = 0.01;  // sizes that were rounded up have more than that to spare
+    const double fitting = std::min(room.width() / design.width(), room.height() / design.height());
+    const double cell = std::max(1.0, std::floor(kCellPixels * ratio * fitting + kRounding));
+    factor_ = cell / (kCellPixels * ratio);
+    const auto onPixel = [ratio](double place) { return std::floor(place * ratio) / ratio; };
+    const QSizeF free = room.size() - design * factor_;
+    corner_ = QPointF(onPixel(room.left() + std::max(0.0, free.width() / 2)),
+                      onPixel(room.top() + std::max(0.0, free.height() / 2)));
+}
+
+}  // namespace malvone::qt

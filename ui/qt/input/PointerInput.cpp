@@ -1,0 +1,115 @@
+// PointerInput.cpp: turns Qt's pointer events into those of the layer.
+#include "ui/qt/input/PointerInput.h"
+
+#include <QHelpEvent>
+#include <QMouseEvent>
+#include <QToolTip>
+#include <QWidget>
+#include <QWindow>
+
+#include "ui/layer/App.h"
+#include "ui/layer/PointerRouting.h"
+#include "ui/qt/drawing/Conversions.h"
+#include "ui/qt/drawing/HandCursor.h"
+#include "ui/qt/drawing/Painting.h"
+#include "ui/qt/drawing/Scale.h"
+#include "ui/qt/input/KeyTable.h"
+#include "ui/qt/platform/Display.h"
+
+namespace malvone::qt {
+namespace {
+
+std::int16_t ToButtons(Qt::MouseButtons buttons)
+{
+    int sum = 0;
+    sum |= buttons.testFlag(Qt::LeftButton) ? kLeftButton : 0;
+    sum |= buttons.testFlag(Qt::RightButton) ? kRightButton : 0;
+    sum |= buttons.testFlag(Qt::MiddleButton) ? kMiddleButton : 0;
+    return static_cast<std::int16_t>(sum);
+}
+
+}  // namespace
+
+Mouse PointerInput::ToMouse(const QMouseEvent& event, std::int16_t button) const
+{
+    const QPointF place = scale_.ToDesign(event.position());
+    return {button, ToShift(event.modifiers()), ToTwips(place.x()), ToTwips(place.y())};
+}
+
+Visual* PointerInput::ControlUnder(QPointF position) const
+{
+    const QPointF place = scale_.ToDesign(position);
+    return model_ != nullptr ? ControlAt(*model_, ToTwips(place.x()), ToTwips(place.y())) : nullptr;
+}
+
+const Visual* PointerInput::Target(QPointF position) const
+{
+    return model_ != nullptr && App.TakesInput(*model_) ? ControlUnder(position) : nullptr;
+}
+
+void PointerInput::Pressed(const QMouseEvent& event)
+{
+    QToolTip::hideText();
+    pressedAt_ = event.globalPosition().toPoint();
+    frameAtPress_ = widget_.windowHandle()->framePosition();
+    if (model_ != nullptr) {
+        PointerPressed(*model_, ToMouse(event, ToButtons(event.button())));
+    }
+}
+
+void PointerInput::Moved(const QMouseEvent& event)
+{
+    dragging_ = dragging_ && event.buttons().testFlag(Qt::LeftButton);
+    if (!dragging_ && model_ != nullptr) {
+        PointerMoved(*model_, ToMouse(event, ToButtons(event.buttons())));
+    }
+    // A quick hand makes one movement only: the one that begins the drag counts.
+    if (dragging_) {
+        widget_.move(frameAtPress_ + event.globalPosition().toPoint() - pressedAt_);
+    }
+    UpdateCursor(event.position());
+}
+
+void PointerInput::Released(const QMouseEvent& event)
+{
+    if (dragging_) {
+        dragging_ = event.buttons().testFlag(Qt::LeftButton);
+    } else if (model_ != nullptr) {
+        PointerReleased(*model_, ToMouse(event, ToButtons(event.button())));
+    }
+}
+
+// X11 window managers do not all move a window on request, so it is moved here. On Wayland only the
+// compositor can do it, and it takes the pointer with it.
+void PointerInput::Drag()
+{
+    if (WindowsCanBePlaced()) {
+        dragging_ = true;
+    } else {
+        widget_.windowHandle()->startSystemMove();
+    }
+}
+
+void PointerInput::UpdateCursor(QPointF position)
+{
+    const Visual* const target = Target(position);
+    if (target != nullptr && target->MousePointer == Pointer::Hand) {
+        widget_.setCursor(HandCursor(widget_.devicePixelRatioF()));
+    } else if (model_ != nullptr) {
+        widget_.unsetCursor();
+    }
+}
+
+void PointerInput::ShowTip(const QHelpEvent& event)
+{
+    const Visual* const target = Target(event.pos());
+    if (target == nullptr || target->ToolTipText.Get().empty()) {
+        QToolTip::hideText();
+        return;
+    }
+    // The tip goes when the pointer leaves the control.
+    QToolTip::showText(event.globalPos(), ToQString(target->ToolTipText.Get()), &widget_,
+                       scale_.ToWindow(PlaceOf(*target)).toAlignedRect());
+}
+
+}  // namespace malvone::qt

@@ -1,0 +1,198 @@
+// MenuBar.cpp: builds the menu and keeps it in step with the model.
+#include "ui/qt/windows/MenuBar.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QKeySequence>
+#include <QMenu>
+#include <QProxyStyle>
+#include <QToolButton>
+#include <QTranslator>
+#include <algorithm>
+
+#include "ui/layer/App.h"
+#include "ui/qt/drawing/Conversions.h"
+
+namespace malvone::qt {
+namespace {
+
+// The name of the one key that the menu shows; everything else that Qt says is left to it.
+class KeyNames final : public QTranslator
+{
+public:
+    using QTranslator::QTranslator;
+
+    bool isEmpty() const override { return false; }
+    QString translate(const char* context, const char* source, const char*, int) const override
+    {
+        const bool control = QLatin1String(context) == QLatin1String("QShortcut") &&
+                             QLatin1String(source) == QLatin1String("Ctrl");
+        return control ? QStringLiteral("Strg") : QString();
+    }
+};
+
+// Shown beside the entry, and told to screen readers apart from its name. It is the layer that
+// routes the key: Qt's own way to the entry is no wider than the open menu.
+void ShowShortcut(QAction& action, Key key)
+{
+    if (key == Key()) {
+        return;
+    }
+    const int code = key.Code >= kKeyF1 ? Qt::Key_F1 + key.Code - kKeyF1 : key.Code;
+    const int control = (key.Shift & kCtrlKey) != 0 ? static_cast<int>(Qt::CTRL) : 0;
+    action.setShortcut(QKeySequence(control | code));
+    action.setShortcutContext(Qt::WidgetShortcut);
+}
+
+// The desktop's own style but for that icon.
+class WithoutIcon final : public QProxyStyle
+{
+public:
+    using QProxyStyle::QProxyStyle;
+
+    QIcon standardIcon(StandardPixmap icon, const QStyleOption* option,
+                       const QWidget* widget) const override
+    {
+        return icon == SP_ToolBarHorizontalExtensionButton
+                   ? QIcon()
+                   : QProxyStyle::standardIcon(icon, option, widget);
+    }
+};
+
+}  // namespace
+
+void UseMenusWithoutIcons()
+{
+    QApplication::setStyle(new WithoutIcon(QApplication::style()));
+}
+
+MenuBar::MenuBar(const Window& window, QWidget* parent) : QMenuBar(parent), window_(&window)
+{
+    QCoreApplication::installTranslator(new KeyNames(this));
+    if (auto* const button = findChild<QToolButton*>(QStringLiteral("qt_menubar_ext_button"))) {
+        button->setArrowType(Qt::RightArrow);
+    }
+    const std::vector<MenuEntry*> entries = window.MenuEntries();
+    for (MenuEntry* const entry : entries) {
+        Add(*entry, std::any_of(entries.begin(), entries.end(), [entry](const MenuEntry* other) {
+            return other->Parent() == entry;
+        }));
+    }
+}
+
+// Entries come after the entry that opens them.
+void MenuBar::Add(MenuEntry& entry, bool opensMenu)
+{
+    QAction* action = nullptr;
+    QWidget* parent = this;
+    if (entry.Parent() != nullptr) {
+        parent = actions_.at(entry.Parent())->menu();
+    }
+    if (opensMenu) {
+        auto* const menu = new QMenu(parent);
+        action = menu->menuAction();
+    } else {
+        action = new QAction(parent);
+        action->setSeparator(entry.Separator());
+        ShowShortcut(*action, entry.Shortcut);
+        // A screen reader that chooses an entry waits for the end of its call.
+        connect(
+            action, &QAction::triggered, this, [this, &entry] { Chosen(entry); },
+            Qt::QueuedConnection);
+    }
+    // Desktops have ideas of their own about entries with certain words.
+    action->setMenuRole(QAction::NoRole);
+    parent->addAction(action);
+    actions_[&entry] = action;
+    Follow(entry);
+}
+
+void MenuBar::Follow(const MenuEntry& entry)
+{
+    QAction* const action = actions_.at(&entry);
+    // The blanks behind a caption belong to it: they keep the menus apart.
+    action->setText(entry.Separator() ? QString() : ToQString(entry.Caption.Get()));
+    action->setEnabled(entry.Enabled);
+    action->setVisible(entry.Visible);
+    // Only a checked entry shows a mark, and room for it.
+    action->setCheckable(entry.Checked);
+    action->setChecked(entry.Checked);
+}
+
+void MenuBar::Chosen(MenuEntry& entry)
+{
+    if (window_ == nullptr) {
+        return;
+    }
+    RaiseMenuClick(entry);
+    // Qt has toggled the mark of a checked entry; the model decides whether it is to go.
+    if (window_ != nullptr) {
+        Follow(entry);
+    }
+}
+
+QAction* MenuBar::OpenedBy(Key key) const
+{
+    if (key == Key{kKeyF10, 0}) {
+        return actions().constFirst();
+    }
+    const bool letter = key.Shift == kAltKey && key.Code >= 'A' && key.Code <= 'Z';
+    const QKeySequence wanted(Qt::ALT | static_cast<Qt::Key>(key.Code));
+    for (QAction* const action : actions()) {
+        if (letter && action->isEnabled() && QKeySequence::mnemonic(action->text()) == wanted) {
+            return action;
+        }
+    }
+    return nullptr;
+}
+
+// The first entry is chosen as the arrow key does it, which leaves a menu of its own shut.
+bool MenuBar::Open(Key key)
+{
+    QAction* const action = OpenedBy(key);
+    if (action == nullptr) {
+        return false;
+    }
+    setActiveAction(action);
+    if (QMenu* const menu = action->menu()) {
+        QKeyEvent down(QEvent::KeyPress, Qt::Key_Down, Qt::NoModifier);
+        QCoreApplication::sendEvent(menu, &down);
+    }
+    return true;
+}
+
+void MenuBar::Detach()
+{
+    window_ = nullptr;
+    actions_.clear();
+}
+
+bool MenuBar::Shut() const
+{
+    return window_ == nullptr || !App.TakesInput(*window_);
+}
+
+bool MenuBar::event(QEvent* event)
+{
+    switch (event->type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseMove:
+    case QEvent::HoverMove:
+    case QEvent::KeyPress:
+        if (Shut()) {
+            return true;
+        }
+        break;
+    default: break;
+    }
+    return QMenuBar::event(event);
+}
+
+bool MenuBar::eventFilter(QObject* object, QEvent* event)
+{
+    return !Shut() && QMenuBar::eventFilter(object, event);
+}
+
+}  // namespace malvone::qt

@@ -1,0 +1,149 @@
+// Placement.cpp: places in twips, places in pixels.
+#include "ui/qt/windows/Placement.h"
+
+#include <QGuiApplication>
+#include <QScopedValueRollback>
+#include <QScreen>
+#include <QWidget>
+#include <QWindow>
+#include <algorithm>
+
+#include "ui/qt/drawing/Conversions.h"
+#include "ui/qt/drawing/Scale.h"
+#include "ui/qt/platform/Display.h"
+
+namespace malvone::qt {
+namespace {
+
+QPoint ScreenCorner()
+{
+    return QGuiApplication::primaryScreen()->geometry().topLeft();
+}
+
+// Without a window manager Qt takes what a window has just grown by for its frame.
+bool IsFrame(const QMargins& frame)
+{
+    constexpr int kThickest = 120;
+    return !frame.isNull() && frame.left() + frame.right() < kThickest &&
+           frame.top() + frame.bottom() < kThickest;
+}
+
+QPoint CornerOf(const Window& window)
+{
+    return {ToWholePixels(window.Left), ToWholePixels(window.Top)};
+}
+
+}  // namespace
+
+QSizeF DesignOf(const Window& window)
+{
+    return {ToPixels(window.ClientWidth), ToPixels(window.ClientHeight)};
+}
+
+QSize SizeOf(const Window& window, double factor)
+{
+    constexpr double kRounding = 0.01;
+    const QSizeF size = DesignOf(window) * factor;
+    return {static_cast<int>(std::ceil(size.width() - kRounding)),
+            static_cast<int>(std::ceil(size.height() - kRounding))};
+}
+
+double FactorOnScreen(const QSizeF& design, int height)
+{
+    // About what a frame adds.
+    constexpr QSizeF kFrame(10, 36);
+    const QScreen& screen = *QGuiApplication::primaryScreen();
+    const QSizeF menu(0, height - design.height());
+    const QSizeF room = QSizeF(screen.availableSize()) - kFrame - menu;
+    return std::min(1.0,
+                    Scale(design, QRectF(QPointF(), room), screen.devicePixelRatio()).Factor());
+}
+
+void Placement::ToScreen()
+{
+    if (!telling_) {
+        widget_.move(ScreenCorner() + CornerOf(window_));
+    }
+}
+
+QRect Placement::Outer() const
+{
+    return {ScreenCorner() + CornerOf(window_),
+            QSize(ToWholePixels(window_.Width), ToWholePixels(window_.Height))};
+}
+
+bool Placement::Fits() const
+{
+    const QRect outer = Outer();
+    const QList<QScreen*> screens = QGuiApplication::screens();
+    return std::any_of(screens.begin(), screens.end(), [&outer](const QScreen* screen) {
+        const QSize room = screen->availableSize();
+        return outer.width() <= room.width() && outer.height() <= room.height();
+    });
+}
+
+void Placement::OntoScreen()
+{
+    const QRect outer = Outer();
+    const QScreen* screen = QGuiApplication::screenAt(outer.center());
+    if (screen == nullptr) {
+        screen = QGuiApplication::primaryScreen();
+    }
+    const QRect room = screen->availableGeometry();
+    const QPoint corner(
+        std::max(room.left(), std::min(outer.left(), room.right() + 1 - outer.width())),
+        std::max(room.top(), std::min(outer.top(), room.bottom() + 1 - outer.height())));
+    if (corner != outer.topLeft()) {
+        const QScopedValueRollback guard(telling_, true);
+        window_.Left = ToTwips(corner.x() - ScreenCorner().x());
+        window_.Top = ToTwips(corner.y() - ScreenCorner().y());
+    }
+}
+
+// A window in the middle of the screen was put there before its frame was known.
+void Placement::KeepCentred(const QMargins& frame)
+{
+    const QRect screen = QGuiApplication::primaryScreen()->geometry();
+    const QPoint off = Outer().center() - screen.center();
+    if (std::abs(off.x()) > 1 || std::abs(off.y()) > 1) {
+        return;
+    }
+    const QScopedValueRollback guard(telling_, true);
+    window_.Left = window_.Left - ToTwips(frame.left() + frame.right()) / 2;
+    window_.Top = window_.Top - ToTwips(frame.top() + frame.bottom()) / 2;
+    widget_.move(ScreenCorner() + CornerOf(window_));
+}
+
+void Placement::FromScreen()
+{
+    const QWindow* const handle = widget_.windowHandle();
+    if (handle == nullptr || !widget_.isVisible()) {
+        return;
+    }
+    if (!framed_ && IsFrame(handle->frameMargins())) {
+        framed_ = true;
+        KeepCentred(handle->frameMargins());
+        TellSize();
+        return;
+    }
+    const QScopedValueRollback guard(telling_, true);
+    const QPoint corner = handle->framePosition() - ScreenCorner();
+    // A fraction of a pixel in the model is no move.
+    if (WindowsCanBePlaced() && corner != CornerOf(window_)) {
+        window_.Left = ToTwips(corner.x());
+        window_.Top = ToTwips(corner.y());
+    }
+    TellSize();
+}
+
+void Placement::TellSize()
+{
+    const QScopedValueRollback guard(telling_, true);
+    const QWindow* const handle = widget_.windowHandle();
+    const QMargins frame = handle != nullptr ? handle->frameMargins() : QMargins();
+    const QSize whole = widget_.size().grownBy(frame);
+    window_.Width = ToTwips(whole.width());
+    window_.Height = ToTwips(whole.height());
+}
+
+}  // namespace malvone::qt
