@@ -8,7 +8,7 @@ namespace malvone {
 // Moves columns to the left over empty ones, values and pictures alike.
 // By design (sechs-durchgaenge): one would expect every empty column to be closed. One call closes
 // at most six that have stones to their right; the rest waits for the next left click on a stone.
-// Test: games.spalten
+// Test: games.columns
 void SpaltenSchliessen();
 
 // Ergebnis becomes True if two direct neighbours hold the same stone, else False.

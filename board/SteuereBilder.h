@@ -22,7 +22,7 @@ void FeldLeeren();
 // no flood fill. On a winding group it can stop short, and the stones that it leaves out are no
 // part of the move.
 // By design (kette-statt-flut): one would expect the whole connected group. Which stones a move
-// takes can depend on the stone under the pointer. Test: games.markieren
+// takes can depend on the stone under the pointer. Test: games.marking
 void StartSpalteMarkieren(int zelle);
 void NachRechtsAusbreiten(std::int16_t farbe);
 void NachLinksAusbreiten(std::int16_t farbe);

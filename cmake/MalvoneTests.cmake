@@ -62,7 +62,7 @@ malvone_glob(scripts tests/games/*.drehbuch)
 foreach(script IN LISTS scripts)
     cmake_path(GET script STEM name)
     add_test(NAME games.${name}
-        COMMAND "${Python3_EXECUTABLE}" "${PROJECT_SOURCE_DIR}/tests/games/spielen.py"
+        COMMAND "${Python3_EXECUTABLE}" "${PROJECT_SOURCE_DIR}/tests/games/play.py"
                 "$<TARGET_FILE:drehbuch>" "${script}"
         WORKING_DIRECTORY "${PROJECT_SOURCE_DIR}")
     set_tests_properties(games.${name} PROPERTIES

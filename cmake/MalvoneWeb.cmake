@@ -31,7 +31,7 @@ target_link_options(drehbuch PRIVATE -sENVIRONMENT=node -sNODERAWFS -sEXIT_RUNTI
 malvone_glob(scripts tests/games/*.drehbuch)
 foreach(script IN LISTS scripts)
     cmake_path(GET script STEM name)
-    add_test(NAME node.${name} COMMAND "${Python3_EXECUTABLE}" "${PROJECT_SOURCE_DIR}/tests/games/spielen.py"
+    add_test(NAME node.${name} COMMAND "${Python3_EXECUTABLE}" "${PROJECT_SOURCE_DIR}/tests/games/play.py"
         "$<TARGET_FILE:drehbuch>" "${script}")
     set_tests_properties(node.${name} PROPERTIES TIMEOUT 120)
 endforeach()

@@ -26,9 +26,9 @@ void FrmTessel::cmdSchalt_Click(std::int16_t Index)
 {
     switch (Index) {
     // By design (taste-ueberspringt): one would expect a question, or a price, for a level that is
-    // left. There is none. Test: games.befehle_wirkung
+    // left. There is none. Test: games.commands
     // By design (pfeil-blinkt-weiter): one would expect the arrow to go. It stays until a picture
-    // or label is clicked. Test: games.neues_spiel
+    // or label is clicked. Test: games.new_game
     case kSchaltWeiter:
         Stand.KeinSpielBegonnen = false;
         FeldFuellen();
@@ -36,7 +36,7 @@ void FrmTessel::cmdSchalt_Click(std::int16_t Index)
         break;
     // By design (wiederholung-zaehlt): one would expect the level to keep its number and its
     // points to go. By menu or keyboard the number rises by one and all points stay; only the
-    // picture gives them back. Test: games.befehle_wirkung
+    // picture gives them back. Test: games.commands
     case kSchaltWiederholen:
         StandLaden();
         SoundSpielen(kTonBeginn);
@@ -56,7 +56,7 @@ void FrmTessel::imgNaechsterLevel_Click()
     Stand.LevelWiederholt = 0;
     // By design (level-anzeige-spaeter): one would expect the new number at once. The displays are
     // painted before it rises and show it with the first removal of the level.
-    // Test: games.verlauf
+    // Test: games.levels
     AnzeigenAktualisieren();
     cmdSchalt_Click(kSchaltWeiter);
 }
@@ -69,7 +69,7 @@ void FrmTessel::imgWiederholen_Click()
     AngebotAus();
     // By design (wiederholung-nimmt-alles): one would expect only the points of this level to go.
     // An emptied level before it has noted nothing, so its points go too.
-    // Test: games.verlauf
+    // Test: games.levels
     Stand.PunkteGesamt = Stand.PunkteLevelStart;
     Stand.LevelPunkte = 0;
     --Stand.RundenZahl;

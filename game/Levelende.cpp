@@ -40,7 +40,7 @@ void FrmTessel::BelegteFelderZaehlen()
 }
 
 // By design (bonus-spaeter): one would expect the displays to count the bonus at once. They change
-// with the first removal of the new level. Test: games.leeres_brett
+// with the first removal of the new level. Test: games.empty_board
 void FrmTessel::LeeresFeldBelohnen()
 {
     lblSumme.Caption = "";
@@ -56,7 +56,7 @@ void FrmTessel::LevelAuswerten()
     MeldungZeigen("\r\nEs ist kein weiterer Zug mehr möglich.\r\n" + RestText(Stand.BelegtZahl),
                   "\r\nSie erhalten keine Bonuspunkte in diesem Level.", Versatz{-1000, -1000});
     // By design (level-sechs): one would expect every level from 5 on to end the game. Only level 5
-    // does; who empties it plays on without an end. Test: games.leeres_brett
+    // does; who empties it plays on without an end. Test: games.empty_board
     if (Stand.RundenZahl == kLetzterLevel) {
         BestePruefen();
         ExternesEnde();
@@ -66,7 +66,7 @@ void FrmTessel::LevelAuswerten()
     lblSumme.Caption = "";
     // By design (nur-einmal): one would expect a new level to be offered in full. The mark of a
     // repeat outlives a level that is emptied.
-    // Test: games.leeres_brett
+    // Test: games.empty_board
     const bool volles = Stand.LevelWiederholt == 0;
     imgNaechsterLevel.Visible = true;
     imgWiederholen.Visible = volles;
@@ -84,7 +84,7 @@ void FrmTessel::ExternesEnde()
                      "Möchten Sie ein neues Spiel beginnen?\"",
                      "\r\n»Neues Spiel« bestätigen")) {
         // By design (halbes-angebot): one would expect the whole offer to go. Only the next level
-        // does. Test: Levelende.TheEndOfAGameTakesOnePictureOfTheOfferAndItsArrow
+        // does. Test: games.commands
         imgNext.Picture = frmBilder->imgPfeil(kPfeilLeer).Picture;
         imgNaechsterLevel.Visible = false;
         Beste.EndPunkte = 0;

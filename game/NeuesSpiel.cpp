@@ -50,7 +50,7 @@ void FrmTessel::AngebotAus()
 
 // By design (frage-nimmt-angebot): one would expect the answer no to leave everything as it was.
 // The offer of the next level is gone from the window before the question is asked, and stays gone;
-// menu and keyboard still lead on. Test: games.neues_spiel
+// menu and keyboard still lead on. Test: games.new_game
 void FrmTessel::lblNeu_Click()
 {
     PfeileAus();

@@ -12,7 +12,7 @@ namespace malvone {
 void FrmTessel::imgFeld_MouseMove(std::int16_t Index)
 {
     // By design (leere-zelle-schweigt): one would expect the preview to end on an empty cell. It
-    // stays. Test: games.vorschau_und_zug
+    // stays. Test: games.preview_and_move
     if (Zellwert(Index) == 0) {
         return;
     }
@@ -29,7 +29,7 @@ void FrmTessel::imgFeld_MouseMove(std::int16_t Index)
 
 // By design (klick-auf-marken): one would expect the clicked group to go. The click acts on the
 // marks of the last pointer event; the cell is only tested for being a stone. Test:
-// games.vorschau_und_zug
+// games.preview_and_move
 void FrmTessel::imgFeld_MouseDown(std::int16_t Index, const Mouse& mouse)
 {
     if (Zellwert(Index) == 0 || mouse.Button != kLeftButton) {

@@ -28,7 +28,7 @@ void OrdnerAnlegen(const std::string& pfad)
     }
     // By design (kein-ausweichordner): one would expect the program's folder to take over here.
     // The missing folder stays the data folder, and each later use of a file meets that.
-    // Test: games.start_ohne_datenordner
+    // Test: games.start_without_data_folder
     SoundDirekt(kTonBeginn);
     MeldungZeigen(kOrdnerFehlt);
 }

@@ -139,7 +139,7 @@ void FrmBeste::cmdEnde_Click()
     if (Beste.EintragModus == True) {
         TextBox& name = txtSpieler(Beste.EintragPlatz);
         // By design (blanker-name): one would expect a name of blanks to count as empty. It is
-        // saved as typed. Test: games.eintrag
+        // saved as typed. Test: games.entry
         if (name.Text.Get().empty()) {
             name.Text = kNeuerName;
             lstName.SetList(Beste.EintragPlatz, kNeuerName);
@@ -158,7 +158,7 @@ void FrmBeste::cmdTessel_Click()
     }
     // By design (niemand-ist-frei): one would expect an entry of a player who calls himself
     // "Niemand" to be worth a wipe. His name counts as a free place.
-    // Test: games.eintrag
+    // Test: games.best_list
     if (!alleFrei && FrageStellen(kAlleLoeschen)) {
         BesteLoeschen();
         BesteLesen();
@@ -167,7 +167,7 @@ void FrmBeste::cmdTessel_Click()
     }
     // By design (fenster-geht-zu): one would expect the answer no to lead back to the list. The
     // window closes whatever the answer was. Test:
-    // games.beste_liste
+    // games.best_list
     Visible = false;
 }
 
@@ -186,7 +186,7 @@ void FrmBeste::Form_KeyDown(std::int16_t& KeyCode, std::int16_t /*Shift*/)
 void FrmBeste::Form_Unload()
 {
     // By design (verlorener-eintrag): one would expect an entry to be saved by the title bar's
-    // close box too. Only cmdEnde saves. Test: games.eintrag
+    // close box too. Only cmdEnde saves. Test: games.entry
     Visible = false;
 }
 

@@ -66,7 +66,7 @@ std::optional<Zellwerte> WerteLesen(const std::string& pfad)
 // False at the first value without a picture. The cells before it hold the new values by then.
 // By design (halber-stand): one would expect the board to be left alone, or put back. That cell
 // keeps the bad value in its Tag under its old picture, and the cells after it are unchanged.
-// Test: games.wiederholen_misslingt
+// Test: games.repeat_fails
 bool WerteAufsBrett(const Zellwerte& werte)
 {
     for (int zelle = 1; zelle <= kZellen; ++zelle) {

@@ -85,7 +85,7 @@ std::string BesteDatei()
 {
     // By design (wurzel-der-platte): one would expect DatenPfad. The list takes the data folder
     // directly, so without one it lies in the root of the drive, while the snapshot goes to the
-    // program's folder. Test: games.start_ohne_windowsordner
+    // program's folder. Test: games.start_without_windows_folder
     return MitBackslash(Daten.DatenOrdner) + "malvone.txt";
 }
 

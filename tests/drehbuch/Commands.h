@@ -9,8 +9,10 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "ui/layer/Keys.h"
+#include "ui/layer/Property.h"
 
 namespace malvone::script {
 
@@ -29,6 +31,15 @@ std::optional<Key> KeyFrom(std::string_view name);
 Answer AskProperty(std::string_view path);  // "unloaded" where the window is not loaded
 Answer SetProperty(std::string_view line);  // "PATH VALUE", without any event
 
+struct Value
+{
+    std::string_view Property;
+    Change Kind;
+    std::string Text;  // as AskProperty answers, texts in quotes; a list is all its items
+};
+// Everything about a window or control that may change and that a player can see or use.
+std::vector<Value> ValuesOf(const PropertyOwner& owner);
+
 // Questions.cpp. All but the first take no argument.
 Answer AskOrSetBoard(std::string_view digits);  // sets the 140 values and nothing else
 Answer AskMarks(std::string_view);
@@ -36,5 +47,8 @@ Answer AskPreviews(std::string_view);
 Answer AskPictures(std::string_view);  // 140 letters, one for each picture that a cell can show
 Answer AskState(std::string_view);
 Answer AskWindows(std::string_view);  // names of all shown windows, sorted
+// The letter of a picture among those that a cell can show, and the one of a value's plain picture.
+char LetterOf(std::string_view picture);
+char LetterOfValue(char digit);
 
 }  // namespace malvone::script

@@ -101,6 +101,8 @@ struct Property
     bool Indexed;
     std::optional<std::string> (*Ask)(const PropertyOwner&, std::int32_t);
     const char* (*Set)(PropertyOwner&, std::int32_t, std::string_view);  // null: another kind
+    // What its owner tells when it changes.
+    std::optional<Change> (*Kind)(const PropertyOwner&) = nullptr;
 };
 
 template<class Member>
@@ -140,6 +142,18 @@ const char* SetMember(PropertyOwner& owner, std::int32_t, std::string_view text)
     }
     object->*Member = value;
     return kDone;
+}
+
+// Nothing for what is no property of the layer and so never changes.
+template<auto Member>
+std::optional<Change> KindOf(const PropertyOwner& owner)
+{
+    using Owner = typename MemberTypes<decltype(Member)>::Owner;
+    const auto* const object = dynamic_cast<const Owner*>(&owner);
+    if constexpr (requires { (object->*Member).Kind(); }) {
+        return object == nullptr ? std::nullopt : std::optional((object->*Member).Kind());
+    }
+    return std::nullopt;
 }
 
 // What the design has fixed can only be asked for.
@@ -191,14 +205,14 @@ const char* SetListItem(PropertyOwner& owner, std::int32_t index, std::string_vi
 template<auto Member>
 constexpr Property Free(std::string_view name)
 {
-    return {name, false, &AskMember<Member>, &SetMember<Member>};
+    return {name, false, &AskMember<Member>, &SetMember<Member>, &KindOf<Member>};
 }
 
 template<auto Member>
 constexpr Property Fixed(std::string_view name)
 {
-    return {name, false, &AskMember<Member>,
-            &Refuse<typename MemberTypes<decltype(Member)>::Owner>};
+    return {name, false, &AskMember<Member>, &Refuse<typename MemberTypes<decltype(Member)>::Owner>,
+            &KindOf<Member>};
 }
 
 constexpr Property kProperties[] = {
@@ -276,6 +290,27 @@ bool Meant(const Property& property, const PropertyPath& path)
 }
 
 }  // namespace
+
+std::vector<Value> ValuesOf(const PropertyOwner& owner)
+{
+    std::vector<Value> values;
+    for (const Property& property : kProperties) {
+        const auto kind = property.Kind == nullptr ? std::nullopt : property.Kind(owner);
+        if (kind && kind != Change::Data) {
+            const bool text = kind == Change::Text || property.Name == "ToolTipText";
+            const std::string value = *property.Ask(owner, 0);
+            values.push_back({property.Name, *kind, text ? '"' + value + '"' : value});
+        }
+    }
+    if (const auto* const list = dynamic_cast<const ListBox*>(&owner)) {
+        std::string items;
+        for (std::int32_t i = 0; i < list->ListCount(); ++i) {
+            items += (i == 0 ? "\"" : ", \"") + Masked(list->List(i)) + '"';
+        }
+        values.push_back({"List", Change::Text, items.empty() ? "-" : items});
+    }
+    return values;
+}
 
 Answer AskProperty(std::string_view path)
 {

@@ -42,18 +42,6 @@ constexpr PictureRow kPictureRows[] = {
     {"frmBilder.imgNeutral(", "OABCD"},
 };
 
-char LetterOf(std::string_view picture)
-{
-    for (const PictureRow& row : kPictureRows) {
-        for (std::size_t value = 0; value < row.Letters.size(); ++value) {
-            if (picture == std::string(row.Name) + std::to_string(value) + ")") {
-                return row.Letters[value];
-            }
-        }
-    }
-    return picture == "frmBilder.imgGrund" ? '_' : '?';
-}
-
 std::string TrueFalse(bool value)
 {
     return value ? "True" : "False";
@@ -73,6 +61,26 @@ Answer SetBoard(FrmTessel& board, std::string_view values)
 }
 
 }  // namespace
+
+char LetterOf(std::string_view picture)
+{
+    for (const PictureRow& row : kPictureRows) {
+        for (std::size_t value = 0; value < row.Letters.size(); ++value) {
+            if (picture == std::string(row.Name) + std::to_string(value) + ")") {
+                return row.Letters[value];
+            }
+        }
+    }
+    return picture == "frmBilder.imgGrund" ? '_' : '?';
+}
+
+char LetterOfValue(char digit)
+{
+    const std::string_view plain = kPictureRows[0].Letters;
+    return digit >= '0' && digit < static_cast<char>('0' + plain.size())
+               ? plain[static_cast<std::size_t>(digit - '0')]
+               : '?';
+}
 
 Answer AskOrSetBoard(std::string_view digits)
 {

@@ -58,6 +58,9 @@ bool Script::ReadCommand(std::string& line)
 
 void Script::Step(std::string_view waiting)
 {
+    if (changes_) {
+        out_ << changes_->Lines();
+    }
     out_ << "> " << waiting << std::endl;
     std::string line;
     if (!ReadCommand(line)) {
@@ -71,13 +74,36 @@ void Script::Step(std::string_view waiting)
 
 std::string Script::Do(std::string_view line)
 {
-    return Obey(line);
+    std::string answer = Obey(line);
+    // What a script has set by itself it knows.
+    if (const std::string_view name = CutOff(line, ' '); changes_ && answer.empty()) {
+        if (name == "set") {
+            changes_->Told(CutOff(line, ' '));
+        } else if (name == "board") {
+            changes_->BoardSet();
+        }
+    }
+    return answer;
 }
 
 void Script::Tell(std::string_view what, std::string_view whom)
 {
     if (!what.empty() && !App.Ended()) {
         out_ << what << whom << '\n';
+    }
+}
+
+void Script::WindowLoaded(Window& window)
+{
+    if (changes_) {
+        changes_->Loaded(window);
+    }
+}
+
+void Script::ControlAdded(Control& control)
+{
+    if (changes_) {
+        changes_->Added(control);
     }
 }
 
@@ -92,6 +118,12 @@ void Script::WindowShown(Window& window, ShowMode mode)
     if (text != nullptr && title != nullptr) {
         Tell("! text " + name + " " + Masked(text->Caption.Get()) + " | " +
              Masked(title->Caption.Get()));
+    }
+    if (changes_) {
+        for (const char* const told :
+             {".Left", ".Top", ".lblMeldung.Caption", ".lblTitel.Caption"}) {
+            changes_->Told(name + told);
+        }
     }
 }
 

@@ -2,12 +2,15 @@
 // a player would see and hear.
 #pragma once
 
+#include <cstdint>
 #include <istream>
+#include <optional>
 #include <ostream>
 #include <string>
 #include <string_view>
 
 #include "platform/Files.h"
+#include "tests/drehbuch/Changes.h"
 #include "ui/layer/Binding.h"
 
 namespace malvone::script {
@@ -19,6 +22,7 @@ struct Options
     std::filesystem::path Program;  // holds sounds and manuals
     bool WithoutWindowsFolder = false;
     std::int32_t SoundDevices = 1;
+    std::optional<std::uint64_t> ClockNs = std::nullopt;  // a clock that stands still
 };
 
 // Files are those of the real program; what is heard or opened becomes a line.
@@ -30,6 +34,10 @@ public:
     void sndPlaySoundA(const std::string& path) override { Tell("! sound ", path); }
     std::int32_t waveOutGetNumDevs() override { return options_.SoundDevices; }
     void ShellExecuteA(const std::string& path) override { Tell("! open ", path); }
+    std::uint64_t ClockNs() override
+    {
+        return options_.ClockNs ? *options_.ClockNs : FilePlatform::ClockNs();
+    }
 
 private:
     Options options_;
@@ -43,6 +51,9 @@ class Script : public Binding
 public:
     Script(std::istream& in, std::ostream& out) : in_(in), out_(out) {}
 
+    // From here on each wait begins with what has changed for a player.
+    void TellChanges() { changes_.emplace(); }
+
     // Plays the whole program once, from its first statement to its end or to the end of the input.
     void Play(Platform& platform);
     // The same in pieces: Main, and then one command after the other.
@@ -52,6 +63,11 @@ public:
 
     Twips ScreenWidth() override { return 28800; }
     Twips ScreenHeight() override { return 16200; }
+    void WindowLoaded(Window& window) override;
+    void WindowChanged(Window& window, Change what) override { Hear(window, what); }
+    void ControlChanged(Control& control, Change what) override { Hear(control, what); }
+    void ControlAdded(Control& control) override;
+    void FocusChanged(Window& window) override { Hear(window, Change::Select); }
     void WindowShown(Window& window, ShowMode mode) override;
     void WindowHidden(Window& window) override { Tell("! hide ", window); }
     void WindowUnloaded(Window& window) override { Tell("! unload ", window); }
@@ -69,7 +85,15 @@ private:
     std::istream& in_;
     std::ostream& out_;
     bool inputOver_ = false;
+    std::optional<Changes> changes_;
 
+    template<class Object>
+    void Hear(const Object& object, Change what)
+    {
+        if (changes_) {
+            changes_->Heard(object, what);
+        }
+    }
     void Tell(std::string_view what, const Window& window) { Tell(what, window.Name()); }
     // The next command; comments and empty lines are none. False: the input is over.
     bool ReadCommand(std::string& line);

@@ -72,7 +72,7 @@ bool TakenByFocusedButton(const Window& window, Key key)
 }
 
 // By design (tab-bleibt): one would expect Tab to reach every button. One beyond the window's edge
-// is no stop, or the focus would vanish there. Test: games.tasten
+// is no stop, or the focus would vanish there. Test: games.keys
 bool IsTabStop(const Window& window, const Visual& visual)
 {
     return visual.TakesFocus() && visual.TabStop && visual.Reachable() &&

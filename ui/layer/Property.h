@@ -66,6 +66,7 @@ public:
     Property& operator=(Property&&) = delete;
 
     const T& Get() const { return value_; }
+    Change Kind() const { return what_; }
     operator const T&() const { return value_; }  // NOLINT(google-explicit-constructor)
     const T* operator->() const { return &value_; }
 
