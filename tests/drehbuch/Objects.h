@@ -5,7 +5,7 @@
 #include <string_view>
 
 #include "ui/layer/Control.h"
-#include "ui/layer/Window.h"
+#include "ui/layer/Instance.h"
 
 namespace malvone::script {
 

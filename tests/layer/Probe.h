@@ -8,6 +8,7 @@
 #include "tests/drehbuch/Commands.h"
 #include "tests/drehbuch/Text.h"
 #include "tests/support/Game.h"
+#include "ui/layer/Instance.h"
 #include "ui/layer/PointerRouting.h"
 
 namespace malvone::test {

@@ -7,6 +7,7 @@
 
 #include "tests/drehbuch/Commands.h"
 #include "tests/support/Game.h"
+#include "ui/layer/Instance.h"
 #include "ui/windows/Pictures.h"
 
 namespace malvone::test {

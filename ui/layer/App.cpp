@@ -2,9 +2,9 @@
 #include "ui/layer/App.h"
 
 #include <algorithm>
-#include <cassert>
 
 #include "Version.h"
+#include "ui/layer/Instance.h"
 
 namespace malvone {
 

@@ -4,6 +4,8 @@
 #include <charconv>
 #include <utility>
 
+#include "ui/layer/App.h"
+#include "ui/layer/Binding.h"
 #include "ui/layer/Controls.h"
 #include "ui/layer/Window.h"
 
@@ -28,6 +30,20 @@ std::string Control::FullName() const
 bool Control::Reachable() const
 {
     return Visible && Enabled && (container_ == nullptr || container_->Reachable());
+}
+
+void Control::Changed(Change what)
+{
+    if (owner_.instance_ != nullptr && !App.Ended()) {
+        App.Screen().ControlChanged(*this, what);
+    }
+}
+
+void Control::TellAdded()
+{
+    if (owner_.instance_ != nullptr && !App.Ended()) {
+        App.Screen().ControlAdded(*this);
+    }
 }
 
 TagText::TagText(std::string text) : text_(std::move(text))

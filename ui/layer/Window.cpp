@@ -2,10 +2,10 @@
 #include "ui/layer/Window.h"
 
 #include <algorithm>
-#include <cassert>
 #include <utility>
 
 #include "ui/layer/App.h"
+#include "ui/layer/Instance.h"
 
 namespace malvone {
 
@@ -202,58 +202,6 @@ void Window::Changed(Change what)
     if (instance_ != nullptr && !App.Ended()) {
         App.Screen().WindowChanged(*this, what);
     }
-}
-
-void Control::Changed(Change what)
-{
-    if (owner_.instance_ != nullptr && !App.Ended()) {
-        App.Screen().ControlChanged(*this, what);
-    }
-}
-
-void Control::TellAdded()
-{
-    if (owner_.instance_ != nullptr && !App.Ended()) {
-        App.Screen().ControlAdded(*this);
-    }
-}
-
-namespace {
-
-std::vector<InstanceBase*>& Instances()
-{
-    static std::vector<InstanceBase*> instances;
-    return instances;
-}
-
-}  // namespace
-
-InstanceBase::InstanceBase(std::string_view name) : name_(name)
-{
-    Instances().push_back(this);
-}
-
-const std::vector<InstanceBase*>& InstanceBase::All()
-{
-    return Instances();
-}
-
-InstanceBase* InstanceBase::Find(std::string_view name)
-{
-    const auto found = std::find_if(Instances().begin(), Instances().end(),
-                                    [&](const InstanceBase* i) { return i->Name() == name; });
-    return found == Instances().end() ? nullptr : *found;
-}
-
-void InstanceBase::Announce(Window& window)
-{
-    window.instance_ = this;
-    // After the end a touch still has to give an object, but nothing is loaded any more.
-    if (App.Ended()) {
-        return;
-    }
-    App.Screen().WindowLoaded(window);
-    window.Form_Load();
 }
 
 }  // namespace malvone

@@ -6,6 +6,7 @@
 #include "platform/CodePage.h"
 #include "state/Spielstand.h"
 #include "ui/layer/App.h"
+#include "ui/layer/Instance.h"
 #include "ui/layer/Keys.h"
 #include "ui/layer/PointerRouting.h"
 #include "ui/web/Elements.h"

@@ -1,7 +1,7 @@
 // FrmBeste.h: the best-players window, which also holds the list in memory.
 #pragma once
 
-#include "ui/layer/Window.h"
+#include "ui/layer/Instance.h"
 
 namespace malvone {
 

@@ -1,7 +1,7 @@
 // FrmBilder.h: the hidden bank of pictures, read through its controls only.
 #pragma once
 
-#include "ui/layer/Window.h"
+#include "ui/layer/Instance.h"
 
 namespace malvone {
 

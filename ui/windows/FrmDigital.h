@@ -1,7 +1,7 @@
 // FrmDigital.h: the hidden bank of the pictures of digits, read through its controls only.
 #pragma once
 
-#include "ui/layer/Window.h"
+#include "ui/layer/Instance.h"
 
 namespace malvone {
 

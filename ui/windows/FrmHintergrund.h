@@ -1,7 +1,7 @@
 // FrmHintergrund.h: the backdrop that lies behind the game and covers the whole screen.
 #pragma once
 
-#include "ui/layer/Window.h"
+#include "ui/layer/Instance.h"
 
 namespace malvone {
 

@@ -1,7 +1,7 @@
 // FrmMsgJa.h: the message window that asks a question.
 #pragma once
 
-#include "ui/layer/Window.h"
+#include "ui/layer/Instance.h"
 
 namespace malvone {
 

@@ -1,7 +1,7 @@
 // FrmMsgOk.h: the message window that tells the player something and has one way out.
 #pragma once
 
-#include "ui/layer/Window.h"
+#include "ui/layer/Instance.h"
 
 namespace malvone {
 

@@ -1,7 +1,7 @@
 // FrmTessel.h: the main window, with everything on it and all that it answers.
 #pragma once
 
-#include "ui/layer/Window.h"
+#include "ui/layer/Instance.h"
 
 namespace malvone {
 
