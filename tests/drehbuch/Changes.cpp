@@ -93,7 +93,7 @@ std::vector<Value> AllValuesOf(const PropertyOwner& owner)
     std::vector<Value> values = ValuesOf(owner);
     if (const auto* const window = dynamic_cast<const Window*>(&owner)) {
         values.push_back({"Focus", Change::Select, NameOf(window->Focus())});
-        values.push_back({"Place", Change::Place, NameOf(window->Place())});
+        values.push_back({"Highlight", Change::Highlight, NameOf(window->Highlighted())});
     }
     return values;
 }
@@ -130,7 +130,7 @@ void Changes::Added(const Control& control)
 void Changes::Heard(const Control& control, Change what)
 {
     heard_[PathOf(control)].insert(what);
-    if (what == Change::Place) {
+    if (what == Change::Highlight) {
         Heard(control.Owner(), what);
     }
 }

@@ -49,9 +49,9 @@ private:
 
     void Changed(const std::string& name, Change what)
     {
-        static constexpr const char* kKinds[] = {"Geometry", "Visible", "Enabled", "Picture",
-                                                 "Text",     "Look",    "State",   "Select",
-                                                 "Tip",      "Place",   "Data"};
+        static constexpr const char* kKinds[] = {"Geometry", "Visible",   "Enabled", "Picture",
+                                                 "Text",     "Look",      "State",   "Select",
+                                                 "Tip",      "Highlight", "Data"};
         if (withChanges_) {
             Note("changed " + name + " " + kKinds[static_cast<int>(what)]);
         }

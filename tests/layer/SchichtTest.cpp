@@ -47,7 +47,7 @@ std::string Witness::Do(std::string_view line)
     if (name == "down") return PointerPressed(*probe, mouse), "";
     if (name == "move") return PointerMoved(*probe, mouse), "";
     if (name == "up") return PointerReleased(*probe, mouse), "";
-    if (name == "pressed") return "= " + (probe->Pressed ? nameOf(*probe->Pressed) : "nothing");
+    if (name == "pressed") return "= " + (probe->Pressed() ? nameOf(*probe->Pressed()) : "nothing");
     if (name == "at") {
         float x = 0;
         float y = 0;
@@ -185,14 +185,14 @@ TEST(Platz, GoesWithThePointerAndNothingIsPressedThatWasNotPointedAtLast)
     EXPECT_FALSE(RouteKey(*probe, {kKeyDelete, 0})) << "nothing is pressed without a place";
     stage("move 0 1050 50\n");
     EXPECT_TRUE(RouteKey(*probe, {kKeyRight, 0}));
-    EXPECT_EQ(probe->Place(), &probe->vorn) << "the first arrow begins where the pointer was";
+    EXPECT_EQ(probe->Highlighted(), &probe->vorn) << "the first arrow begins where the pointer was";
     RouteKey(*probe, {kKeyRight, 0});
-    EXPECT_EQ(probe->Place(), &probe->hinten);
+    EXPECT_EQ(probe->Highlighted(), &probe->hinten);
     EXPECT_FALSE(RouteKey(*probe, {kKeyRight, kShiftKey}));
     stage("move 0 1050 50\n");
-    EXPECT_EQ(probe->Place(), &probe->hinten) << "a pointer that rests moves nothing";
+    EXPECT_EQ(probe->Highlighted(), &probe->hinten) << "a pointer that rests moves nothing";
     EXPECT_EQ(stage("down 1 1050 50\n"), "! move vorn 1 at 250,50\n! down vorn 1 at 250,50\n");
-    EXPECT_EQ(probe->Place(), nullptr);
+    EXPECT_EQ(probe->Highlighted(), nullptr);
     EXPECT_FALSE(RouteKey(*probe, {kKeyLeft, 0})) << "the pointer has its press to finish";
 }
 

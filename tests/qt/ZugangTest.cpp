@@ -80,7 +80,7 @@ TEST_F(Zugang, AFrameFollowsTheArrowKeysUntilThePointerMoves)
     constexpr bool heldDown = true;
     Press(form, Qt::Key_Right);
     Press(form, Qt::Key_Right, {}, {}, heldDown);
-    EXPECT_EQ(frmTessel->Place(), &frmTessel->imgFeld(20));
+    EXPECT_EQ(frmTessel->Highlighted(), &frmTessel->imgFeld(20));
     EXPECT_EQ(look(frmTessel->imgFeld(10)), plain);
     EXPECT_NE(look(frmTessel->imgFeld(20)), plain);
     PointAt(frmTessel->imgFeld(1));

@@ -5,6 +5,7 @@
 
 #include "Version.h"
 #include "ui/layer/Instance.h"
+#include "ui/layer/PointerRouting.h"
 
 namespace malvone {
 
@@ -54,7 +55,7 @@ void Application::RunModal(Window& window)
     // A press that has opened this window finds its release elsewhere, or nowhere.
     for (InstanceBase* const instance : InstanceBase::All()) {
         if (Window* const other = instance->Current()) {
-            other->Pressed.reset();
+            LetGo(*other);
         }
     }
     while (!ModalOver(window)) {

@@ -123,7 +123,8 @@ public:
 
     // Shapes and lines are looked through by the pointer.
     virtual bool TakesPointer() const { return true; }
-    // The arrow keys lead to the control as the pointer would: see Place.h. Fixed by the design.
+    // The arrow keys lead to the control as the pointer would: see Highlight.h. Fixed by the
+    // design.
     bool ByArrows = false;
     // Buttons and text boxes can have the focus; the first in the tab order has the lowest number.
     virtual bool TakesFocus() const { return false; }

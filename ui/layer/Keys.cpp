@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "ui/layer/App.h"
-#include "ui/layer/Place.h"
+#include "ui/layer/Highlight.h"
 
 namespace malvone {
 namespace {
@@ -119,7 +119,7 @@ bool RouteKey(Window& window, Key key)
     }
     return TakenByShortcut(window, key) || TakenByAccessKey(window, key) ||
            TakenByDefaultButton(window, key) || TakenByFocusedButton(window, key) ||
-           TakenByTab(window, key) || TakenByPlace(window, key);
+           TakenByTab(window, key) || TakenByHighlight(window, key);
 }
 
 bool MayRepeat(Key key)

@@ -31,9 +31,9 @@ struct Key
 
 // Routes a key that has been pressed in a window: Form_KeyDown first, then the menu's shortcuts,
 // access keys of visible and enabled buttons wherever they lie, the default button, the focused
-// button, Tab, the place of the arrow keys. Returns whether somebody took it; what is left belongs
-// to the text box that has the focus and to the platform. A key for a window that takes no input at
-// present is not routed.
+// button, Tab, the highlight of the arrow keys. Returns whether somebody took it; what is left
+// belongs to the text box that has the focus and to the platform. A key for a window that takes no
+// input at present is not routed.
 bool RouteKey(Window& window, Key key);
 
 // A key that is held down speaks once: it must not answer the next question too. Only those that

@@ -2,7 +2,8 @@
 #include "ui/layer/PointerRouting.h"
 
 #include "ui/layer/App.h"
-#include "ui/layer/Place.h"
+#include "ui/layer/Highlight.h"
+#include "ui/layer/Routing.h"
 
 namespace malvone {
 namespace {
@@ -13,6 +14,12 @@ Mouse Within(const Visual& visual, const Mouse& mouse)
     inside.X -= visual.WindowLeft();
     inside.Y -= visual.WindowTop();
     return inside;
+}
+
+// What is pressed hears of the pointer wherever it is, everything else within the client area.
+bool HearsOf(const Window& window, const Mouse& mouse)
+{
+    return App.TakesInput(window) && (window.Pressed() || window.InClient(mouse.X, mouse.Y));
 }
 
 std::vector<Picture> PicturesOf(const Window& window)
@@ -49,41 +56,43 @@ Mouse MiddleOf(const Visual& visual, std::int16_t button)
 
 void PointerPressed(Window& window, const Mouse& mouse)
 {
-    if (!App.TakesInput(window) || (!window.Pressed && !window.InClient(mouse.X, mouse.Y))) {
+    if (!HearsOf(window, mouse)) {
         return;
     }
     const EventScope scope;
-    if (!window.Pressed) {
-        window.Pressed = ControlAt(window, mouse.X, mouse.Y);
+    std::optional<Visual*>& pressed = Routing::Of(window).Pressed;
+    if (!pressed) {
+        pressed = ControlAt(window, mouse.X, mouse.Y);
         // Keys may have pointed elsewhere since: nothing is pressed that was not pointed at last.
-        if (window.Place() != nullptr && window.Place() != window.Pressed) {
+        if (window.Highlighted() != nullptr && window.Highlighted() != pressed) {
             Hover(window, mouse);
         }
     }
-    if (Visual* const target = *window.Pressed; target != nullptr && target->Enabled) {
+    if (Visual* const target = pressed.value_or(nullptr); target != nullptr && target->Enabled) {
         target->MouseDown.Raise(target->Index(), Within(*target, mouse));
     }
 }
 
 void PointerMoved(Window& window, const Mouse& mouse)
 {
-    const bool rests = window.PointerX == mouse.X && window.PointerY == mouse.Y;
-    if (rests && window.Place() != nullptr) {
+    auto& routed = Routing::Of(window);
+    const bool rests = routed.PointerX == mouse.X && routed.PointerY == mouse.Y;
+    if (rests && window.Highlighted() != nullptr) {
         return;
     }
-    window.PointerX = mouse.X;
-    window.PointerY = mouse.Y;
+    routed.PointerX = mouse.X;
+    routed.PointerY = mouse.Y;
     Hover(window, mouse);
 }
 
 void Hover(Window& window, const Mouse& mouse)
 {
-    if (!App.TakesInput(window) || (!window.Pressed && !window.InClient(mouse.X, mouse.Y))) {
+    if (!HearsOf(window, mouse)) {
         return;
     }
     const EventScope scope;
-    Visual* const target = window.Pressed.value_or(ControlAt(window, mouse.X, mouse.Y));
-    LeavePlace(window, target);
+    Visual* const target = window.Pressed().value_or(ControlAt(window, mouse.X, mouse.Y));
+    LeaveHighlight(window, target);
     if (target == nullptr) {
         window.Form_MouseMove(mouse);
     } else if (target->Enabled) {
@@ -93,11 +102,11 @@ void Hover(Window& window, const Mouse& mouse)
 
 void PointerReleased(Window& window, const Mouse& mouse)
 {
-    if (!window.Pressed) {
+    if (!window.Pressed()) {
         return;
     }
-    Visual* const target = *window.Pressed;
-    window.Pressed.reset();
+    Visual* const target = *window.Pressed();
+    LetGo(window);
     if (!App.TakesInput(window)) {
         return;
     }
@@ -116,6 +125,11 @@ void PointerReleased(Window& window, const Mouse& mouse)
     if (left) {
         Hover(window, Mouse{0, mouse.Shift, mouse.X, mouse.Y});
     }
+}
+
+void LetGo(Window& window)
+{
+    Routing::Of(window).Pressed.reset();
 }
 
 void FingerPressed(Window& window, const Mouse& mouse)

@@ -20,16 +20,19 @@ void PointerPressed(Window& window, const Mouse& mouse);
 void PointerMoved(Window& window, const Mouse& mouse);
 void PointerReleased(Window& window, const Mouse& mouse);
 
-// What a movement does. A pointer that rests is moved by nobody, though browsers tell so when
-// something changes below it: it leaves the place of the arrow keys alone.
+// Ends a press whose release comes to nobody.
+void LetGo(Window& window);
+
+// What a movement does. A pointer that rests leaves the highlight of the arrow keys alone, though
+// browsers tell of a movement when something changes below it.
 void Hover(Window& window, const Mouse& mouse);
 
 // A finger cannot point without touching. Where its coming changes what is seen, it has pointed;
 // where nothing changes, it presses.
 void FingerPressed(Window& window, const Mouse& mouse);
 
-// For who cannot point: as if the player pointed at the middle of a control and clicked. What the
-// first of the three does may take the window away; the others do nothing then.
+// For players who cannot point: as if the pointer had come to the middle of a control and clicked.
+// The movement, the press or the release may take the window away; what is left does nothing then.
 void Press(Visual& visual);
 
 }  // namespace malvone

@@ -12,13 +12,13 @@ enum class Change {
     Visible,
     Enabled,
     Picture,
-    Text,    // Caption, Text or the items of a list
-    Look,    // colours, font, alignment, border
-    State,   // Checked, Locked, TabStop, Interval
-    Select,  // SelStart, SelLength
-    Tip,     // ToolTipText, MousePointer
-    Place,   // the frame of the arrow keys has come to a control, or left it
-    Data,    // Tag: nothing that can be seen
+    Text,       // Caption, Text or the items of a list
+    Look,       // colours, font, alignment, border
+    State,      // Checked, Locked, TabStop, Interval
+    Select,     // SelStart, SelLength
+    Tip,        // ToolTipText, MousePointer
+    Highlight,  // the frame of the arrow keys has come to a control, or left it
+    Data,       // Tag: nothing that can be seen
 };
 
 // Whoever owns properties: a window or a control.

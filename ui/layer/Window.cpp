@@ -2,10 +2,10 @@
 #include "ui/layer/Window.h"
 
 #include <algorithm>
-#include <utility>
 
 #include "ui/layer/App.h"
 #include "ui/layer/Instance.h"
+#include "ui/layer/PointerRouting.h"
 
 namespace malvone {
 
@@ -103,14 +103,10 @@ void Window::SetFocus(Visual* control)
     }
 }
 
-void Window::SetPlace(Visual* control)
+void Window::Drag()
 {
-    Visual* const old = std::exchange(place_, control);
-    for (Visual* const changed : {old, control}) {
-        if (changed != nullptr && old != control) {
-            changed->Changed(Change::Place);
-        }
-    }
+    LetGo(*this);
+    App.Screen().DragWindow(*this);
 }
 
 void Window::Move(Twips left, Twips top)
@@ -153,7 +149,7 @@ void Window::Hide()
         return;
     }
     shown_ = false;
-    Pressed.reset();
+    LetGo(*this);
     focus_ = nullptr;  // whoever shows it again begins with the designed focus
     App.Screen().WindowHidden(*this);
 }

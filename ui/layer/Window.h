@@ -101,18 +101,14 @@ public:
     void SetFocus(Visual* control);
 
     // What holds the pointer between press and release: a control, or with null the window's own
-    // surface. Routing keeps it; without a value nothing is pressed.
-    std::optional<Visual*> Pressed;
-
+    // surface. Without a value nothing is pressed.
+    std::optional<Visual*> Pressed() const { return routed_.Pressed; }
     // Where the arrow keys have led to, null while they lead nowhere; bindings draw a frame there
-    // and hear of its coming and going as Change::Place. Place.h keeps both.
-    Visual* Place() const { return place_; }
-    void SetPlace(Visual* control);
-    // Where the pointer, or a key in its stead, has last been on a control that keys can lead to.
-    Visual* LastPlace = nullptr;
-    // Where the pointer itself was told last.
-    Twips PointerX = -1;
-    Twips PointerY = -1;
+    // and hear of its coming and going as Change::Highlight.
+    Visual* Highlighted() const { return routed_.Highlighted; }
+    // The player drags the window by its surface: it follows the pointer until the button is
+    // released, and no control hears of the release.
+    void Drag();
 
     virtual void Form_Load() {}
     virtual void Form_Activate() {}
@@ -139,13 +135,25 @@ private:
     friend class Application;
     friend class Control;
     friend class InstanceBase;
+    friend struct Routing;
+
+    // What routing remembers from one event to the next. Nobody else writes it.
+    struct Routed
+    {
+        std::optional<Visual*> Pressed;
+        Visual* Highlighted = nullptr;
+        // Where the pointer, or a key in its stead, has last been on a control with ByArrows.
+        Visual* LastByArrows = nullptr;
+        Twips PointerX = -1;  // the last place that a binding has told
+        Twips PointerY = -1;
+    };
 
     std::string_view name_;
     InstanceBase* instance_ = nullptr;
     std::vector<Control*> controls_;
     mutable std::vector<Visual*> frontToBack_;
     Visual* focus_ = nullptr;
-    Visual* place_ = nullptr;
+    Routed routed_;
     bool shown_ = false;
     bool modal_ = false;
 

@@ -34,8 +34,7 @@ void Zentrieren(Window& fenster)
 void FensterZiehen(Window& fenster, const Mouse& mouse)
 {
     if (mouse.Button == kLeftButton) {
-        fenster.Pressed.reset();
-        App.Screen().DragWindow(fenster);
+        fenster.Drag();
     }
 }
 

@@ -180,7 +180,7 @@ std::string NameOf(const Spoken& spoken)
 std::string DescriptionOf(const Spoken& spoken)
 {
     const bool pointedAt = spoken.Kind == SpokenKind::Cell && spoken.Where->Tag->Number() != 0 &&
-                           spoken.Where == spoken.Where->Owner().Place();
+                           spoken.Where == spoken.Where->Owner().Highlighted();
     return OneLine(pointedAt ? frmTessel->lblSumme.Caption.Get() : spoken.Where->ToolTipText.Get());
 }
 

@@ -165,7 +165,7 @@ void PutVisual(const Visual& visual)
     element.Place(visual.WindowLeft(), visual.WindowTop(), visual.Width, visual.Height);
     element("hidden", !visual.Seen())("title", visual.ToolTipText.Get());
     element("data-hand", visual.MousePointer == Pointer::Hand);
-    element("data-place", visual.Owner().Place() == &visual);
+    element("data-highlight", visual.Owner().Highlighted() == &visual);
     const char* const kind = Describe(visual, element);
     element.Tell(kind, IdOf(visual), IdOf(visual.Owner()));
 }

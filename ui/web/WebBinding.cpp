@@ -137,7 +137,7 @@ void WebBinding::ShowChanges()
     const Window* const front = App.TopModal() != nullptr ? App.TopModal() : frmTessel.Current();
     if (front != nullptr) {
         const auto* const box = dynamic_cast<const TextBox*>(front->Focus());
-        const Visual* const focus = box != nullptr ? box : front->Place();
+        const Visual* const focus = box != nullptr ? box : front->Highlighted();
         Ask("focus", focus != nullptr ? IdOf(*focus) : IdOf(*front));
     }
 }

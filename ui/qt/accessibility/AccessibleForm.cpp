@@ -77,7 +77,7 @@ QAccessible::State AccessiblePart::state() const
     state.disabled = !part_.Where->Enabled;
     state.invisible = !IsSpokenNow(part_);
     state.focusable = part_.Where->ByArrows;
-    state.focused = part_.Where == window->Place() && form_->isActiveWindow();
+    state.focused = part_.Where == window->Highlighted() && form_->isActiveWindow();
     return state;
 }
 
@@ -249,8 +249,9 @@ QAccessibleInterface* AccessibleForm::childAt(int x, int y) const
 QAccessibleInterface* AccessibleForm::focusChild() const
 {
     const Window* const window = ModelOf(Form());
-    QAccessibleInterface* const place =
-        window != nullptr && Form()->isActiveWindow() ? InterfaceOf(window->Place()) : nullptr;
+    QAccessibleInterface* const place = window != nullptr && Form()->isActiveWindow()
+                                            ? InterfaceOf(window->Highlighted())
+                                            : nullptr;
     return place != nullptr ? place : QAccessibleWidget::focusChild();
 }
 
@@ -278,7 +279,7 @@ void AccessibleForm::TellChanges()
             Tell(InterfaceOf(node), seen ? QAccessible::ObjectShow : QAccessible::ObjectHide);
         }
     }
-    const Visual* const place = Form()->Model()->Place();
+    const Visual* const place = Form()->Model()->Highlighted();
     if (std::exchange(place_, place) != place) {
         QAccessibleInterface* const part = InterfaceOf(place);
         Tell(part != nullptr ? part : this, QAccessible::Focus);

@@ -202,7 +202,7 @@ void PaintWindow(QPainter& painter, const Window& window, PictureStore& pictures
         const QRectF place = PlaceOf(*visual);
         if (visual->Seen() && dirty.intersects(place.toAlignedRect())) {
             painting.Paint(*visual, place);
-            if (visual == window.Place()) {
+            if (visual == window.Highlighted()) {
                 painting.Frame(place);
             }
         }

@@ -1,5 +1,5 @@
-// Place.cpp: from an arrow key to a movement of the pointer.
-#include "ui/layer/Place.h"
+// Highlight.cpp: from an arrow key to a movement of the pointer.
+#include "ui/layer/Highlight.h"
 
 #include <algorithm>
 #include <cmath>
@@ -8,6 +8,7 @@
 
 #include "ui/layer/App.h"
 #include "ui/layer/PointerRouting.h"
+#include "ui/layer/Routing.h"
 
 namespace malvone {
 namespace {
@@ -49,7 +50,7 @@ Twips Overlap(Twips a, Twips aLength, Twips b, Twips bLength)
 }
 
 // The nearest control straight ahead, of several side by side the one that lies best; where there
-// is none, the place stays.
+// is none, the highlight stays.
 Visual& Next(const Window& window, Visual& from, const Direction& direction)
 {
     const Mouse here = MiddleOf(from, 0);
@@ -78,46 +79,46 @@ Visual& Next(const Window& window, Visual& from, const Direction& direction)
 void PointAt(Window& window, Visual& visual)
 {
     Hover(window, MiddleOf(visual, 0));
-    window.SetPlace(&visual);
+    Routing::SetHighlight(window, &visual);
 }
 
 bool TakenByArrow(Window& window, const Direction& direction)
 {
-    if (Visual* const place = window.Place(); place != nullptr && LedTo(*place)) {
-        PointAt(window, Next(window, *place, direction));
+    if (Visual* const here = window.Highlighted(); here != nullptr && LedTo(*here)) {
+        PointAt(window, Next(window, *here, direction));
         return true;
     }
-    const bool known = window.LastPlace != nullptr && LedTo(*window.LastPlace);
-    Visual* const start = known ? window.LastPlace : BottomLeft(window);
+    Visual* const last = Routing::Of(window).LastByArrows;
+    Visual* const start = last != nullptr && LedTo(*last) ? last : BottomLeft(window);
     if (start != nullptr) {
         PointAt(window, *start);
     }
     return start != nullptr;
 }
 
-// What lies there when all is done is pointed at, so that the next press takes what is shown. What
-// has gone with the press leaves no place behind.
+// What lies there when all is done is pointed at, so that the next press takes what is shown. A
+// control that has gone with the press keeps no highlight.
 bool TakenByPress(Window& window)
 {
-    Visual* const place = window.Place();
-    if (place == nullptr || !LedTo(*place)) {
+    Visual* const here = window.Highlighted();
+    if (here == nullptr || !LedTo(*here)) {
         return false;
     }
-    PointerPressed(window, MiddleOf(*place, kLeftButton));
-    PointerReleased(window, MiddleOf(*place, kLeftButton));
-    if (!LedTo(*place)) {
-        window.SetPlace(nullptr);
+    PointerPressed(window, MiddleOf(*here, kLeftButton));
+    PointerReleased(window, MiddleOf(*here, kLeftButton));
+    if (!LedTo(*here)) {
+        Routing::SetHighlight(window, nullptr);
     } else if (App.TakesInput(window)) {
-        PointAt(window, *place);
+        PointAt(window, *here);
     }
     return true;
 }
 
 }  // namespace
 
-bool TakenByPlace(Window& window, Key key)
+bool TakenByHighlight(Window& window, Key key)
 {
-    if (key.Shift != 0 || window.Pressed) {
+    if (key.Shift != 0 || window.Pressed()) {
         return false;
     }
     if (key.Code == kKeyDelete || key.Code == kKeyBack) {
@@ -131,11 +132,21 @@ bool TakenByPlace(Window& window, Key key)
     return false;
 }
 
-void LeavePlace(Window& window, Visual* under)
+void LeaveHighlight(Window& window, Visual* under)
 {
-    window.SetPlace(nullptr);
+    Routing::SetHighlight(window, nullptr);
     if (under != nullptr && under->ByArrows) {
-        window.LastPlace = under;
+        Routing::Of(window).LastByArrows = under;
+    }
+}
+
+void Routing::SetHighlight(Window& window, Visual* control)
+{
+    Visual* const old = std::exchange(window.routed_.Highlighted, control);
+    for (Visual* const changed : {old, control}) {
+        if (changed != nullptr && old != control) {
+            changed->Changed(Change::Highlight);
+        }
     }
 }
 

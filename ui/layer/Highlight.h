@@ -1,0 +1,24 @@
+// Highlight.h: the control that the arrow keys have led to, for players who use no pointer.
+//
+// To everything on the window the highlight is the pointer: the control that it comes to hears a
+// movement, and Delete or Backspace there is the left button. A frame shows it until the pointer
+// moves.
+#pragma once
+
+#include "ui/layer/Keys.h"
+
+namespace malvone {
+
+class Visual;
+class Window;
+
+// The last station of a key. Without modifiers the arrows lead from one control with ByArrows to
+// the next in their direction, over all of them and no further than the last; the first one only
+// shows where the highlight is: where the pointer was last, else at the bottom left. A window
+// without such controls takes none of these keys.
+bool TakenByHighlight(Window& window, Key key);
+
+// The pointer moves over a control, null for the window itself: the frame goes.
+void LeaveHighlight(Window& window, Visual* under);
+
+}  // namespace malvone
