@@ -2,6 +2,8 @@
 # the manuals among the documents with a link from where the game looks for them, and what a desktop
 # wants to know of it. The target "uninstall" takes all of it away again.
 set(desktop_files "${PROJECT_BINARY_DIR}/packaging")
+# Launchers show what the window shows.
+set(MALVONE_ICON "${PROJECT_SOURCE_DIR}/assets/pictures/icon-tessel.svg")
 set(MALVONE_EXECUTABLE "${MALVONE_GAMES_FOLDER}/malvone")
 configure_file(packaging/malvone.desktop.in "${desktop_files}/malvone.desktop" @ONLY)
 configure_file(packaging/malvone.metainfo.xml.in
@@ -13,7 +15,7 @@ install(FILES ${sounds} DESTINATION "${MALVONE_SHAREDIR}")
 install(FILES "${desktop_files}/malvone.desktop" DESTINATION "${CMAKE_INSTALL_DATADIR}/applications")
 install(FILES "${desktop_files}/io.github.malvone.malvone.metainfo.xml"
     DESTINATION "${CMAKE_INSTALL_DATADIR}/metainfo")
-install(FILES packaging/malvone.svg
+install(FILES "${MALVONE_ICON}" RENAME malvone.svg
     DESTINATION "${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps")
 install(FILES "${desktop_files}/malvone.6" DESTINATION "${CMAKE_INSTALL_MANDIR}/man6")
 install(FILES LICENSE DESTINATION "${CMAKE_INSTALL_DOCDIR}" RENAME copyright)
@@ -25,8 +27,8 @@ if(NOT MALVONE_SANITIZE)
         set(icon "${desktop_files}/malvone-${size}.png")
         add_custom_command(OUTPUT "${icon}"
             COMMAND "${RSVG_CONVERT}" --width=${size} --height=${size} --output "${icon}"
-                    "${PROJECT_SOURCE_DIR}/packaging/malvone.svg"
-            DEPENDS packaging/malvone.svg VERBATIM)
+                    "${MALVONE_ICON}"
+            DEPENDS "${MALVONE_ICON}" VERBATIM)
         install(FILES "${icon}" RENAME malvone.png
             DESTINATION "${CMAKE_INSTALL_DATADIR}/icons/hicolor/${size}x${size}/apps")
         list(APPEND icons "${icon}")

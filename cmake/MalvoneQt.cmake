@@ -24,20 +24,16 @@ cmake_path(RELATIVE_PATH MALVONE_SHARE_FOLDER BASE_DIRECTORY "${MALVONE_GAMES_FO
     OUTPUT_VARIABLE from_games_to_share)
 target_compile_definitions(malvone_qt PRIVATE MALVONE_DATADIR="${from_games_to_share}")
 
-# The pictures as Qt resources :/pictures/NAME.svg and the icon as :/malvone.svg. They are kept as
-# they are: unpacking them would cost time at every start. Format 1 leaves their dates out. An
-# object library goes into every program whole, so that no program has to initialise the resources
-# by hand.
+# The pictures as Qt resources :/pictures/NAME.svg. They are kept as they are: unpacking them would
+# cost time at every start. Format 1 leaves their dates out. An object library goes into every
+# program whole, so that no program has to initialise the resources by hand.
 malvone_glob(pictures assets/pictures/*.svg)
 set(qrc "<RCC>\n<qresource prefix=\"/pictures\">\n")
 foreach(picture IN LISTS pictures)
     cmake_path(GET picture FILENAME name)
     string(APPEND qrc "<file alias=\"${name}\">${picture}</file>\n")
 endforeach()
-string(APPEND qrc "</qresource>\n<qresource prefix=\"/\">\n")
-string(APPEND qrc
-    "<file alias=\"malvone.svg\">${PROJECT_SOURCE_DIR}/packaging/malvone.svg</file>\n"
-    "</qresource>\n</RCC>\n")
+string(APPEND qrc "</qresource>\n</RCC>\n")
 file(CONFIGURE OUTPUT generated/pictures.qrc CONTENT "${qrc}" @ONLY)
 qt_add_resources(picture_sources "${PROJECT_BINARY_DIR}/generated/pictures.qrc"
     OPTIONS --no-compress --no-zstd --format-version 1)

@@ -15,9 +15,8 @@ rmSync(out, { recursive: true, force: true });
 mkdirSync(out, { recursive: true });
 const beside = readdirSync(binary).filter(name => /\.(wav|pdf)$/i.test(name)).sort();
 for (const name of ["malvone.js", "malvone.wasm", ...beside]) copyFileSync(join(binary, name), join(out, name));
-for (const path of [part("page.js"), part("malvone.webmanifest"), join(source, "packaging/malvone.svg")]) {
-  copyFileSync(path, join(out, basename(path)));
-}
+for (const name of ["page.js", "malvone.webmanifest"]) copyFileSync(part(name), join(out, name));
+copyFileSync(join(source, "assets/pictures/icon-tessel.svg"), join(out, "malvone.svg"));
 
 const first = await firstPicture(out, join(source, "assets/pictures"));
 write("malvone.css", text(part("page.css")) + first.style);
