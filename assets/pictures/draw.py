@@ -203,8 +203,7 @@ def backdrop(sheet):
     From line to line the grey grows so little that no edge is seen: the whole looks soft at any
     stretching, and flat opaque fills cost less than gradients.
     """
-    columns, rows, step = 34, 34, 20
-    field = hilly_field(Random(14), columns, rows, step, 220)
+    field = hilly_field(Random(20), 110)
     greys = ["#" + 3 * f"{value:02X}" for value in range(0xB8, 0xC3)]
     # The rare deepest and highest places share the first and the last grey.
     heights = sorted(field.values())
@@ -212,7 +211,7 @@ def backdrop(sheet):
     sheet.rect(0, 0, 643, 647, greys[0])
     for index, colour in enumerate(greys[1:]):
         threshold = low + (high - low) * (index + 0.5) / (len(greys) - 1)
-        sheet.path(contour(field, columns, rows, step, threshold), colour)
+        sheet.path(contour(field, threshold), colour)
 
 
 def message(sheet, width, height, *pills):
