@@ -11,7 +11,7 @@ from random import Random
 
 from hills import contour, hilly_field
 from shapes import (DEEP_BLUE, GOLD, LIGHT, NIGHT, SHADOW, SKY, WORD_HEIGHT, badge, checker, disc,
-                    emblem, face, pill, tiles, well, word)
+                    emblem, face, pill, well, word)
 from sheet import Sheet, number
 
 FOLDER = Path(__file__).resolve().parent
@@ -43,10 +43,15 @@ PANELS = {
 }
 COLUMN_LEFT, COLUMN_RIGHT, WELL_RIGHT = 18, 197, 190
 
-# The edge of the ornament: start on the top border, then cubic curves down the picture.
-CURVE_TESSEL = (236, ((228, 44, 200, 62, 142, 66), (84, 70, 62, 96, 58, 160),
-                      (52, 270, 62, 330, 56, 420), (48, 560, 36, 640, 54, 800)))
+# The edge of the ornament: start on the top border, then cubic curves down the picture. In the main
+# window it goes on straight above and below.
+CURVE_TESSEL = (236, ((236, 44, 200, 62, 142, 66), (84, 70, 62, 96, 58, 160),
+                      (52, 270, 62, 330, 56, 420), (48, 560, 54, 640, 54, 800)))
 CURVE_BESTE = (66, ((60, 40, 50, 60, 48, 110), (46, 190, 54, 240, 48, 300), (42, 360, 40, 400, 50, 450)))
+
+# How far the ground of the main window is drawn beyond all borders of its picture: enough for a
+# window of any proportion.
+BEYOND = 1600
 
 
 # --- stones, digits, arrows ---------------------------------------------------------------------
@@ -134,41 +139,27 @@ def fields(sheet):
 
 # --- backgrounds --------------------------------------------------------------------------------
 
-def _edge(curve):
-    """Points of the ornament's edge, close to each other, from top to bottom."""
-    x0, y0 = curve[0], 0
-    for x1, y1, x2, y2, x3, y3 in curve[1]:
-        for i in range(50):
-            t = i / 50
-            a, b, c, d = (1 - t) ** 3, 3 * (1 - t) ** 2 * t, 3 * (1 - t) * t * t, t ** 3
-            yield a * x0 + b * x1 + c * x2 + d * x3, a * y0 + b * y1 + c * y2 + d * y3
-        x0, y0 = x3, y3
-    yield x0, y0
-
-
-def ornament(sheet, curve, edge):
-    """The dark ornament along the left border: a curved band of tiles with two bright seams."""
-    curves = "".join("C" + " ".join(number(w) for w in k) for k in curve[1])
-    band = f"M0 0H{curve[0]}{curves}H0z"
-    for dx, dy, colour in ((8, 6, "#C9D8EE"), (5, 4, SKY), (2.5, 2, GOLD)):
-        seam = "".join("C" + " ".join(number(w + (dy if i % 2 else dx)) for i, w in enumerate(k))
-                       for k in curve[1])
-        sheet.path(f"M0 0H{number(curve[0] + dx)}V{dy}{seam}H0z", colour)
-    sheet.path(band, sheet.linear((0, "#23408C"), (0.3, DEEP_BLUE), (1, NIGHT)))
-    rim = list(_edge(curve))
-    corners = []
-    for row, y in enumerate(range(0, sheet.height, edge)):
-        limit = min(x for x, ky in rim if y - 2 <= ky <= y + edge + 2) - 2
-        corners += [(x, y) for x in range(row % 2 * edge, int(limit) - edge + 1, 2 * edge)]
-    sheet.path(tiles(corners, edge), LIGHT, opacity=0.06)
+def ornament(sheet, curve, edge, beyond=0):
+    """A dark checker along the left border. What lies right of its curved edge covers it: two
+    bright seams and the white of the window. `beyond` pixels of it lie outside of the picture."""
+    left, top, bottom = -beyond, -beyond, sheet.height + beyond
+    sheet.rect(left, top, curve[0] + beyond, bottom - top,
+               sheet.linear((0, "#23408C"), (0.3, DEEP_BLUE), (1, NIGHT), until=sheet.height))
+    checker(sheet, edge, LIGHT, left, top, curve[0], bottom, opacity=0.06)
+    for dx, dy, colour in ((0, 0, GOLD), (2.5, 2, SKY), (5, 4, "#C9D8EE"), (8, 6, LIGHT)):
+        curves = "".join("C" + " ".join(number(w + (dy if i % 2 else dx)) for i, w in enumerate(k))
+                         for k in curve[1])
+        sheet.path(f"M{number(curve[0] + dx)} {top}V{dy}{curves}V{bottom}H{sheet.width + beyond}V{top}z", colour)
 
 
 def ground_tessel(sheet):
-    sheet.rect(0, 0, 1000, 800, LIGHT)
-    ornament(sheet, CURVE_TESSEL, 16)
-    # A light plate under the title: its dark blue letters would be lost on the ornament.
-    pill(sheet, 40, 19, 140, 31, "display")
-    emblem(sheet, 44, 36, 25)
+    """White with the ornament. A window of other proportions shows more of the drawing than the
+    picture: it goes on beyond all four borders."""
+    ornament(sheet, CURVE_TESSEL, 16, BEYOND)
+    # A light plate for the title, whose capitals stand 26 to 39 pixels below the window's top: its
+    # dark blue letters would be lost on the ornament.
+    pill(sheet, 40, 17, 140, 31, "display")
+    emblem(sheet, 44, 33, 25)
 
 
 def ground_beste(sheet):
@@ -189,7 +180,7 @@ def ground_beste(sheet):
 def frame(sheet):
     """Quiet tiling; the lines around the shown part and around the stones make the frame."""
     sheet.rect(0, 0, 866, 580, "#9DB0CB")
-    checker(sheet, 8, "#93A7C4")
+    checker(sheet, 8, "#93A7C4", 0, 0, sheet.width, sheet.height)
     sheet.path("M0 0h463v337h-463zM1 1v335h461v-335z", "#3F5378", fill_rule="evenodd")
     sheet.path("M1 1h461v1h-460v334h-1z", LIGHT, opacity=0.6)
     sheet.path("M462 2v334h-460v-1h459v-333z", NIGHT, opacity=0.25)
@@ -218,7 +209,7 @@ def message(sheet, width, height, *pills):
     """Ground of a message window, whose shown part is width x height."""
     sheet.rect(0, 0, sheet.width, sheet.height,
                sheet.linear((0, "#23408C"), (0.22, DEEP_BLUE), (1, NIGHT)))
-    checker(sheet, 14, LIGHT, opacity=0.055)
+    checker(sheet, 14, LIGHT, 0, 0, sheet.width, sheet.height, opacity=0.055)
     sheet.rect(0, 0, width, 24, sheet.linear((0, LIGHT, 0.16), (1, LIGHT, 0.02)))
     sheet.path(f"M0 0h{width}v{height}h-{width}zM1 1v{height - 2}h{width - 2}v-{height - 2}z", SKY,
                fill_rule="evenodd")

@@ -125,15 +125,10 @@ def face(sheet, cx, cy, r, kind, colour="#23160A"):
         sheet.rect(cx - 5.5 * s, cy + 4 * s, 11 * s, 2 * s, colour, rx=1 * s)
 
 
-def tiles(corners, edge):
-    """One path of square tiles with the given top left corners."""
-    return "".join(f"M{number(x)} {number(y)}h{edge}v{edge}h-{edge}z" for x, y in corners)
-
-
-def checker(sheet, edge, colour, **more):
-    """Every second square of a checker over the whole sheet: one dashed line per row."""
-    rows = "".join(f"M{row % 2 * edge} {y + edge // 2}H{sheet.width}"
-                   for row, y in enumerate(range(0, sheet.height, edge)))
+def checker(sheet, edge, colour, left, top, right, bottom, **more):
+    """Every second square of a checker: one dashed line for each row."""
+    rows = "".join(f"M{left + row % 2 * edge} {y + edge // 2}H{right}"
+                   for row, y in enumerate(range(top, bottom, edge)))
     sheet.path(rows, stroke=colour, stroke_width=edge, stroke_dasharray=f"{edge} {edge}", **more)
 
 

@@ -45,13 +45,15 @@ class Sheet:
             self._gradients[content] = "abcdefghijklmnopqrstuvwxyz"[len(self._gradients)]
         return f"url(#{self._gradients[content]})"
 
-    def linear(self, *stops, across=False):
+    def linear(self, *stops, across=False, until=None):
         """A paint from top to bottom, or from left to right if `across`.
 
-        The steps are (place, colour) or (place, colour, opacity).
+        The steps are (place, colour) or (place, colour, opacity). It is as long as the painted shape
+        is high or wide, or goes `until` so many pixels below the top of the sheet.
         """
-        end = {"x2": 1, "y2": 0} if across else {"x2": 0, "y2": 1}
-        return self._gradient("linearGradient", stops, {"x1": 0, "y1": 0, **end})
+        end = {"x2": 1, "y2": 0} if across else {"x2": 0, "y2": until or 1}
+        units = {"gradientUnits": "userSpaceOnUse"} if until else {}
+        return self._gradient("linearGradient", stops, {"x1": 0, "y1": 0, **end, **units})
 
     def radial(self, *stops, cx=0.5, cy=0.5, r=0.5):
         """A paint from a centre outwards, measured in parts of the painted shape."""
