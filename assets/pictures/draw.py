@@ -162,19 +162,30 @@ def ground_tessel(sheet):
     emblem(sheet, 44, 33, 25)
 
 
+# Rows of the best list, in pixels: the middle of each badge and the bottom of its band. The digits
+# of a row are 34 pixels below those of the row before, the names only 33.
+ROWS = ((63, 79), (96, 113), (130, 147), (163, 180), (197, 215))
+
+
 def ground_beste(sheet):
     sheet.rect(0, 0, 650, 450, LIGHT)
     ornament(sheet, CURVE_BESTE, 12)
-    # The ground of the list, dark enough for its white lines and light enough for blue words.
-    sheet.rect(59, 5, 281, 223, SHADOW, rx=9, opacity=0.2)
-    sheet.rect(58, 4, 282, 222, "#5C7299", rx=9)
-    sheet.rect(59, 5, 280, 220, sheet.linear((0, "#C3D1E6"), (1, "#ABBDD9")), rx=8)
+    # The ground of the list, dark enough for its white lines and light enough for blue words. Its
+    # right end lies outside of the window, since the digits all but touch the window's border.
+    sheet.rect(59, 5, 301, 223, SHADOW, rx=9, opacity=0.2)
+    sheet.rect(58, 4, 302, 222, "#5C7299", rx=9)
+    sheet.rect(59, 5, 300, 220, sheet.linear((0, "#C3D1E6"), (1, "#ABBDD9")), rx=8)
     emblem(sheet, 28, 30, 19)
-    # The places 1 to 5 beside the name boxes.
-    for place, y in enumerate((63, 96, 130, 163, 196), start=1):
-        sheet.circle(74, y, 9, NIGHT if place > 1 else "#8A6A00")
-        sheet.circle(74, y, 8, "#3562C0" if place > 1 else GOLD)
-        word(sheet, str(place), 74, y + 4, LIGHT if place > 1 else NIGHT, height=8, middle=True)
+    top = 45
+    for place, (middle, bottom) in enumerate(ROWS, start=1):
+        # Every second row lies on a darker band, which leads the eye from the badge to the digits.
+        if place % 2:
+            sheet.rect(59, top, 300, bottom - top, "#7E97BF", opacity=0.45)
+        top = bottom
+        sheet.circle(74, middle, 9, NIGHT if place > 1 else "#8A6A00")
+        sheet.circle(74, middle, 8, "#3562C0" if place > 1 else GOLD)
+        word(sheet, str(place), 74, middle + 4, LIGHT if place > 1 else NIGHT, height=8, middle=True)
+        well(sheet, 249, 34 * place + 13, 90, 30)
 
 
 def frame(sheet):
