@@ -12,8 +12,6 @@
 namespace malvone::web {
 namespace {
 
-constexpr Twips kBar = 360;
-
 std::string Css(Colour colour)
 {
     std::array<char, 8> text{};
@@ -175,7 +173,7 @@ void PutVisual(const Visual& visual)
 Twips Above(const Window& window)
 {
     const bool bar = window.BorderStyle == Border::FixedSingle || !window.MenuEntries().empty();
-    return bar ? kBar : 0;
+    return bar ? Ask<Twips>("bar") : 0;
 }
 
 std::string IdOf(const Window& window)
@@ -191,7 +189,7 @@ std::string IdOf(const Control& control)
 void Put(const Window& window, int level)
 {
     Properties element;
-    element("--level", level)("--above", Above(window))("--across", window.Picture->Width());
+    element("--level", level)("data-bar", Above(window) > 0)("--across", window.Picture->Width());
     element.Place(window.Left, window.Top, window.Width, window.Height);
     element("--ground", Css(window.BackColor));
     const bool main = !window.MenuEntries().empty();

@@ -52,13 +52,11 @@ Twips WebBinding::ScreenHeight()
     return Ask<Twips>("height");
 }
 
-// The page is drawn as large as the window with the menu fits it.
 void WebBinding::WindowLoaded(Window& window)
 {
-    window.Height = window.ClientHeight + Above(window);
-    if (!window.MenuEntries().empty()) {
-        Ask("fit", window.Width.Get(), window.Height.Get());
-    }
+    const bool main = !window.MenuEntries().empty();
+    window.Width = main ? Ask<Twips>("mainWidth") : window.ClientWidth;
+    window.Height = main ? Ask<Twips>("mainHeight") : window.ClientHeight + Above(window);
 }
 
 // The elements stand in the order in which they are read.
@@ -242,6 +240,9 @@ void WebBinding::KeyPressed(const val& event)
 // windows that lie over it.
 void WebBinding::FitScreen()
 {
+    for (const Form& form : forms_) {
+        WindowLoaded(*form.Model);
+    }
     const Twips right = (Screen.Width - frmTessel->Width) / 2 - frmTessel->Left;
     const Twips down = (Screen.Height - frmTessel->Height) / 2 - frmTessel->Top;
     for (const Form& form : forms_) {

@@ -34,14 +34,16 @@ write("pictures.css", pictures.map(file => {
 }).join(""));
 
 // What is asked for carries the mark of its build, so that files of two builds never meet.
-const sum = createHash("sha256");
+const start = `\n${text(part("start.js"))}`;
+const sum = createHash("sha256").update(start);
 for (const name of ["index.html.in", "worker.js.in"]) sum.update(text(part(name)));
 sum.update(first.markup);
 for (const name of readdirSync(out).sort()) sum.update(readFileSync(join(out, name)));
 const build = sum.digest("hex").slice(0, 12);
 const marked = ["page.js", "malvone.css", "pictures.css", "malvone.js", "malvone.wasm"].map(name => `${name}?${build}`);
 const values = {
-  BUILD: build, BESIDE: beside.join(" "), FIRST: first.markup,
+  BUILD: build, BESIDE: beside.join(" "), FIRST: first.markup, START: start,
+  START_SUM: `'sha256-${createHash("sha256").update(start).digest("base64")}'`,
   FILES: [...marked, "malvone.svg", "malvone.webmanifest"].join(" "),
 };
 for (const name of ["index.html", "worker.js"]) {

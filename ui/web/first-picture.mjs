@@ -9,6 +9,9 @@ const listen = folder => new Promise((resolve, reject) => {
   const told = {
     width: () => 19200,
     height: () => 10800,
+    mainWidth: () => 11325,
+    mainHeight: () => 7305,
+    bar: () => 360,
     storageAllowed: () => true,
     writeEntry: () => 0,
     put(kind, id, inside, described) {
@@ -31,80 +34,81 @@ const listen = folder => new Promise((resolve, reject) => {
   setTimeout(() => reject(new Error("The program does not come to its first picture.")), 60_000).unref();
 });
 
-const place = (x, y, [width, height]) => `x="${x}" y="${y}" width="${width}" height="${height}"`;
-const pixels = (element, name) => element[name] / 15;
 const escape = text => text.replaceAll("&", "&amp;").replaceAll("<", "&lt;");
-const rules = element => Object.keys(element).filter(name => name.startsWith("--"))
-  .map(name => `${name}: ${element[name]};`).join(" ");
+const lengths = ["--left", "--top", "--width", "--height"];
+const box = element => lengths.map(name => Number(element[name]));
 
-// Draws pictures from files. What a picture holds stands once in the whole, with names of its own.
+// The picture of an element, as large as it or in its own size, and what it holds, which stands once in
+// the whole with names of its own. The cells of the empty board are alike and touch each other: one
+// pattern is drawn faster than 140 pictures.
 const painter = pictures => {
   const defined = new Map();
   const contentOf = name => {
     const [, given, drawn] = /<svg ([^>]*)>(.*)<\/svg>/s.exec(readFileSync(`${pictures}/${name}.svg`, "utf8"));
     const [width, height] = ["width", "height"].map(side => Number(new RegExp(` ${side}="(\\d+)"`).exec(given)[1]));
     const own = drawn.replace(/id="/g, `$&${name}-`).replace(/(url\(#|href="#)/g, `$&${name}-`).replaceAll("\n", "");
-    return { width, height, own, box: /viewBox="[^"]*"/.exec(given)[0] };
+    return { size: `width="${width}" height="${height}"`, own, view: /viewBox="[^"]*"/.exec(given)[0] };
   };
-  const use = (name, x, y, size) => {
-    const { own, box } = contentOf(name);
-    defined.set(name, `<symbol id="${name}" ${box} preserveAspectRatio="none">${own}</symbol>`);
-    return `<use href="#${name}" ${place(x, y, size)}/>`;
+  return {
+    definitions: () => [...defined.values()].join(""),
+    picture(name, element) {
+      const { size, own, view } = contentOf(name);
+      const [, , width, height] = box(element).map(twips => twips / 15);
+      const shown = element.kind === "Image" ? view : `viewBox="0 0 ${width} ${height}"`;
+      const kind = element.cells ? `pattern patternUnits="userSpaceOnUse" ${size}` : `symbol ${view} preserveAspectRatio="none"`;
+      defined.set(name, `<${kind} id="${name}">${own}</${kind.split(" ")[0]}>`);
+      const content = element.cells ? `<rect fill="url(#${name})" width="${width}" height="${height}"/>` : `<use href="#${name}" ${size}/>`;
+      return `<svg class="${element.kind} first${element.number}" ${shown} preserveAspectRatio="none">${content}</svg>`;
+    },
   };
-  // In its own size, cut off where its place ends.
-  const cut = (name, x, y, size) => {
-    const { width, height } = contentOf(name);
-    return `<svg ${place(x, y, size)}>${use(name, 0, 0, [width, height])}</svg>`;
-  };
-  // The cells of the empty board are alike and touch each other: one pattern is drawn faster than 140
-  // pictures.
-  const tile = (name, x, y, size) => {
-    const { own } = contentOf(name);
-    if (!defined.has(name)) defined.set(name, `<pattern id="${name}" patternUnits="userSpaceOnUse" ${place(x, y, size)}>${own}</pattern>`);
-    return `<rect fill="url(#${name})" ${place(x, y, size)}/>`;
-  };
-  return { use, cut, tile, definitions: () => [...defined.values()].join("") };
 };
 
-// The program lies in `folder`, the pictures in `pictures`. Gives the markup and the style of the
-// first picture; the page's security policy forbids styles in the markup.
+// Where the parts of the main window lie in the upright layout: they keep their place among each
+// other and move as a whole. The first part that holds the corner of a control has it.
+const parts = [
+  { right: 3200, bottom: 2700, across: 0, down: 6650 },       // title, manual, information
+  { right: 3200, bottom: 6945, across: 3480, down: 3800 },    // displays, new game, end
+  { right: 11325, bottom: 5250, across: -3660, down: 0 },     // the board
+  { right: 3500, bottom: 6945, across: -3240, down: 0 },      // what to do next
+  { right: 5000, bottom: 6945, across: -3660, down: 0 },      // what the move is worth
+  { right: 10500, bottom: 6945, across: -3840, down: 0 },     // the offers
+  { right: Infinity, bottom: Infinity, across: -3960, down: 0 },  // their arrows
+];
+const moved = element => parts.find(({ right, bottom }) => element["--left"] < right && element["--top"] < bottom);
+
+// The program lies in `folder`, the pictures in `pictures`. Gives the markup of the first picture and
+// the style of what is laid out here; the page's security policy forbids styles in the markup.
 export const firstPicture = async (folder, pictures) => {
   const elements = await listen(folder);
   const main = elements.get("frmTessel");
-  const seen = [...elements.values()].filter(({ inside, hidden }) => inside === main.id && !hidden)
-    .sort((a, b) => a["--level"] - b["--level"]);
+  const controls = [...elements.values()].filter(element => element.inside === main.id && element["--level"]);
   const paint = painter(pictures);
 
-  // As on the page, edges are moved to whole pixels.
-  const drawn = seen.map(element => {
-    const [x, y] = ["--left", "--top"].map(name => Math.round(pixels(element, name)));
-    const size = [["--left", "--width", x], ["--top", "--height", y]]
-      .map(([start, length, from]) => Math.round(pixels(element, start) + pixels(element, length)) - from);
-    const ground = element["--ground"] ? `<rect ${place(x, y, size)} fill="${element["--ground"]}"/>` : "";
-    const picture = element["data-picture"];
-    const way = element.kind !== "Image" ? paint.cut : element.id.startsWith("frmTessel.imgFeld") ? paint.tile : paint.use;
-    return ground + (picture ? way(picture, x, y, size) : "");
-  });
-  const client = [pixels(main, "--width"), pixels(main, "--height") - pixels(main, "--above")];
-  const ground = paint.cut(main["data-picture"], 0, 0, client);
-  const whole = `<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 ${client.join(" ")}">` +
-    `${paint.definitions()}${ground}${drawn.join("")}</svg>`;
+  const seen = controls.filter(({ hidden }) => !hidden).sort((a, b) => a["--level"] - b["--level"]);
+  const isCell = ({ id }) => id.startsWith("frmTessel.imgFeld(");
+  const cells = seen.filter(isCell).map(box);
+  const board = { ...seen.find(isCell), cells: true, "--width": 14 * 480, "--height": 10 * 480,
+    "--left": Math.min(...cells.map(([left]) => left)), "--top": Math.min(...cells.map(([, top]) => top)) };
+  const ground = { kind: "Ground", "data-picture": main["data-picture"], "--left": 0, "--top": 0, "--width": 11325, "--height": 6945 };
+  const shown = [ground, ...seen.filter(element => !isCell(element)), board].map((element, number) => ({ ...element, number }));
+  const drawn = shown.map(element => element["data-picture"] ? paint.picture(element["data-picture"], element)
+    : `<div class="${element.kind} first${element.number}">${escape(element.textContent ?? "")}</div>`);
 
-  const words = seen.filter(({ kind, textContent }) => kind === "Label" && textContent);
   const bar = [...elements.values()].filter(({ kind, inside }) => inside === `${main.id} menu` && kind === "MenuEntry");
   // Until its picture is there, the backdrop is as plain as the colour that lies under all of it.
   const backdrop = readFileSync(`${pictures}/${elements.get("frmHintergrund.Image1")["data-picture"]}.svg`, "utf8");
-  // Before page.js knows the size to the pixel, the picture has as much of it as style sheets can tell.
-  const [wide, high] = [pixels(main, "--width"), pixels(main, "--height")];
-  const sizes = [2, 3, 4, 5, 6, 7, 8].map(times =>
-    `@media (min-width: ${times * wide}px) and (min-height: ${times * high}px) { :root { --u: calc(${times}px / 15); } }`);
+  const rules = element => Object.keys(element).filter(name => name.startsWith("--")).map(name => `${name}: ${element[name]};`).join(" ");
+  const upright = parts.map(part => {
+    const own = [...controls, ...shown].filter(element => element !== shown[0] && moved(element) === part)
+      .map(({ number, id }) => number ? `.first${number}` : `[id^="${id.replace(/\d+\)$/, "")}"]`);
+    return `.upright :is(${[...new Set(own)].join(", ")}) { --shift-x: ${part.across}; --shift-y: ${part.down}; }`;
+  });
   return {
-    markup: `<div id="first" aria-hidden="true" inert><div class="Window first">` +
-      `<div role="menubar">${bar.map(entry => `<button>${escape(entry.textContent)}</button>`).join("")}</div><div class="Client">${whole}` +
-      `${words.map((label, i) => `<div class="Label first${i}">${escape(label.textContent)}</div>`).join("")}</div></div></div>`,
-    style: [
-      `@media (max-width: ${wide - 1}px), (max-height: ${high - 1}px) { :root { --u: min(100vw / ${15 * wide}, 100vh / ${15 * high}); } }`,
-      ...sizes, `#first { background: ${/fill="(#\w+)"/.exec(backdrop)[1]}; }`, `.first { ${rules(main)} }`,
-      ...words.map((label, i) => `.first${i} { ${rules(label)} }`), ""].join("\n"),
+    markup: `<div id="first" aria-hidden="true"><div class="Window first" data-bar="true"><div role="menubar">` +
+      `${bar.map(entry => `<span>${escape(entry.textContent)}</span>`).join("")}</div><div class="Client">` +
+      `<svg width="0" height="0">${paint.definitions()}</svg>${drawn.join("")}</div></div></div>`,
+    style: [`#first { background: ${/fill="(#\w+)"/.exec(backdrop)[1]}; }`, `.first { --ground: ${main["--ground"]}; }`,
+      ...shown.map(element => `.first${element.number} { ${rules(element)} }`), ...upright,
+      `.upright :is(#${main.id}, .first0) { --ground-top: ${parts[0].down}; }`, ""].join("\n"),
   };
 };

@@ -3,8 +3,6 @@
 
 const byId = id => document.getElementById(id);
 const screenBox = byId("screen");
-const twipsPerPixel = 15;
-const cellPixels = 32;
 
 const make = (tag, className, parent, id = "") => {
   const element = document.createElement(tag);
@@ -61,22 +59,12 @@ var page = {
   },
   say(text) { byId("news").textContent = text; },
 
-  // The screen: the designed size times the whole that fits, or less where not even once fits; then
-  // cells are still whole pixels.
-  twip: 1 / twipsPerPixel,
-  width() { return innerWidth / this.twip; },
-  height() { return innerHeight / this.twip; },
-  fit(...design) {
-    this.design = design;
-    this.resize();
-  },
-  resize() {
-    const [width, height] = this.design.map(twips => twips / twipsPerPixel);
-    const room = Math.min(innerWidth / width, innerHeight / height);
-    const cell = cellPixels * devicePixelRatio;
-    this.twip = (room >= 1 ? Math.floor(room) : Math.floor(room * cell) / cell) / twipsPerPixel;
-    document.documentElement.style.setProperty("--u", this.twip + "px");
-  },
+  // The screen, the main window with its menu, and the height of a title or a menu, in twips.
+  width: () => start.screen.width,
+  height: () => start.screen.height,
+  mainWidth: () => start.main.width,
+  mainHeight: () => start.main.height,
+  bar: () => start.bar,
 
   // Events. While somebody waits, the next one is taken at once.
   queue: [],
@@ -240,6 +228,11 @@ page.openMenu = keys => {
 
 const shiftOf = event => event.shiftKey * 1 + event.ctrlKey * 2 + event.altKey * 4;
 
+// How far what lies there has been moved by the upright layout.
+const shiftAt = ({ clientX, clientY }) => {
+  const style = getComputedStyle(document.elementFromPoint(clientX, clientY) ?? screenBox);
+  return ["x", "y"].map(axis => Number(style.getPropertyValue(`--shift-${axis}`)));
+};
 for (const type of ["pointerdown", "pointermove", "pointerup", "pointercancel"]) {
   screenBox.addEventListener(type, event => {
     const window = event.target.closest(".Window");
@@ -249,11 +242,12 @@ for (const type of ["pointerdown", "pointermove", "pointerup", "pointercancel"])
       window.setPointerCapture(event.pointerId);
     }
     const lost = type === "pointercancel";
+    const [across, down] = shiftAt(event);
     page.push({
       kind: lost ? "up" : type.slice("pointer".length),
       target: window.id,
-      x: lost ? -1e6 : event.clientX / page.twip,
-      y: event.clientY / page.twip,
+      x: lost ? -1e6 : event.clientX / start.twip - across,
+      y: event.clientY / start.twip - down,
       button: type === "pointermove" ? event.buttons & 7 : [1, 4, 2][event.button] ?? 0,
       shift: shiftOf(event),
       finger: event.pointerType === "touch",
@@ -301,7 +295,7 @@ addEventListener("keydown", event => {
   page.push({ kind: "key", code, shift: shiftOf(event), held: event.repeat, text });
 });
 addEventListener("resize", () => {
-  if (page.design) page.resize();
+  start.fit();
   page.push({ kind: "resize" });
 });
 addEventListener("beforeunload", event => { if (page.gameRuns && !page.over) event.preventDefault(); });
@@ -328,7 +322,7 @@ const stockPictures = () => {
   }
   picturesReady();
 };
-const start = () => {
+const loadGame = () => {
   fetchPart("link", { rel: "stylesheet", href: "pictures.css" + build }, stockPictures);
   fetchPart("script", { src: "malvone.js" + build });
   navigator.serviceWorker?.register("worker.js").catch(() => {});
@@ -339,5 +333,5 @@ if (getComputedStyle(screenBox).position !== "fixed") {
   throw new Error("The style sheet is missing.");
 }
 // A page that nobody sees paints nothing.
-if (document.hidden || !PerformanceObserver.supportedEntryTypes.includes("paint")) start();
-else new PerformanceObserver((_, observer) => { observer.disconnect(); start(); }).observe({ type: "paint", buffered: true });
+if (document.hidden || !PerformanceObserver.supportedEntryTypes.includes("paint")) loadGame();
+else new PerformanceObserver((_, observer) => { observer.disconnect(); loadGame(); }).observe({ type: "paint", buffered: true });
