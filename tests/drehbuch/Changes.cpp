@@ -87,10 +87,11 @@ std::string NameOf(const Control* control)
     return control == nullptr ? "-" : control->FullName();
 }
 
-// With what a window has beside its properties.
+// What may change and can be seen or used, with what a window has beside its properties.
 std::vector<Value> AllValuesOf(const PropertyOwner& owner)
 {
     std::vector<Value> values = ValuesOf(owner);
+    std::erase_if(values, [](const Value& v) { return !v.Kind || v.Kind == Change::Data; });
     if (const auto* const window = dynamic_cast<const Window*>(&owner)) {
         values.push_back({"Focus", Change::Select, NameOf(window->Focus())});
         values.push_back({"Highlight", Change::Highlight, NameOf(window->Highlighted())});
@@ -104,7 +105,7 @@ void Changes::Know(const PropertyOwner& owner, const std::string& path)
 {
     for (const Value& value : AllValuesOf(owner)) {
         if (!known_.emplace(path + "." + std::string(value.Property), value.Text).second) {
-            heard_[path].insert(value.Kind);
+            heard_[path].insert(*value.Kind);
         }
     }
 }
@@ -174,7 +175,7 @@ void Changes::Compare(const PropertyOwner& owner, const std::string& path, std::
     }
     for (const Value& value : AllValuesOf(owner)) {
         std::string& known = known_[path + "." + std::string(value.Property)];
-        if (!heard.mapped().contains(value.Kind) ||
+        if (!heard.mapped().contains(*value.Kind) ||
             std::exchange(known, value.Text) == value.Text) {
             continue;
         }

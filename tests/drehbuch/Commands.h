@@ -34,10 +34,10 @@ Answer SetProperty(std::string_view line);  // "PATH VALUE", without any event
 struct Value
 {
     std::string_view Property;
-    Change Kind;
-    std::string Text;  // as AskProperty answers, texts in quotes; a list is all its items
+    std::optional<Change> Kind;  // as its owner tells it; nothing for what is fixed by the design
+    std::string Text;            // as AskProperty answers, texts in quotes; a list is all its items
 };
-// Everything about a window or control that may change and that a player can see or use.
+// Everything that stands in the table for a window or control.
 std::vector<Value> ValuesOf(const PropertyOwner& owner);
 
 // Questions.cpp. All but the first take no argument.

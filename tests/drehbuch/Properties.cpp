@@ -295,11 +295,11 @@ std::vector<Value> ValuesOf(const PropertyOwner& owner)
 {
     std::vector<Value> values;
     for (const Property& property : kProperties) {
-        const auto kind = property.Kind == nullptr ? std::nullopt : property.Kind(owner);
-        if (kind && kind != Change::Data) {
+        const auto value = property.Indexed ? std::nullopt : property.Ask(owner, 0);
+        if (value) {
+            const auto kind = property.Kind == nullptr ? std::nullopt : property.Kind(owner);
             const bool text = kind == Change::Text || property.Name == "ToolTipText";
-            const std::string value = *property.Ask(owner, 0);
-            values.push_back({property.Name, *kind, text ? '"' + value + '"' : value});
+            values.push_back({property.Name, kind, text ? '"' + *value + '"' : *value});
         }
     }
     if (const auto* const list = dynamic_cast<const ListBox*>(&owner)) {

@@ -1,74 +1,17 @@
-// Probe.h: a window with every kind of control, and a binding that tells all it hears, with
-// commands of its own for what the scripts of the game do not need.
+// Probe.h: a window with every kind of control, whose handlers tell what they hear.
 #pragma once
 
-#include <map>
+#include <functional>
 #include <string>
 
-#include "tests/drehbuch/Commands.h"
 #include "tests/drehbuch/Text.h"
 #include "tests/support/Game.h"
 #include "ui/layer/Instance.h"
-#include "ui/layer/PointerRouting.h"
 
 namespace malvone::test {
 
-// The script's binding, with a line for each of its other calls and for each handler of the probe.
-class Witness final : public script::Script
-{
-public:
-    using Script::Script;
-
-    // Set by the commands of a hook for the handler that the hook hangs in.
-    bool Refused = false;
-
-    // Tells what has happened, and then does what has been hung in there, once.
-    void Note(const std::string& what);
-
-    void WindowLoaded(Window& window) override { Note("loaded " + std::string(window.Name())); }
-    void WindowChanged(Window& window, Change what) override
-    {
-        Changed(std::string(window.Name()), what);
-    }
-    void ControlChanged(Control& control, Change what) override
-    {
-        Changed(control.FullName(), what);
-    }
-    void ControlAdded(Control& control) override { Note("added " + control.FullName()); }
-    void FocusChanged(Window& window) override
-    {
-        Note("focus " + (window.Focus() == nullptr ? "none" : window.Focus()->FullName()));
-    }
-
-protected:
-    std::string Do(std::string_view line) override;
-
-private:
-    bool withChanges_ = false;
-    std::map<std::string, std::string, std::less<>> hooks_;
-
-    void Changed(const std::string& name, Change what)
-    {
-        static constexpr const char* kKinds[] = {"Geometry", "Visible",   "Enabled", "Picture",
-                                                 "Text",     "Look",      "State",   "Select",
-                                                 "Tip",      "Highlight", "Data"};
-        if (withChanges_) {
-            Note("changed " + name + " " + kKinds[static_cast<int>(what)]);
-        }
-    }
-};
-
-// Tells what a handler of a test window has heard; true where a hook has refused it.
-inline bool Heard(const std::string& what)
-{
-    auto* const witness = dynamic_cast<Witness*>(&App.Screen());
-    if (witness == nullptr) {
-        return false;
-    }
-    witness->Refused = false;
-    witness->Note(what);
-    return std::exchange(witness->Refused, false);
-}
+// What a handler has heard; true where the test has refused it.
+inline std::function<bool(const std::string&)> Heard;
 
 inline std::string At(const Mouse& mouse)
 {
@@ -87,27 +30,27 @@ public:
             Visual& Thing;
             Twips Left, Top, Width, Height;
         } places[] = {
-            {kasten, 0, 0, 1000, 1000},       {innen(0), 100, 100, 300, 300},
-            {innen(2), 300, 300, 300, 300},   {vorn, 800, 0, 400, 300},
-            {hinten, 900, 0, 1000, 600},      {fleck, 2000, 0, 500, 500},
-            {strich, 2000, 0, 500, 500},      {unterFleck, 2000, 0, 500, 500},
-            {knopf(0), 0, 1200, 500, 200},    {knopf(1), 600, 1200, 500, 200},
-            {knopf(3), 3100, 1200, 500, 200}, {feld(0), 0, 1500, 500, 200},
-            {feld(1), 600, 1500, 500, 200},   {feld(2), 1200, 1500, 500, 200},
+            {panel, 0, 0, 1000, 1000},         {inner(0), 100, 100, 300, 300},
+            {inner(2), 300, 300, 300, 300},    {front, 800, 0, 400, 300},
+            {back, 900, 0, 1000, 600},         {spot, 2000, 0, 500, 500},
+            {line, 2000, 0, 500, 500},         {below, 2000, 0, 500, 500},
+            {button(0), 0, 1200, 500, 200},    {button(1), 600, 1200, 500, 200},
+            {button(3), 3100, 1200, 500, 200}, {box(0), 0, 1500, 500, 200},
+            {box(1), 600, 1500, 500, 200},     {box(2), 1200, 1500, 500, 200},
         };
         for (const auto& p : places) {
             p.Thing.Move(p.Left, p.Top, p.Width, p.Height);
         }
         std::int16_t index = 0;
-        for (Visual* const thing : std::initializer_list<Visual*>{&knopf(0), &feld(1), &knopf(1),
-                                                                  &feld(0), &feld(2), &knopf(3)}) {
+        for (Visual* const thing : std::initializer_list<Visual*>{&button(0), &box(1), &button(1),
+                                                                  &box(0), &box(2), &button(3)}) {
             thing->TabIndex = index++;
         }
-        knopf(0).Caption = "&Null";
-        knopf(1).Caption = "Ei&ns";
-        knopf(3).Caption = "&Drei";
-        punkt(1).Shortcut = {'N', kCtrlKey};
-        punkt(4).Shortcut = {kKeyF1, 0};
+        button(0).Caption = "&Zero";
+        button(1).Caption = "O&ne";
+        button(3).Caption = "&Three";
+        entry(1).Shortcut = {'N', kCtrlKey};
+        entry(4).Shortcut = {kKeyF1, 0};
         for (Control* const control : Controls()) {
             Listen(*control);
         }
@@ -115,18 +58,18 @@ public:
     ~Probe() override { Heard("destroyed"); }
 
     MenuEntry menu{Named("menu"), nullptr};
-    ControlArray<MenuEntry> punkt{Named("punkt"), {1, 4}, &menu};
-    Timer uhr{Named("uhr")};
-    PictureBox kasten{Named("kasten")};
-    ControlArray<Image> innen{Named("innen", &kasten), {2, 0}};
-    Label vorn{Named("vorn")};
-    Image hinten{Named("hinten")};
-    Shape fleck{Named("fleck")};
-    Line strich{Named("strich")};
-    Image unterFleck{Named("unterFleck")};
-    ControlArray<CommandButton> knopf{Named("knopf"), {0, 1, 3}};
-    ControlArray<TextBox> feld{Named("feld"), {0, 1, 2}};
-    ListBox liste{Named("liste")};
+    ControlArray<MenuEntry> entry{Named("entry"), {1, 4}, &menu};
+    Timer clock{Named("clock")};
+    PictureBox panel{Named("panel")};
+    ControlArray<Image> inner{Named("inner", &panel), {2, 0}};
+    Label front{Named("front")};
+    Image back{Named("back")};
+    Shape spot{Named("spot")};
+    Line line{Named("line")};
+    Image below{Named("below")};
+    ControlArray<CommandButton> button{Named("button"), {0, 1, 3}};
+    ControlArray<TextBox> box{Named("box"), {0, 1, 2}};
+    ListBox list{Named("list")};
 
     void Form_Load() override { Heard("Form_Load"); }
     void Form_Activate() override { Heard("Form_Activate"); }
@@ -171,12 +114,13 @@ private:
 class OtherWindow final : public Window
 {
 public:
-    OtherWindow() : Window("nebenfenster", 1000, 1000) { bild.Move(0, 0, 1000, 1000); }
+    OtherWindow() : Window("other", 1000, 1000) { picture.Move(0, 0, 1000, 1000); }
 
-    Image bild{Named("bild")};
+    Image picture{Named("picture")};
+    TextBox box{Named("box")};
 };
 
 inline Instance<Probe> probe{"probe"};
-inline Instance<OtherWindow> nebenfenster{"nebenfenster"};
+inline Instance<OtherWindow> other{"other"};
 
 }  // namespace malvone::test
