@@ -90,7 +90,7 @@ void FrmTessel::SetLooks()
         {lblInfo, Pointer::Default, "Allgemeine Informationen"},
         {lblHilfe, Pointer::Default, "Beschreibung der Auswahl"},
         // By design (woertlich): one would expect "Alte". These are the game's words.
-        // Test: Entwurf.AllWindowsStandAsInTheFile
+        // Test: Design.AllWindowsStandAsInTheFile
         {imgWiederholen, Pointer::Hand, "Alten Bildanordnung wiederholen"},
         {imgNaechsterLevel, Pointer::Hand, "Nächsten Level beginnen"},
         {lblNeu, Pointer::Hand, "Neues Spiel beginnen"},
