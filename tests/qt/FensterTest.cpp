@@ -253,6 +253,33 @@ TEST_F(Fenster, WhileAQuestionIsOpenTheMainWindowIsDeaf)
     EXPECT_TRUE(Form(*frmTessel).isVisible());
 }
 
+TEST_F(Fenster, WhoWishesTwiceToCloseTheGameIsAskedOnceAndKeepsIt)
+{
+    FormWidget& form = Form(*frmTessel);
+    QAction* const leave = form.findChild<QMenuBar*>()->actions().at(0)->menu()->actions().at(3);
+    const std::function<void()> wishes[] = {
+        [&form] { form.close(); },
+        [] { Backdrop().close(); },
+        [] {  // the end of the session
+            QEvent quit(QEvent::Quit);
+            QCoreApplication::sendEvent(qApp, &quit);
+        },
+        [leave] { leave->trigger(); },
+    };
+    for (const auto& wish : wishes) {
+        WhileOpen(wish, [&] {
+            wish();
+            QCoreApplication::processEvents();
+            EXPECT_TRUE(form.isVisible() && Backdrop().isVisible());
+            if (frmMsgJa.Loaded()) {  // Qt may have handed the last wish to the question itself
+                Press(Form(*frmMsgJa), Qt::Key_Escape);
+            }
+        });
+        EXPECT_TRUE(form.isVisible() && Backdrop().isVisible());
+        EXPECT_FALSE(App.Ended());
+    }
+}
+
 TEST_F(Fenster, AMovedMainWindowTakesItsMessagesAlong)
 {
     FormWidget& form = Form(*frmTessel);

@@ -98,7 +98,11 @@ protected:
     static void WhileOpen(const std::function<void()>& open, const std::function<void()>& then)
     {
         bool ran = false;
-        QTimer::singleShot(0, [&] {
+        QTimer waiting;
+        QObject::connect(&waiting, &QTimer::timeout, [&] {
+            if (ran || App.TopModal() == nullptr) {
+                return;
+            }
             ran = true;
             then();
             Window* const modal = App.TopModal();
@@ -107,7 +111,11 @@ protected:
                 modal->Unload();
             }
         });
+        waiting.start(0);
         open();
+        for (int i = 0; i < 100 && !ran && !App.Ended(); ++i) {
+            QCoreApplication::processEvents();  // what asks the player may wait for Qt
+        }
         EXPECT_TRUE(ran) << "no modal window was opened";
     }
 

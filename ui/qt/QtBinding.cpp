@@ -17,6 +17,18 @@
 #include "ui/windows/Pictures.h"
 
 namespace malvone::qt {
+namespace {
+
+// Runs when Qt is done with the event that wished it: a question that were asked inside it would
+// leave the window closing for Qt, which lets the next wish destroy it.
+void Close(const FormWidget& form)
+{
+    if (form.Model() != nullptr) {
+        RaiseClose(*form.Model());
+    }
+}
+
+}  // namespace
 
 QtBinding::QtBinding()
 {
@@ -75,7 +87,8 @@ FormWidget& QtBinding::Make(Window& window, ShowMode mode)
     QObject::connect(form, &FormWidget::Rescaled, [this, form] { Rescaled(*form); });
     QObject::connect(form, &FormWidget::Painted, [this, form] { Painted(*form); });
     QObject::connect(form, &FormWidget::Activated, [this, form] { Activated(*form); });
-    QObject::connect(form, &FormWidget::CloseWished, [form] { RaiseClose(*form->Model()); });
+    QObject::connect(
+        form, &FormWidget::CloseWished, form, [form] { Close(*form); }, Qt::QueuedConnection);
     return *form;
 }
 
@@ -201,8 +214,9 @@ void QtBinding::ShowBackdrop(Window& window)
         backdrop_ = std::make_unique<BackdropWindow>(window, pictures_);
         QObject::connect(backdrop_.get(), &BackdropWindow::Activated,
                          [this] { BackdropActivated(); });
-        QObject::connect(backdrop_.get(), &BackdropWindow::CloseWished,
-                         [this] { CloseMainWindow(); });
+        QObject::connect(
+            backdrop_.get(), &BackdropWindow::CloseWished, backdrop_.get(),
+            [this] { CloseMainWindow(); }, Qt::QueuedConnection);
     }
     backdrop_->Present();
     const FormWidget* const main = MainForm();
@@ -340,7 +354,7 @@ void QtBinding::BringToFront(const Window* only)
 void QtBinding::CloseMainWindow()
 {
     if (const FormWidget* const main = MainForm()) {
-        RaiseClose(*main->Model());
+        Close(*main);
     }
 }
 
