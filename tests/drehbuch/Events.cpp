@@ -136,12 +136,6 @@ constexpr std::array<NamedKey, 3> kModifiers = {{
     {"Shift+", kShiftKey},
 }};
 
-// Keys go to the topmost modal window, else to the main window.
-Window* KeyWindow()
-{
-    return App.TopModal() != nullptr ? App.TopModal() : ObjectFrom("frmTessel").Window();
-}
-
 }  // namespace
 
 std::optional<Key> KeyFrom(std::string_view name)
@@ -195,7 +189,7 @@ Answer PressKey(std::string_view name)
     if (!key) {
         return "? unknown key";
     }
-    Window* const window = KeyWindow();
+    Window* const window = App.KeyWindow();
     if (window == nullptr || !App.TakesInput(*window)) {
         return kRefused;
     }
@@ -205,7 +199,7 @@ Answer PressKey(std::string_view name)
 
 Answer TypeText(std::string_view text)
 {
-    Window* const window = KeyWindow();
+    Window* const window = App.KeyWindow();
     auto* const box = window == nullptr ? nullptr : dynamic_cast<TextBox*>(window->Focus());
     if (box == nullptr || !Reachable(*box) || box->Locked) {
         return kRefused;

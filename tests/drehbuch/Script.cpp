@@ -112,12 +112,11 @@ void Script::WindowShown(Window& window, ShowMode mode)
     const std::string name(window.Name());
     Tell("! show " + name + (mode == ShowMode::Modal ? " modal " : " ") + TwipsText(window.Left) +
          " " + TwipsText(window.Top));
-    // The message windows are the ones that have both labels of a message.
-    const auto* const text = dynamic_cast<Label*>(window.Find("lblMeldung"));
-    const auto* const title = dynamic_cast<Label*>(window.Find("lblTitel"));
-    if (text != nullptr && title != nullptr) {
-        Tell("! text " + name + " " + Masked(text->Caption.Get()) + " | " +
-             Masked(title->Caption.Get()));
+    if (window.Role == WindowRole::Message) {
+        const auto caption = [&](const char* label) {
+            return Masked(dynamic_cast<Label&>(*window.Find(label)).Caption.Get());
+        };
+        Tell("! text " + name + " " + caption("lblMeldung") + " | " + caption("lblTitel"));
     }
     if (changes_) {
         for (const char* const told :

@@ -45,6 +45,17 @@ void Application::Ende()
     binding_->Ended();
 }
 
+Window* Application::MainWindow() const
+{
+    for (const InstanceBase* const instance : InstanceBase::All()) {
+        Window* const window = instance->Current();
+        if (window != nullptr && window->Role == WindowRole::Main) {
+            return window;
+        }
+    }
+    return nullptr;
+}
+
 bool Application::TakesInput(const Window& window) const
 {
     return !ended_ && window.Shown() && (TopModal() == nullptr || TopModal() == &window);

@@ -43,6 +43,10 @@ public:
 
     // The topmost modal window, null where none is up.
     Window* TopModal() const { return modals_.empty() ? nullptr : modals_.back(); }
+    // The loaded window whose role it is, null where there is none.
+    Window* MainWindow() const;
+    // The window that gets the keys: the topmost modal one, else the main window.
+    Window* KeyWindow() const { return TopModal() != nullptr ? TopModal() : MainWindow(); }
     // Whether a window takes input at present: it is shown and no other window is modal above it.
     bool TakesInput(const Window& window) const;
 

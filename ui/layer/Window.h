@@ -20,6 +20,14 @@ enum class ShowMode { Modeless = 0, Modal = 1 };
 
 enum class Border { None, FixedSingle, Sizable };
 
+// What a window is to the program, whatever stands on it.
+enum class WindowRole {
+    Plain,     // the player opens and closes it
+    Main,      // the game itself: keys are its own while no window is modal
+    Backdrop,  // lies behind the game and says nothing
+    Message,   // tells or asks something and goes again
+};
+
 // Why a window is to close: the player closes it by its frame or through the system, or the game
 // unloads it. A question that is closed the first way has no answer.
 enum class UnloadMode : std::int16_t { TitleBar = 0, Code = 1 };
@@ -57,6 +65,7 @@ public:
     VisibleProperty Visible{*this};
 
     // Fixed by the design.
+    WindowRole Role = WindowRole::Plain;
     Twips ClientWidth = 0;
     Twips ClientHeight = 0;
     Border BorderStyle = Border::None;

@@ -10,7 +10,6 @@
 #include "ui/qt/drawing/Conversions.h"
 #include "ui/qt/drawing/Icon.h"
 #include "ui/qt/platform/Display.h"
-#include "ui/qt/windows/Backdrop.h"
 #include "ui/qt/windows/BackdropWindow.h"
 #include "ui/qt/windows/FormWidget.h"
 #include "ui/qt/windows/WindowManager.h"
@@ -92,11 +91,10 @@ FormWidget& QtBinding::Make(Window& window, ShowMode mode)
     return *form;
 }
 
-// The main window is the one with the menu.
 FormWidget* QtBinding::MainForm() const
 {
     const auto found = std::find_if(forms_.begin(), forms_.end(), [](const FormWidget* form) {
-        return !form->Model()->MenuEntries().empty();
+        return form->Model()->Role == WindowRole::Main;
     });
     return found == forms_.end() ? nullptr : *found;
 }
@@ -161,7 +159,7 @@ void QtBinding::ScreensChanged()
 // is made at once, since its size counts when it is placed; so does that of a message.
 void QtBinding::WindowLoaded(Window& window)
 {
-    if (!window.MenuEntries().empty()) {
+    if (window.Role == WindowRole::Main) {
         Make(window, ShowMode::Modeless);
     } else {
         const QSize size = SizeOf(window, Factor());
@@ -186,7 +184,7 @@ QWindow* QtBinding::ParentOf(const Window& window, ShowMode mode) const
 
 void QtBinding::WindowShown(Window& window, ShowMode mode)
 {
-    if (IsBackdrop(window)) {
+    if (window.Role == WindowRole::Backdrop) {
         if (MannerOfBackdrop() != BackdropManner::None) {
             ShowBackdrop(window);
         }
@@ -227,7 +225,7 @@ void QtBinding::ShowBackdrop(Window& window)
 
 void QtBinding::WindowHidden(Window& window)
 {
-    if (IsBackdrop(window) && backdrop_ != nullptr) {
+    if (window.Role == WindowRole::Backdrop && backdrop_ != nullptr) {
         backdrop_->hide();
     }
     if (FormWidget* const form = FormOf(window)) {
@@ -239,7 +237,7 @@ void QtBinding::WindowHidden(Window& window)
 void QtBinding::WindowUnloaded(Window& window)
 {
     timers_.Forget(window);
-    if (IsBackdrop(window) && backdrop_ != nullptr) {
+    if (window.Role == WindowRole::Backdrop && backdrop_ != nullptr) {
         // One of its own events may be what unloads the window.
         backdrop_.release()->deleteLater();
     }

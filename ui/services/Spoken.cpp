@@ -143,19 +143,18 @@ std::ptrdiff_t Stones(const std::array<std::int32_t, kZellen>& board)
 
 }  // namespace
 
-std::vector<Spoken> SpokenOn(Window& window)
+std::vector<Spoken> SpokenOn(const Window& window)
 {
-    if (auto* const main = dynamic_cast<FrmTessel*>(&window)) {
-        return On(*main);
+    if (&window == frmTessel.Current()) {
+        return On(*frmTessel);
     }
-    if (auto* const message = dynamic_cast<FrmMsgOk*>(&window)) {
-        return On(*message);
+    if (&window == frmMsgOk.Current()) {
+        return On(*frmMsgOk);
     }
-    if (auto* const question = dynamic_cast<FrmMsgJa*>(&window)) {
-        return On(*question);
+    if (&window == frmMsgJa.Current()) {
+        return On(*frmMsgJa);
     }
-    auto* const best = dynamic_cast<FrmBeste*>(&window);
-    return best != nullptr ? On(*best) : std::vector<Spoken>();
+    return &window == frmBeste.Current() ? On(*frmBeste) : std::vector<Spoken>();
 }
 
 std::string NameOf(const Spoken& spoken)
@@ -191,19 +190,13 @@ bool IsSpokenNow(const Spoken& spoken)
 
 std::string TitleOf(const Window& window)
 {
-    if (const auto* const message = dynamic_cast<const FrmMsgOk*>(&window)) {
-        return OneLine(message->lblName.Caption.Get());
+    if (&window == frmMsgOk.Current()) {
+        return OneLine(frmMsgOk->lblName.Caption.Get());
     }
-    if (const auto* const question = dynamic_cast<const FrmMsgJa*>(&window)) {
-        return OneLine(question->lblName.Caption.Get());
+    if (&window == frmMsgJa.Current()) {
+        return OneLine(frmMsgJa->lblName.Caption.Get());
     }
     return OneLine(window.Caption.Get());
-}
-
-bool IsMessage(const Window& window)
-{
-    return dynamic_cast<const FrmMsgOk*>(&window) != nullptr ||
-           dynamic_cast<const FrmMsgJa*>(&window) != nullptr;
 }
 
 // Stones only become more when a board is filled, and only a move earns points for those that go:

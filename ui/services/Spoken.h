@@ -8,7 +8,7 @@
 //   not seen at the moment is in it too, and is hidden from the reader by IsSpokenNow.
 // - Before it waits for input it compares the names with those it told last, tells the changes, and
 //   says Reporter::News aloud where that is not empty.
-// - A window with IsMessage is an alert. Its title, TitleOf, is no part of SpokenOn.
+// - A window whose Role is Message is an alert. Its title, TitleOf, is no part of SpokenOn.
 #pragma once
 
 #include <array>
@@ -38,7 +38,7 @@ struct Spoken
 };
 
 // Everything on a window that has words, in reading order. Empty for the backdrop.
-std::vector<Spoken> SpokenOn(Window& window);
+std::vector<Spoken> SpokenOn(const Window& window);
 
 // What it is called at the moment: "Neues Spiel", "Punkte: 36", "Spalte 3, Reihe 5, orange".
 std::string NameOf(const Spoken& spoken);
@@ -49,7 +49,6 @@ std::string DescriptionOf(const Spoken& spoken);
 bool IsSpokenNow(const Spoken& spoken);
 
 std::string TitleOf(const Window& window);
-bool IsMessage(const Window& window);
 
 // Says in words what has happened on the board since it was asked last. It only looks, at
 // stones and points.

@@ -192,13 +192,14 @@ void Put(const Window& window, int level)
     element("--level", level)("data-bar", Above(window) > 0)("--across", window.Picture->Width());
     element.Place(window.Left, window.Top, window.Width, window.Height);
     element("--ground", Css(window.BackColor));
-    const bool main = !window.MenuEntries().empty();
-    const bool silent = TitleOf(window) == "Form1";
+    const bool main = window.Role == WindowRole::Main;
+    const bool message = window.Role == WindowRole::Message;
+    const bool silent = window.Role == WindowRole::Backdrop;
     const Window* const modal = App.TopModal();
     const std::string words = IdOf(window) + ".lblMeldung " + IdOf(window) + ".lblTitel";
     element("data-picture", window.Picture->File());
-    element("role", main ? "main" : IsMessage(window) ? "alertdialog" : "dialog");
-    element("aria-label", TitleOf(window))("aria-describedby", IsMessage(window) ? words : "");
+    element("role", main ? "main" : message ? "alertdialog" : "dialog");
+    element("aria-label", TitleOf(window))("aria-describedby", message ? words : "");
     element("aria-hidden", silent)("aria-modal", modal == &window);
     element("inert", modal != nullptr && modal != &window);
     element("data-title", main || Above(window) == 0 ? std::string() : window.Caption.Get());

@@ -54,7 +54,7 @@ Twips WebBinding::ScreenHeight()
 
 void WebBinding::WindowLoaded(Window& window)
 {
-    const bool main = !window.MenuEntries().empty();
+    const bool main = window.Role == WindowRole::Main;
     window.Width = main ? Ask<Twips>("mainWidth") : window.ClientWidth;
     window.Height = main ? Ask<Twips>("mainHeight") : window.ClientHeight + Above(window);
 }
@@ -132,7 +132,7 @@ void WebBinding::ShowChanges()
     if (const std::string news = reporter_.News(); !news.empty()) {
         Ask("say", news);
     }
-    const Window* const front = App.TopModal() != nullptr ? App.TopModal() : frmTessel.Current();
+    const Window* const front = App.KeyWindow();
     if (front != nullptr) {
         const auto* const box = dynamic_cast<const TextBox*>(front->Focus());
         const Visual* const focus = box != nullptr ? box : front->Highlighted();
@@ -210,7 +210,7 @@ void WebBinding::Pointed(Window& window, const std::string& kind, const val& eve
     } else if (kind == "up") {
         dragged_ = nullptr;
         PointerReleased(window, mouse);
-    } else if (&window == frmHintergrund.Current()) {
+    } else if (window.Role == WindowRole::Backdrop) {
         RaiseActivate(window);
     } else {
         grip_ = Mouse{0, 0, x, y};
@@ -226,7 +226,7 @@ void WebBinding::Pointed(Window& window, const std::string& kind, const val& eve
 
 void WebBinding::KeyPressed(const val& event)
 {
-    Window* const window = App.TopModal() != nullptr ? App.TopModal() : frmTessel.Current();
+    Window* const window = App.KeyWindow();
     const Key key{event["code"].as<std::int16_t>(), event["shift"].as<std::int16_t>()};
     if (window == nullptr || (event["held"].as<bool>() && !MayRepeat(key))) {
         return;
@@ -246,7 +246,7 @@ void WebBinding::FitScreen()
     const Twips right = (Screen.Width - frmTessel->Width) / 2 - frmTessel->Left;
     const Twips down = (Screen.Height - frmTessel->Height) / 2 - frmTessel->Top;
     for (const Form& form : forms_) {
-        if (form.Model == frmHintergrund.Current()) {
+        if (form.Model->Role == WindowRole::Backdrop) {
             frmHintergrund->Form_Load();
         } else {
             form.Model->Move(form.Model->Left + right, form.Model->Top + down);

@@ -9,6 +9,7 @@ Instance<FrmHintergrund> frmHintergrund{"frmHintergrund"};
 
 FrmHintergrund::FrmHintergrund() : Window("frmHintergrund", 13920, 10695)
 {
+    Role = WindowRole::Backdrop;
     Caption = "Form1";
     BackColor = Rgb(0xE0E0E0);
     ShowInTaskbar = false;

@@ -10,6 +10,7 @@ Instance<FrmMsgJa> frmMsgJa{"frmMsgJa"};
 
 FrmMsgJa::FrmMsgJa() : Window("frmMsgJa", 5880, 3540)
 {
+    Role = WindowRole::Message;
     Caption = "Form1";
     ShowInTaskbar = false;
     Picture = PictureNamed("frmMsgJa");

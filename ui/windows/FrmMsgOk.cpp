@@ -10,6 +10,7 @@ Instance<FrmMsgOk> frmMsgOk{"frmMsgOk"};
 
 FrmMsgOk::FrmMsgOk() : Window("frmMsgOk", 5805, 3420)
 {
+    Role = WindowRole::Message;
     Caption = "Form1";
     ShowInTaskbar = false;
     Picture = PictureNamed("frmMsgOk");

@@ -16,6 +16,7 @@ void WiederholenAnbieten(bool angeboten)
 
 FrmTessel::FrmTessel() : Window("frmTessel", 11325, 6945)
 {
+    Role = WindowRole::Main;
     Caption = "Form1";
     BorderStyle = Border::Sizable;
     Picture = PictureNamed("frmTessel");

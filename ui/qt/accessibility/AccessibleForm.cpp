@@ -176,7 +176,7 @@ QString AccessibleForm::text(QAccessible::Text kind) const
 QAccessible::Role AccessibleForm::role() const
 {
     const Window* const window = ModelOf(Form());
-    if (window != nullptr && IsMessage(*window)) {
+    if (window != nullptr && window->Role == WindowRole::Message) {
         return QAccessible::AlertMessage;
     }
     return window != nullptr && window->Modal() ? QAccessible::Dialog : QAccessible::Window;

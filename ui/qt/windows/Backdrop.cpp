@@ -1,15 +1,10 @@
-// Backdrop.cpp: knows the backdrop, and keeps its size in the model.
+// Backdrop.cpp: keeps the backdrop's size in the model.
 #include "ui/qt/windows/Backdrop.h"
 
 #include "ui/qt/drawing/Conversions.h"
 #include "ui/windows/FrmHintergrund.h"
 
 namespace malvone::qt {
-
-bool IsBackdrop(const Window& window)
-{
-    return window.Name() == frmHintergrund.Name();
-}
 
 void FitBackdrop(Window& window, int width, int height)
 {
