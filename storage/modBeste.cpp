@@ -174,7 +174,7 @@ void BestePruefen()
     // Test: BestePruefen.APlaceWithoutANumberCountsAsNothing
     const std::vector<Eintrag> rangliste = Rangliste();
     // By design (der-aeltere-zuerst): one would expect the newer of two equal results to take the
-    // place. Only a greater one does. Test: BestePruefen.OnlyAGreaterResultTakesAPlace
+    // place. Only a greater one does. Test: games.entry
     const auto geschlagen =
         std::find_if(rangliste.begin(), rangliste.end(),
                      [](const Eintrag& eintrag) { return Beste.EndPunkte > Punktzahl(eintrag); });

@@ -14,7 +14,6 @@ namespace {
 
 const std::string kDefault = "Niemand\r\nNiemand\r\nNiemand\r\nNiemand\r\nNiemand\r\n"
                              "5000\r\n4700\r\n4400\r\n4100\r\n3800\r\n";
-using Call = FaultyPlatform::Call;
 
 // One row of digit places as it is seen, dark places as ".".
 std::string Digits(int place)
@@ -63,26 +62,6 @@ TEST(BesteFenster, ARowShowsItsPoints)
              "\ndo frmTessel.mnuInfo(4) Click\ndo frmBeste.cmdEnde Click\n");
         EXPECT_EQ(Digits(2), digits) << points;
         EXPECT_EQ(Digits(1) + Digits(3), "..4700..4100");
-    }
-}
-
-TEST(BestePruefen, OnlyAGreaterResultTakesAPlace)
-{
-    const std::pair<std::int32_t, int> cases[] = {{-1, -1},  {0, -1},        {3800, -1}, {3801, 4},
-                                                  {4100, 4}, {4700, 2},      {4999, 1},  {5000, 1},
-                                                  {5001, 0}, {2147483647, 0}};
-    for (const auto& [points, place] : cases) {
-        SCOPED_TRACE(points);
-        Game game;
-        Stand.PunkteGesamt = points;
-        Beste.EintragModus = True;  // of an entry that its window has lost
-        const std::string told = game("key Esc\nkey Esc\n", &EndOfGame);
-        EXPECT_EQ(Beste.EintragPlatz, place);
-        EXPECT_EQ(Beste.EndPunkte, points);
-        EXPECT_EQ(Beste.EintragModus, False);
-        EXPECT_EQ(told.starts_with("! show frmMsgOk"), place == -1) << told;
-        EXPECT_TRUE(told.ends_with("! end\n")) << told;
-        EXPECT_EQ(Contents(game.BestList), kDefault);
     }
 }
 
@@ -163,8 +142,7 @@ TEST(BesteLesen, AFileThatCannotBeReadIsToldByItsNumber)
         {ENOENT, "53"}, {EACCES, "70"}, {EISDIR, "75"}, {EIO, "57"}};
     for (const auto& [error, number] : faults) {
         Game game;
-        game.Platform.Failing = Call::Open;
-        game.Platform.Error = error;
+        game.Platform.Fault = Fails("open", error);
         EXPECT_EQ(game("key Esc\n", [] { frmBeste.Touch(); }), told(number));
         EXPECT_EQ(frmBeste->lstName.ListCount() + frmBeste->lstPunkte.ListCount(), 0);
     }
@@ -182,8 +160,7 @@ TEST(BesteSpeichern, AFailureIsToldAndLeavesTheFile)
 {
     Game game;
     frmBeste->lstName.SetList(0, "neu");
-    game.Platform.Failing = Call::Sync;
-    game.Platform.Error = ENOSPC;
+    game.Platform.Fault = Fails("sync", ENOSPC);
     const std::string told = game("key Esc\n", &BesteSpeichern);
     EXPECT_NE(told.find("konnten nicht gespeichert werden."), std::string::npos) << told;
     EXPECT_EQ(Contents(game.BestList), kDefault);
@@ -193,8 +170,7 @@ TEST(BesteSpeichern, AFailureIsToldAndLeavesTheFile)
 TEST(BesteVorgabe, ADefaultListThatCannotBeWrittenIsSilent)
 {
     Game game("old");
-    game.Platform.Failing = Call::Rename;
-    game.Platform.Error = EACCES;
+    game.Platform.Fault = Fails("rename", EACCES);
     EXPECT_EQ(game("", &BesteVorgabe), "");
     EXPECT_EQ(Contents(game.BestList), "old");
 }

@@ -94,23 +94,17 @@ TEST(Spielstanddatei, ARepeatReadsWhatAnyEditorHasWritten)
 
 TEST(Spielstanddatei, AFailedWriteIsToldAndMetByTheRepeat)
 {
-    using Call = FaultyPlatform::Call;
-    const struct
-    {
-        Call Failing;
-        const char* Repeat;  // words of the message that the repeat meets
-    } cases[] = {{Call::Write, "Beim Einlesen der Werte"},
-                 {Call::Open, "wurde nicht gespeichert."}};
-    for (const auto& c : cases) {
+    const std::pair<const char*, const char*> cases[] = {{"write", "Beim Einlesen der Werte"},
+                                                         {"open", "wurde nicht gespeichert."}};
+    for (const auto& [failing, words] : cases) {
         Game game;
         game("key Enter\n");
-        game.Platform.Failing = c.Failing;
-        game.Platform.Error = ENOSPC;
+        game.Platform.Fault = Fails(failing, ENOSPC);
         const std::string written = game("key Esc\n", &StandSpeichern);
         EXPECT_NE(written.find("ist fehlgeschlagen."), std::string::npos) << written;
-        game.Platform.Failing = Call::None;
+        game.Platform.Fault = {};
         const std::string read = game("key Esc\n", &StandLaden);
-        EXPECT_NE(read.find(c.Repeat), std::string::npos) << read;
+        EXPECT_NE(read.find(words), std::string::npos) << read;
     }
 }
 

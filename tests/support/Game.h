@@ -3,8 +3,6 @@
 // the lines that come back.
 #pragma once
 
-#include <algorithm>
-#include <cerrno>
 #include <filesystem>
 #include <functional>
 #include <optional>
@@ -16,60 +14,21 @@
 
 #include "state/Zellen.h"
 #include "tests/drehbuch/Script.h"
+#include "tests/support/Faults.h"
 #include "tests/support/Folder.h"
 #include "ui/layer/App.h"
 
 namespace malvone::test {
 
-// Real files; one of the system's calls below them can be made to fail.
-class FaultyPlatform : public script::ScriptPlatform
+// The platform of the script program, with the test's own clock.
+class TestPlatform : public Faulty<script::ScriptPlatform>
 {
 public:
-    using ScriptPlatform::ScriptPlatform;
+    using Faulty::Faulty;
 
-    enum class Call { None, Open, Write, Sync, Close, Rename };
-    Call Failing = Call::None;
-    int Error = 0;                              // errno of the call that fails
-    std::size_t MostBytes = std::string::npos;  // that one call writes
-    std::function<std::uint64_t()> Clock;       // the test's own
+    std::function<std::uint64_t()> Clock;
 
     std::uint64_t ClockNs() override { return Clock ? Clock() : ScriptPlatform::ClockNs(); }
-
-protected:
-    int Open(const char* path, int flags, mode_t mode) override
-    {
-        return Fails(Call::Open) ? -1 : ScriptPlatform::Open(path, flags, mode);
-    }
-    ssize_t Write(int file, const char* bytes, std::size_t count) override
-    {
-        if (MostBytes < count && !std::exchange(interrupted_, !interrupted_)) {
-            errno = EINTR;  // every other call is interrupted
-            return -1;
-        }
-        return Fails(Call::Write) ? -1
-                                  : ScriptPlatform::Write(file, bytes, std::min(count, MostBytes));
-    }
-    int Sync(int file) override { return Fails(Call::Sync) ? -1 : ScriptPlatform::Sync(file); }
-    int Close(int file) override
-    {
-        const int result = ScriptPlatform::Close(file);
-        return Fails(Call::Close) ? -1 : result;
-    }
-    int Rename(const char* from, const char* to) override
-    {
-        return Fails(Call::Rename) ? -1 : ScriptPlatform::Rename(from, to);
-    }
-
-private:
-    bool interrupted_ = false;
-
-    bool Fails(Call call)
-    {
-        if (Failing == call) {
-            errno = Error;
-        }
-        return Failing == call;
-    }
 };
 
 // A stage for the program or for the layer alone: folders, a platform, and a binding that reads and
@@ -90,7 +49,7 @@ private:
     std::ostringstream out_;
 
 public:
-    FaultyPlatform Platform;
+    TestPlatform Platform;
     TheBinding Binding{in_, out_};
 
     explicit Stage(script::Options options = {}) : Platform(Complete(std::move(options)), out_)

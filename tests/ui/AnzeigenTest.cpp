@@ -1,10 +1,9 @@
-// AnzeigenTest.cpp: what the displays show for which number, and the list of sounds.
+// AnzeigenTest.cpp: what the displays show for which number.
 #include <gtest/gtest.h>
 
 #include "state/Spielstand.h"
 #include "tests/support/Game.h"
 #include "ui/services/Anzeigen.h"
-#include "ui/services/Klaenge.h"
 #include "ui/windows/FrmTessel.h"
 
 namespace malvone::test {
@@ -56,24 +55,6 @@ TEST(Anzeigen, NumbersStandAtTheRightAndNinesWhereTheyEnd)
                           Shown(frmTessel->imgDiggiLevel),
                       c.Text);
         }
-    }
-}
-
-TEST(Klaenge, ListHoldsFullPathsAndNothingForWhatIsMissing)
-{
-    constexpr const char* kNames[] = {"TADA.WAV",   "WHOOSH.WAV", "CHIMES.WAV", "FRAGE.WAV",
-                                      "FEHLER.WAV", "BLIP.WAV",   "ding.wav"};
-    const Game game;
-    for (const char* const missing : kNames) {
-        std::filesystem::remove(game.Program / missing);
-        std::filesystem::create_directory(game.Program / missing);  // a folder is no sound
-        SoundListeAnlegen();
-        for (std::size_t i = 0; i < std::size(kNames); ++i) {
-            EXPECT_EQ(SoundDateien.at(i),
-                      kNames[i] == missing ? "" : std::string("P:\\") + kNames[i]);
-        }
-        std::filesystem::remove(game.Program / missing);
-        WriteFile(game.Program / missing, "");
     }
 }
 

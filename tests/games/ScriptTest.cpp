@@ -1,10 +1,6 @@
-// DrehbuchTest.cpp: what holds for every script: an answer to each command, and a quiet end.
+// ScriptTest.cpp: what holds for every script: an answer to each command, and a quiet end.
 #include <gtest/gtest.h>
 
-#include <random>
-
-#include "platform/CodePage.h"
-#include "tests/drehbuch/Text.h"
 #include "tests/support/Game.h"
 #include "ui/windows/FrmBeste.h"
 #include "ui/windows/FrmMsgJa.h"
@@ -44,7 +40,7 @@ const std::string kThroughAllWindows =
     std::string(100, '1') + std::string(38, '0') + "34\n" + PointAt(10) + Press(10) +
     "key Esc\nkey J\ntype Berta\ndo frmBeste.cmdEnde Click\nkey J\n";
 
-TEST(Drehbuch, InputThatEndsAnywhereEndsTheProgramQuietlyAndWritesNoEntry)
+TEST(Script, InputThatEndsAnywhereEndsTheProgramQuietlyAndWritesNoEntry)
 {
     for (std::size_t cut = 0; cut != std::string::npos;) {
         const std::string script = kThroughAllWindows.substr(0, cut);
@@ -59,7 +55,7 @@ TEST(Drehbuch, InputThatEndsAnywhereEndsTheProgramQuietlyAndWritesNoEntry)
     }
 }
 
-TEST(Drehbuch, ASecondRunInOneProcessBeginsAfreshAndOtherLineEndsChangeNothing)
+TEST(Script, ASecondRunInOneProcessBeginsAfreshAndOtherLineEndsChangeNothing)
 {
     std::string other;
     for (const char c : kThroughAllWindows + "state\nwindows\n") {
@@ -68,7 +64,7 @@ TEST(Drehbuch, ASecondRunInOneProcessBeginsAfreshAndOtherLineEndsChangeNothing)
     EXPECT_EQ(Play(other).Transcript, Play(kThroughAllWindows + "state\nwindows\n").Transcript);
 }
 
-TEST(Drehbuch, EveryEventAtEveryControlIsAnswered)
+TEST(Script, EveryEventAtEveryControlIsAnswered)
 {
     std::vector<std::string> names = {Field(1), Field(24), Field(140)};
     const auto append = [&](const Window& window) {
@@ -94,61 +90,6 @@ TEST(Drehbuch, EveryEventAtEveryControlIsAnswered)
         }
         EXPECT_EQ(Play(script).Waits, std::ranges::count(script, '\n') + 1) << open;
     }
-}
-
-TEST(Drehbuch, RubbishAndImpossibleBoardsAreAnsweredAndHarmNothing)
-{
-    const std::string million(1'000'000, 'x');
-    std::string script = "set frmTessel.Caption " + million + "\nkey Enter\n";
-    for (const std::string& line :
-         {million, "do " + million, "do frmTessel." + million + " Click",
-          "get " + million + "." + million, "type " + million, "board " + million,
-          std::string("do frmTessel.imgFeld(99999999999999999999) MouseMove"),
-          std::string("get frmTessel.imgFeld(1).List(99999999999999999999)"),
-          std::string("get ...."), std::string("get frmTessel.lblNeu.List()"),
-          std::string("get frmTessel.lblNeu.List("), std::string("state\0", 6),
-          std::string(7, '\0'), std::string("get frmTessel.lblN\xC3"),
-          std::string("type \xC0\x80\xED\xA0\x80"), std::string("\t"), std::string(" ")}) {
-        script += line + "\n";
-    }
-    std::mt19937 dice(7);
-    for (const char* const odd :
-         {"7", "9", "", "x", "-1", "12345", "99999999999", "04", "-32768"}) {
-        script += "board ";
-        for (int i = 0; i < kZellen; ++i) {
-            script += static_cast<char>('0' + dice() % 10);
-        }
-        const int cell = 1 + static_cast<int>(dice() % kZellen);
-        script += "\nset " + Field(cell) + ".Tag " + odd + "\n" + PointAt(cell) + Press(cell);
-        for (int i = 1; i <= kZellen; ++i) {
-            script += PointAt(i);
-        }
-        script += "do frmTessel.Picture1 MouseMove\npictures\nkey Esc\nkey Esc\nkey Enter\n";
-    }
-    const Outcome outcome = Play(script + "get frmTessel.Caption\n");
-    EXPECT_EQ(outcome.Waits, std::ranges::count(script, '\n') + 2);
-    EXPECT_TRUE(outcome.Transcript.ends_with("= " + million + "\n> -\n"));
-    EXPECT_TRUE(IsUtf8(outcome.Transcript));
-}
-
-TEST(DrehbuchText, NumbersAndTextsAreWrittenShortAndReadBack)
-{
-    const std::pair<Twips, const char*> numbers[] = {
-        {8737.5F, "8737.5"},      {0.0F, "0"},   {-0.0F, "0"},
-        {-700.25F, "-700.25"},    {0.1F, "0.1"}, {1e-7F, "0.0000001"},
-        {16777216.0F, "16777216"}};
-    for (const auto& [value, text] : numbers) {
-        EXPECT_EQ(script::TwipsText(value), text);
-        EXPECT_EQ(script::TwipsFrom(text), value);
-    }
-    for (const char* const text : {"", "nan", "inf", "1e39", "1,5", " 1", "1 ", "+1", "0x1"}) {
-        EXPECT_EQ(script::TwipsFrom(text), std::nullopt) << text;
-    }
-    for (const char* const text : {"", "a", "\r\nb\\r\n", "\\", "\\\\n", "Größe\n"}) {
-        EXPECT_EQ(script::Unmasked(script::Masked(text)), text);
-    }
-    EXPECT_EQ(script::Masked("\r\nC:\\x"), "\\r\\nC:\\\\x");
-    EXPECT_EQ(script::Unmasked("\\x\\"), "\\x\\");
 }
 
 }  // namespace

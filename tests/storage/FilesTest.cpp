@@ -1,0 +1,435 @@
+// FilesTest.cpp: what the file calls make of good, damaged and missing files, and what is left
+// behind when they fail, are interrupted or meet each other.
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <sys/file.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+
+#include <atomic>
+#include <cstdlib>
+#include <thread>
+
+#include "tests/support/Faults.h"
+#include "tests/support/Folder.h"
+
+namespace malvone {
+
+// For the names of failed comparisons.
+void PrintTo(FileFault fault, std::ostream* os)
+{
+    *os << static_cast<int>(fault);
+}
+
+namespace test {
+namespace {
+
+namespace fs = std::filesystem;
+using Texts = std::vector<std::string>;
+
+constexpr const char* kFile = "C:\\file.txt";
+constexpr const char* kKept = "file-nicht-gelesen-1.txt";
+const Texts kNew = {"new", "2"};
+constexpr const char* kOldContent = "old\r\n1\r\n";
+constexpr const char* kNewContent = "new\r\n2\r\n";
+
+class FilesAlone : public FilePlatform
+{
+public:
+    explicit FilesAlone(const std::optional<fs::path>& disk) : FilePlatform(disk, "/programm") {}
+    void sndPlaySoundA(const std::string&) override {}
+    void ShellExecuteA(const std::string&) override {}
+};
+using Platform = Faulty<FilesAlone>;
+
+struct Files : testing::Test
+{
+    Folder Home;
+    fs::path Disk = Home.Path / "disk";
+    fs::path File = Disk / "file.txt";
+    Platform System{Disk};
+
+    void Make(std::string_view content = kOldContent) const { WriteFile(File, content); }
+};
+
+TEST_F(Files, PathsOfTheGameLeadToTwoFolders)
+{
+    const std::pair<const char*, std::optional<fs::path>> cases[] = {
+        {"C:\\lindenspiele\\malvone.txt", Disk / "lindenspiele/malvone.txt"},
+        {"\\malvone.txt", Disk / "malvone.txt"},
+        {"C:\\", Disk},
+        {"P:\\TADA.WAV", "/programm/TADA.WAV"}};
+    for (const auto& [path, place] : cases) {
+        EXPECT_EQ(System.Translate(path), place) << path;
+    }
+    for (const char* const path : {"", "malvone.txt", "D:\\malvone.txt", "C:malvone.txt",
+                                   "\\\\server\\malvone.txt", "/etc/passwd"}) {
+        EXPECT_EQ(System.Translate(path), std::nullopt) << path;
+    }
+}
+
+TEST_F(Files, TheDataRootComesFromTheEnvironment)
+{
+    const std::string home = Home.Path.string();
+    const std::tuple<std::string, std::string, std::optional<std::string>> cases[] = {
+        {"/daten", home, "/daten"},         {"daten", home, home + "/.local/share"},
+        {"", home, home + "/.local/share"}, {"", home + "/missing", std::nullopt},
+        {"", "heim", std::nullopt},
+    };
+    for (const auto& [data, user, place] : cases) {
+        ::setenv("XDG_DATA_HOME", data.c_str(), 1);
+        ::setenv("HOME", user.c_str(), 1);
+        EXPECT_EQ(DefaultDataRoot(), place) << data << " " << user;
+    }
+    ::unsetenv("XDG_DATA_HOME");
+    ::setenv("HOME", home.c_str(), 1);
+
+    Platform none(std::nullopt);
+    EXPECT_EQ(none.GetWindowsDirectoryA(), "");
+    EXPECT_FALSE(none.CreateDirectoryA("C:\\lindenspiele"));
+    EXPECT_EQ(none.OpenFileExist("\\malvone.txt"), kPathNotFound);
+    EXPECT_EQ(none.ReadTextLines("\\malvone.txt", 1).Fault, FileFault::PathAccess);
+    EXPECT_EQ(none.ReplaceTextLines("\\malvone.txt", kNew, OldFile::Goes), FileFault::PathAccess);
+}
+
+TEST_F(Files, MissingFoldersAreMadeForThePlayerAlone)
+{
+    Platform deep(Disk / "a" / "b");
+    EXPECT_TRUE(deep.CreateDirectoryA("C:\\lindenspiele"));
+    for (const char* const folder : {"", "a", "a/b", "a/b/lindenspiele"}) {
+        EXPECT_EQ(fs::status(Disk / folder).permissions(), fs::perms::owner_all) << folder;
+    }
+    EXPECT_FALSE(deep.CreateDirectoryA("C:\\missing\\below"));
+}
+
+TEST_F(Files, AFileIsReadLineByLineAsFarAsItGoes)
+{
+    const std::string block(4096 - 1, 'x');  // the CR is the last byte of a block
+    const std::string longest(64 * 1024, 'x');
+    std::string endless;
+    endless.resize(50'000'000, 'x');
+    const struct
+    {
+        std::string Content;
+        Texts Lines;
+        FileFault Fault = FileFault::None;
+    } cases[] = {
+        {"a\r\nb\r\nc\r\n", {"a", "b", "c"}},
+        {"a\nb\nc\n", {"a", "b", "c"}},
+        {"a\rb\rc\r", {"a", "b", "c"}},
+        {"a\n\rb\r\nc", {"a", "", "b"}},
+        {"a\r\r\n\nb", {"a", "", ""}},
+        {"a\nb\nc", {"a", "b", "c"}},  // the last line needs no end
+        {"a\nb\nc\nd", {"a", "b", "c"}},
+        {"\n\n\n", {"", "", ""}},
+        {block + "\r\nb\nc", {block, "b", "c"}},
+        {std::string("a\0b\n\x1A\n\xFC", 7), {std::string("a\0b", 3), "\x1A", "ü"}},
+        {"", {}, FileFault::PastEnd},
+        {"\n", {""}, FileFault::PastEnd},
+        {"a\nb", {"a", "b"}, FileFault::PastEnd},
+        {longest + "\r\nb\nc", {longest, "b", "c"}},
+        {"a\n" + longest + "x\nc", {"a"}, FileFault::OtherDevice},
+        {"a\n" + endless, {"a"}, FileFault::OtherDevice},
+    };
+    const auto memory = [] {
+        struct rusage usage
+        {};
+        ::getrusage(RUSAGE_SELF, &usage);
+        return usage.ru_maxrss;
+    };
+    const long before = memory();
+    for (const auto& c : cases) {
+        Make(c.Content);
+        const ReadLines read = System.ReadTextLines(kFile, 3);
+        EXPECT_EQ(read.Fault, c.Fault) << c.Content.substr(0, 20);
+        EXPECT_EQ(read.Lines, c.Lines);
+    }
+    EXPECT_LT(memory() - before, 16 * 1024) << "KiB for a line without end";
+}
+
+// What lies in the place of the file, what the test for it says, and what reading it meets.
+TEST_F(Files, WhatIsNoFileIsRefusedAndLeftAlone)
+{
+    const fs::path place = Disk / "place";
+    const struct
+    {
+        const char* What;
+        std::function<void()> Make;
+        std::string Path;
+        std::int32_t Test;
+        FileFault Read;
+    } cases[] = {
+        {"folder", [&] { fs::create_directory(place); }, "C:\\place", kAccessRefused,
+         FileFault::PathAccess},
+        {"file for a folder", [&] { WriteFile(place, ""); }, "C:\\place\\file", kPathNotFound,
+         FileFault::PathAccess},
+        {"missing folder", [] {}, "C:\\place\\file", kPathNotFound, FileFault::NotFound},
+        {"circle of links", [&] { fs::create_symlink(place, place); }, "C:\\place", kAccessRefused,
+         FileFault::PathAccess},
+        {"pipe", [&] { ::mkfifo(place.c_str(), 0600); }, "C:\\place", kAccessRefused,
+         FileFault::PathAccess},
+        {"long name", [] {}, "C:\\" + std::string(300, 'x'), kAccessRefused, FileFault::PathAccess},
+        {"unreadable bytes", [&] { fs::create_symlink("/proc/self/mem", place); }, "C:\\place",
+         kFileExists, FileFault::OtherDevice},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.What);
+        fs::create_directories(Disk);
+        c.Make();
+        const auto before = Names(Disk);
+        EXPECT_EQ(System.OpenFileExist(c.Path), c.Test);
+        EXPECT_EQ(System.ReadTextLines(c.Path, 1).Fault, c.Read);
+        for (const OldFile old : {OldFile::Goes, OldFile::Kept, OldFile::Stays}) {
+            EXPECT_NE(System.ReplaceTextLines(c.Path, kNew, old), FileFault::None);
+        }
+        EXPECT_EQ(Names(Disk), before);
+        fs::remove_all(Disk);
+    }
+}
+
+// One call of the system, counted from 1, fails: alone, or with all of its kind behind it.
+struct NthCall
+{
+    int At;
+    int Error;
+    bool Forever = false;
+    int Calls = 0;
+    std::string Hit = "";
+
+    int operator()(std::string_view call)
+    {
+        const bool now = ++Calls == At;
+        if (now && Error == 0) {
+            throw *this;  // the program is killed here
+        }
+        Hit = now ? call : Hit;
+        return now || (Forever && call == Hit) ? Error : 0;
+    }
+};
+
+// Whatever call fails, once or from then on: a failure leaves the old file, success the new one,
+// and neither leaves anything else. What is to be kept is kept before it can be lost.
+TEST_F(Files, AnyCallThatFailsLeavesTheOldFileOrTheNewOneAndNothingElse)
+{
+    const std::tuple<OldFile, bool, Texts> cases[] = {
+        {OldFile::Goes, true, {"file.txt"}},
+        {OldFile::Goes, false, {"file.txt"}},
+        {OldFile::Kept, true, {kKept, "file.txt"}},
+        {OldFile::Kept, false, {"file.txt"}},
+    };
+    const auto replace = [&](OldFile old, bool there, const Texts& after, NthCall fault) {
+        SCOPED_TRACE(testing::Message() << "errno " << fault.Error << " call " << fault.At);
+        fs::remove_all(Disk);
+        fs::create_directories(Disk);
+        if (there) {
+            Make();
+        }
+        const auto before = Names(Disk);
+        System.Fault = std::ref(fault);
+        const bool good = System.ReplaceTextLines(kFile, kNew, old) == FileFault::None;
+        EXPECT_EQ(Names(Disk), good ? after : before);
+        EXPECT_EQ(Contents(File).value_or(kOldContent), good ? kNewContent : kOldContent);
+        EXPECT_EQ(Contents(Disk / kKept).value_or(kOldContent), kOldContent);
+        EXPECT_TRUE(good || fault.Error != EINTR || fault.Forever) << "not tried again";
+        return fault.Calls >= fault.At && !HasFailure();
+    };
+    for (const auto& [old, there, after] : cases) {
+        for (const int error :
+             {EACCES, EDQUOT, EEXIST, EINTR, EIO, EMFILE, ENOENT, ENOSPC, EROFS}) {
+            for (const bool forever : {false, true}) {
+                int at = 1;
+                while (replace(old, there, after, {at, error, forever})) {
+                    ++at;
+                }
+                EXPECT_GT(at, 8);
+            }
+        }
+    }
+    for (const int at : {1, 2, 5}) {  // a plain write: open, write, close
+        System.Fault = NthCall{at, ENOSPC};
+        EXPECT_EQ(System.WriteTextLines(kFile, kNew), FileFault::OtherDevice) << at;
+    }
+}
+
+TEST_F(Files, AKillAtAnyCallLeavesTheOldFileOrTheNewOneAndTheNextSaveClearsUp)
+{
+    for (const OldFile old : {OldFile::Goes, OldFile::Kept}) {
+        int at = 0;
+        for (bool killed = true; killed;) {
+            fs::remove_all(Disk);
+            Make();
+            // Nothing is thrown while a file is closed on the way out.
+            System.Fault = [call = NthCall{++at, 0}](std::string_view name) mutable {
+                return name == "close" ? 0 : call(name);
+            };
+            killed = false;
+            try {
+                System.ReplaceTextLines(kFile, kNew, old);
+            } catch (const NthCall&) {
+                killed = true;
+            }
+            const std::string content = Contents(File).value_or("");
+            EXPECT_TRUE(content == kOldContent || content == kNewContent) << content;
+            fs::remove(Disk / kKept);
+            EXPECT_EQ(Platform(Disk).ReplaceTextLines(kFile, kNew, OldFile::Goes), FileFault::None);
+            EXPECT_EQ(Names(Disk), Texts{"file.txt"});
+        }
+        EXPECT_GT(at, 8);
+    }
+}
+
+TEST_F(Files, TwoRunsThatSaveAtOnceBothSucceedAndNeverMixTheirLists)
+{
+    Make();
+    std::atomic<int> failed = 0;
+    std::atomic<int> ended = 0;
+    const auto run = [&](char letter) {
+        Platform system(Disk);
+        for (int i = 0; i < 100; ++i) {
+            const Texts lines(3, std::string(20, letter));
+            failed += system.ReplaceTextLines(kFile, lines, OldFile::Goes) != FileFault::None;
+        }
+        ++ended;
+    };
+    std::thread one(run, 'a');
+    std::thread two(run, 'b');
+    const auto list = [](char letter) {
+        const std::string line = std::string(20, letter) + "\r\n";
+        return line + line + line;
+    };
+    bool whole = true;
+    while (ended < 2) {
+        const std::string content = Contents(File).value_or("");
+        whole = whole && (content == list('a') || content == list('b') || content == kOldContent);
+    }
+    one.join();
+    two.join();
+    EXPECT_TRUE(whole);
+    EXPECT_EQ(failed, 0);
+    EXPECT_EQ(Names(Disk), Texts{"file.txt"});
+}
+
+TEST_F(Files, ARunThatHangsWithTheLockHoldsNobodyUpForEver)
+{
+    Make();
+    const int folder = ::open(Disk.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    ASSERT_EQ(::flock(folder, LOCK_EX), 0);
+    EXPECT_NE(System.ReplaceTextLines(kFile, kNew, OldFile::Goes), FileFault::None);
+    EXPECT_EQ(Contents(File), kOldContent);
+    ::close(folder);
+    EXPECT_EQ(System.ReplaceTextLines(kFile, kNew, OldFile::Goes), FileFault::None);
+}
+
+TEST_F(Files, AReplacedFileKeepsItsLinkAndItsPermissions)
+{
+    const fs::path target = Home.Path / "elsewhere" / "list";
+    fs::create_directory(Disk);
+    fs::create_symlink("../elsewhere/list", File);
+    for (const auto rights : {static_cast<fs::perms>(0600), static_cast<fs::perms>(0664)}) {
+        WriteFile(target, kOldContent);
+        fs::permissions(target, rights);
+        EXPECT_EQ(System.ReplaceTextLines(kFile, kNew, OldFile::Goes), FileFault::None);
+        EXPECT_TRUE(fs::is_symlink(File));
+        EXPECT_EQ(Contents(target), kNewContent);
+        EXPECT_EQ(fs::status(target).permissions(), rights);
+        EXPECT_EQ(Names(target.parent_path()), Texts{"list"});
+    }
+    System.DeleteFileA(kFile);
+    EXPECT_FALSE(fs::exists(target));
+    EXPECT_EQ(System.ReplaceTextLines(kFile, kNew, OldFile::Stays), FileFault::None);
+    EXPECT_EQ(Contents(target), kNewContent);
+}
+
+TEST_F(Files, WhatLiesInThePlaceOfTheNewFileIsNotWrittenThrough)
+{
+    const fs::path strange = Home.Path / "strange";
+    const fs::path next = Disk / "file.txt.neu";
+    WriteFile(strange, "strange");
+    const std::function<void()> cases[] = {[&] { fs::create_hard_link(strange, next); },
+                                           [&] { fs::create_symlink(strange, next); },
+                                           [&] { fs::create_directory(next); }};
+    for (const auto& make : cases) {
+        Make();
+        make();
+        EXPECT_EQ(System.ReplaceTextLines(kFile, kNew, OldFile::Goes), FileFault::None);
+        EXPECT_EQ(Contents(strange), "strange");
+        EXPECT_EQ(Contents(File), kNewContent);
+        EXPECT_EQ(Names(Disk), Texts{"file.txt"});
+    }
+}
+
+// Nothing is read-only for root: the test then goes on as a user who is nobody.
+class WithoutPrivileges
+{
+public:
+    explicit WithoutPrivileges(const fs::path& folder)
+    {
+        if (root_) {
+            for (const auto& entry : fs::recursive_directory_iterator(folder)) {
+                EXPECT_EQ(::lchown(entry.path().c_str(), kNobody, kNobody), 0);
+            }
+            EXPECT_EQ(::lchown(folder.c_str(), kNobody, kNobody), 0);
+            EXPECT_EQ(::seteuid(kNobody), 0);
+        }
+    }
+    ~WithoutPrivileges()
+    {
+        if (root_) {
+            EXPECT_EQ(::seteuid(0), 0);
+        }
+    }
+    WithoutPrivileges(const WithoutPrivileges&) = delete;
+    WithoutPrivileges& operator=(const WithoutPrivileges&) = delete;
+
+private:
+    static constexpr uid_t kNobody = 65534;
+    const bool root_ = ::geteuid() == 0;
+};
+
+TEST_F(Files, AReadOnlyFileOrFolderIsTold)
+{
+    for (const bool folder : {false, true}) {
+        fs::remove_all(Disk);
+        Make();
+        ::chmod((folder ? Disk : File).c_str(), 0555);
+        const WithoutPrivileges without(Home.Path);
+        EXPECT_EQ(System.ReplaceTextLines(kFile, kNew, OldFile::Goes), FileFault::NoPermission);
+        EXPECT_EQ(Contents(File), kOldContent);
+        EXPECT_EQ(System.CreateDirectoryA("C:\\folder"), !folder);
+        EXPECT_EQ(System.WriteTextLines("C:\\new.txt", kNew),
+                  folder ? FileFault::NoPermission : FileFault::None);
+    }
+}
+
+TEST_F(Files, AFileWithoutPermissionIsKeptBesideTheNewOneAndOverNoOther)
+{
+    Make();
+    WriteFile(Disk / kKept, "older");
+    ::chmod(File.c_str(), 0000);
+    {
+        const WithoutPrivileges without(Home.Path);
+        EXPECT_EQ(System.ReadTextLines(kFile, 1).Fault, FileFault::NoPermission);
+        EXPECT_EQ(System.ReplaceTextLines(kFile, kNew, OldFile::Kept), FileFault::None);
+        EXPECT_EQ(System.ReadTextLines(kFile, 2).Lines, kNew);
+    }
+    ::chmod((Disk / "file-nicht-gelesen-2.txt").c_str(), 0600);
+    EXPECT_EQ(Contents(Disk / kKept), "older");
+    EXPECT_EQ(Contents(Disk / "file-nicht-gelesen-2.txt"), kOldContent);
+    EXPECT_EQ(Names(Disk).size(), 3U);
+}
+
+TEST_F(Files, AfterTheEndNothingIsWrittenDeletedOrMade)
+{
+    Make();
+    System.Over = true;
+    System.WriteTextLines(kFile, kNew);
+    System.ReplaceTextLines(kFile, kNew, OldFile::Goes);
+    System.DeleteFileA(kFile);
+    System.CreateDirectoryA("C:\\folder");
+    EXPECT_EQ(Names(Disk), Texts{"file.txt"});
+    EXPECT_EQ(Contents(File), kOldContent);
+}
+
+}  // namespace
+}  // namespace test
+}  // namespace malvone
