@@ -88,7 +88,7 @@ std::string NameOf(const Control* control)
 }
 
 // What may change and can be seen or used, with what a window has beside its properties.
-std::vector<Value> AllValuesOf(const PropertyOwner& owner)
+std::vector<Value> AllValuesOf(PropertyOwner& owner)
 {
     std::vector<Value> values = ValuesOf(owner);
     std::erase_if(values, [](const Value& v) { return !v.Kind || v.Kind == Change::Data; });
@@ -101,7 +101,7 @@ std::vector<Value> AllValuesOf(const PropertyOwner& owner)
 
 }  // namespace
 
-void Changes::Know(const PropertyOwner& owner, const std::string& path)
+void Changes::Know(PropertyOwner& owner, const std::string& path)
 {
     for (const Value& value : AllValuesOf(owner)) {
         if (!known_.emplace(path + "." + std::string(value.Property), value.Text).second) {
@@ -115,15 +115,15 @@ const std::string& Changes::Known(const Control& control, const char* property) 
     return known_.at(PathOf(control) + property);
 }
 
-void Changes::Loaded(const Window& window)
+void Changes::Loaded(Window& window)
 {
     Know(window, std::string(window.Name()));
-    for (const Control* const control : window.Controls()) {
+    for (Control* const control : window.Controls()) {
         Know(*control, PathOf(*control));
     }
 }
 
-void Changes::Added(const Control& control)
+void Changes::Added(Control& control)
 {
     Know(control, PathOf(control));
 }
@@ -166,7 +166,7 @@ std::string Changes::Lines()
     return BoardLines() + displays + properties;
 }
 
-void Changes::Compare(const PropertyOwner& owner, const std::string& path, std::string_view name,
+void Changes::Compare(PropertyOwner& owner, const std::string& path, std::string_view name,
                       int index, std::vector<Line>& lines)
 {
     const auto heard = heard_.extract(path);
@@ -196,7 +196,7 @@ std::string Changes::PropertyLines(Window& window)
 {
     std::vector<Line> lines;
     Compare(window, std::string(window.Name()), "", -1, lines);
-    for (const Control* const control : window.Controls()) {
+    for (Control* const control : window.Controls()) {
         Compare(*control, PathOf(*control), control->Name(), control->Index(), lines);
     }
     // Pictures of cells and digits are told by the board and by the displays.

@@ -17,8 +17,8 @@ class Changes
 public:
     // A window is known from here on as it is designed; one that has been loaded before, as it
     // looked when it was told last.
-    void Loaded(const Window& window);
-    void Added(const Control& control);
+    void Loaded(Window& window);
+    void Added(Control& control);
 
     void Heard(const Window& window, Change what)
     {
@@ -44,10 +44,10 @@ private:
     std::string board_;
     std::string pictures_;  // empty where they are what the board says
 
-    void Know(const PropertyOwner& owner, const std::string& path);
+    void Know(PropertyOwner& owner, const std::string& path);
     const std::string& Known(const Control& control, const char* property) const;
-    void Compare(const PropertyOwner& owner, const std::string& path, std::string_view name,
-                 int index, std::vector<Line>& lines);
+    void Compare(PropertyOwner& owner, const std::string& path, std::string_view name, int index,
+                 std::vector<Line>& lines);
     std::string PropertyLines(Window& window);
     std::string DisplayLine(Window& window);
     std::string NumberOn(const std::vector<const Image*>& digits) const;

@@ -38,7 +38,7 @@ struct Value
     std::string Text;            // as AskProperty answers, texts in quotes; a list is all its items
 };
 // Everything that stands in the table for a window or control.
-std::vector<Value> ValuesOf(const PropertyOwner& owner);
+std::vector<Value> ValuesOf(PropertyOwner& owner);
 
 // Questions.cpp. All but the first take no argument.
 Answer AskOrSetBoard(std::string_view digits);  // sets the 140 values and nothing else

@@ -28,89 +28,59 @@ bool Reachable(const Control& control)
            control.FullName() != kTemplate;
 }
 
-Answer Click(Control& control, const Mouse&)
+Answer ToWindow(Window& window, std::string_view event, const Mouse& mouse)
 {
-    const bool timer = dynamic_cast<Timer*>(&control) != nullptr;
-    return timer ? kUnknownEvent : Told(Reachable(control) && RaiseClick(control));
+    if (event == "Activate") {
+        return Told(RaiseActivate(window));
+    }
+    if (event == "Close") {
+        return Told(RaiseClose(window));
+    }
+    const bool takes = App.TakesInput(window);
+    if (takes) {
+        window.Form_MouseMove(mouse);
+    }
+    return Told(takes);
 }
 
-Answer Tick(Control& control, const Mouse&)
+Answer ToControl(Control& control, std::string_view event, const Mouse& mouse)
 {
     auto* const timer = dynamic_cast<Timer*>(&control);
-    return timer == nullptr ? kUnknownEvent : Told(RaiseTimer(*timer));
-}
-
-template<auto Event>
-Answer Point(Control& control, const Mouse& mouse)
-{
+    if (event == "Timer") {
+        return timer == nullptr ? kUnknownEvent : Told(RaiseTimer(*timer));
+    }
+    if (event == "Click") {
+        return timer != nullptr ? kUnknownEvent : Told(Reachable(control) && RaiseClick(control));
+    }
     if (dynamic_cast<Visual*>(&control) == nullptr) {
         return kUnknownEvent;
     }
-    if (!Reachable(control)) {
-        return kRefused;
+    const auto& pointed = event == "MouseMove"   ? control.MouseMove
+                          : event == "MouseDown" ? control.MouseDown
+                                                 : control.MouseUp;
+    const bool reachable = Reachable(control);
+    if (reachable) {
+        pointed.Raise(control.Index(), mouse);
     }
-    Event(control).Raise(control.Index(), mouse);
-    return "";
-}
-malvone::Event<Mouse>& MoveOf(Control& control)
-{
-    return control.MouseMove;
-}
-malvone::Event<Mouse>& DownOf(Control& control)
-{
-    return control.MouseDown;
-}
-malvone::Event<Mouse>& UpOf(Control& control)
-{
-    return control.MouseUp;
-}
-
-Answer ActivateWindow(Window& window, const Mouse&)
-{
-    return Told(RaiseActivate(window));
-}
-Answer CloseWindow(Window& window, const Mouse&)
-{
-    return Told(RaiseClose(window));
-}
-Answer MoveOverWindow(Window& window, const Mouse& mouse)
-{
-    if (!App.TakesInput(window)) {
-        return kRefused;
-    }
-    window.Form_MouseMove(mouse);
-    return "";
+    return Told(reachable);
 }
 
 struct EventRow
 {
     std::string_view Name;
-    std::optional<std::int16_t> Button;  // where the line names none; none: no argument
-    Answer (*AtWindow)(Window&, const Mouse&);
-    Answer (*AtControl)(Control&, const Mouse&);
+    bool OfWindows;
+    bool OfControls;
+    std::optional<std::int16_t> Button = {};  // where the line names none; nothing: no argument
 };
-
-constexpr std::array<EventRow, 7> kEvents = {{
-    {"Click", std::nullopt, nullptr, &Click},
-    {"MouseMove", 0, &MoveOverWindow, &Point<MoveOf>},
-    {"MouseDown", kLeftButton, nullptr, &Point<DownOf>},
-    {"MouseUp", kLeftButton, nullptr, &Point<UpOf>},
-    {"Timer", std::nullopt, nullptr, &Tick},
-    {"Activate", std::nullopt, &ActivateWindow, nullptr},
-    {"Close", std::nullopt, &CloseWindow, nullptr},
-}};
-
-Answer Deliver(const Object& target, const EventRow& event, const Mouse& mouse)
-{
-    if (target.Name.empty() ? event.AtWindow == nullptr : event.AtControl == nullptr) {
-        return kUnknownEvent;
-    }
-    if (target.Window() == nullptr) {
-        return kRefused;
-    }
-    return target.Name.empty() ? event.AtWindow(*target.Window(), mouse)
-                               : event.AtControl(*target.Control(), mouse);
-}
+constexpr EventRow kEvents[] = {
+    {"Click", false, true},
+    {"MouseMove", true, true, 0},
+    {"MouseDown", false, true, kLeftButton},
+    {"MouseUp", false, true, kLeftButton},
+    {"Timer", false, true},
+    {"Activate", true, false},
+    {"Close", true, false},
+};
 
 struct NamedKey
 {
@@ -166,9 +136,12 @@ Answer DeliverEvent(std::string_view line)
         return Answer(target.Fault());
     }
     const std::string_view name = CutOff(line, ' ');
-    const auto event = std::find_if(kEvents.begin(), kEvents.end(),
-                                    [&](const EventRow& row) { return row.Name == name; });
-    if (event == kEvents.end()) {
+    const bool toWindow = target.Name.empty();
+    const auto* const event =
+        std::find_if(std::begin(kEvents), std::end(kEvents), [&](const EventRow& row) {
+            return row.Name == name && (toWindow ? row.OfWindows : row.OfControls);
+        });
+    if (event == std::end(kEvents)) {
         return kUnknownEvent;
     }
     Mouse mouse;
@@ -180,7 +153,11 @@ Answer DeliverEvent(std::string_view line)
         }
         mouse.Button = *button;
     }
-    return Deliver(target, *event, mouse);
+    if (target.Window() == nullptr) {
+        return kRefused;
+    }
+    return toWindow ? ToWindow(*target.Window(), name, mouse)
+                    : ToControl(*target.Control(), name, mouse);
 }
 
 Answer PressKey(std::string_view name)

@@ -12,294 +12,261 @@
 namespace malvone::script {
 namespace {
 
-// How a value stands on a line, one function for each type of property.
-
-std::string Written(bool value)
+// How a value of each type stands on a line.
+template<class Type>
+std::string Written(const Type& value)
 {
-    return value ? "True" : "False";
-}
-std::string Written(Twips value)
-{
-    return TwipsText(value);
-}
-std::string Written(std::int32_t value)
-{
-    return std::to_string(value);
-}
-std::string Written(const std::string& value)
-{
-    return Masked(value);
-}
-std::string Written(const Picture& value)
-{
-    return value.Empty() ? "-" : std::string(value.Name());
-}
-std::string Written(Alignment value)
-{
-    return value == Alignment::Centre ? "2" : "0";
-}
-std::string Written(Pointer value)
-{
-    return value == Pointer::Hand ? "99" : "0";
-}
-std::string Written(const Font& value)
-{
-    return std::string(value.Name) + " " + TwipsText(value.Size) + (value.Bold ? " bold" : "");
+    if constexpr (std::is_same_v<Type, bool>) {
+        return value ? "True" : "False";
+    } else if constexpr (std::is_same_v<Type, Twips>) {
+        return TwipsText(value);
+    } else if constexpr (std::is_same_v<Type, std::string>) {
+        return Masked(value);
+    } else if constexpr (std::is_same_v<Type, TagText>) {
+        return Masked(value.Text());
+    } else if constexpr (std::is_same_v<Type, Picture>) {
+        return value.Empty() ? "-" : std::string(value.Name());
+    } else if constexpr (std::is_same_v<Type, Alignment>) {
+        return value == Alignment::Centre ? "2" : "0";
+    } else if constexpr (std::is_same_v<Type, Pointer>) {
+        return value == Pointer::Hand ? "99" : "0";
+    } else if constexpr (std::is_same_v<Type, Font>) {
+        return std::string(value.Name) + " " + TwipsText(value.Size) + (value.Bold ? " bold" : "");
+    } else {
+        return std::to_string(value);
+    }
 }
 
-// How it is read. False: the text is no such value, and nothing has been stored.
-
-bool Read(std::string_view text, bool& value)
-{
-    value = text == "True";
-    return value || text == "False";
-}
-bool Read(std::string_view text, Twips& value)
-{
-    const auto number = TwipsFrom(text);
-    value = number.value_or(0);
-    return number.has_value();
-}
-bool Read(std::string_view text, std::int32_t& value)
-{
-    constexpr std::int32_t kLargest = 0xFFFFFF;  // colours; all other numbers stay far below
-    const auto number = NumberFrom<std::int32_t>(text);
-    value = number.value_or(0);
-    return number.has_value() && value >= 0 && value <= kLargest;
-}
-bool Read(std::string_view text, std::string& value)
-{
-    value = Unmasked(text);
-    return true;
-}
-bool Read(std::string_view text, TagText& value)
-{
-    value = TagText(Unmasked(text));
-    return true;
-}
-bool Read(std::string_view text, Picture& value)
+std::optional<Picture> PictureFrom(std::string_view name)
 {
     const auto known = AllPictures();
     const auto found = std::find_if(known.begin(), known.end(),
-                                    [&](const PictureInfo& info) { return info.Name == text; });
+                                    [&](const PictureInfo& info) { return info.Name == name; });
+    if (found != known.end()) {
+        return Picture(*found);
+    }
     // A control of the bank that holds no picture has a name all the same.
-    const auto* const image = dynamic_cast<const Image*>(ObjectFrom(text).Control());
-    value = found == known.end() ? Picture() : Picture(*found);
-    return found != known.end() || text == "-" || (image != nullptr && image->Picture->Empty());
+    const auto* const image = dynamic_cast<const Image*>(ObjectFrom(name).Control());
+    const bool none = name == "-" || (image != nullptr && image->Picture->Empty());
+    return none ? std::optional(Picture()) : std::nullopt;
 }
 
-// The answers to an attempt to set; where the object is of another kind than the property, there
-// is none, so that one name can stand in the table for several kinds.
-constexpr const char* kDone = "";
+// How it is read; nothing where the text is no such value.
+template<class Type>
+std::optional<Type> ValueFrom(std::string_view text)
+{
+    if constexpr (std::is_same_v<Type, bool>) {
+        return text == "True" || text == "False" ? std::optional(text == "True") : std::nullopt;
+    } else if constexpr (std::is_same_v<Type, Twips>) {
+        return TwipsFrom(text);
+    } else if constexpr (std::is_same_v<Type, Picture>) {
+        return PictureFrom(text);
+    } else if constexpr (std::is_same_v<Type, std::int32_t>) {
+        constexpr std::int32_t kLargest = 0xFFFFFF;  // colours; all other numbers stay far below
+        const auto number = NumberFrom<std::int32_t>(text);
+        return number && *number >= 0 && *number <= kLargest ? number : std::nullopt;
+    } else {
+        return Type(Unmasked(text));
+    }
+}
+
 constexpr const char* kNoValue = "? not a value of this property";
-constexpr const char* kFixed = "? the property is fixed";
+constexpr const char* kNotSettable = "? the property is fixed";
 constexpr const char* kUnknown = "? unknown property";
+
+// One use of a property: it is asked for, or given a new value.
+struct Use
+{
+    std::optional<std::string_view> New = {};
+    std::int32_t Index = 0;  // of an item
+    std::string Told = {};   // the value, or what is wrong with the new one
+    std::optional<Change> Kind = {};
+};
 
 struct Property
 {
     std::string_view Name;
-    bool Indexed;
-    std::optional<std::string> (*Ask)(const PropertyOwner&, std::int32_t);
-    const char* (*Set)(PropertyOwner&, std::int32_t, std::string_view);  // null: another kind
-    // What its owner tells when it changes.
-    std::optional<Change> (*Kind)(const PropertyOwner&) = nullptr;
+    bool (*Apply)(PropertyOwner&, Use&);  // false: the object is of another kind
+    bool Indexed = false;
 };
 
 template<class Member>
-struct MemberTypes;
+struct MemberOf;
 template<class Class, class Type>
-struct MemberTypes<Type Class::*>
+struct MemberOf<Type Class::*>
 {
     using Owner = Class;
 };
 
-template<auto Member>
-std::optional<std::string> AskMember(const PropertyOwner& owner, std::int32_t)
+template<class Field>
+auto ValueOf(const Field& field)
 {
-    using Owner = typename MemberTypes<decltype(Member)>::Owner;
-    const auto* const object = dynamic_cast<const Owner*>(&owner);
+    if constexpr (requires { field.Get(); }) {
+        return field.Get();
+    } else if constexpr (std::is_same_v<Field, VisibleProperty>) {
+        return static_cast<bool>(field);
+    } else {
+        return field;
+    }
+}
+
+constexpr bool kFixed = true;  // by the design: it can only be asked for
+
+template<auto Member, bool kIsFixed = false>
+bool UseMember(PropertyOwner& owner, Use& use)
+{
+    auto* const object = dynamic_cast<typename MemberOf<decltype(Member)>::Owner*>(&owner);
     if (object == nullptr) {
+        return false;
+    }
+    auto& field = object->*Member;
+    if constexpr (requires { field.Kind(); }) {
+        use.Kind = field.Kind();
+    }
+    if (!use.New) {
+        use.Told = Written(ValueOf(field));
+    } else if constexpr (kIsFixed) {
+        use.Told = kNotSettable;
+    } else if (const auto value = ValueFrom<decltype(ValueOf(field))>(*use.New)) {
+        field = *value;
+    } else {
+        use.Told = kNoValue;
+    }
+    return true;
+}
+
+bool UseListCount(PropertyOwner& owner, Use& use)
+{
+    const auto* const list = dynamic_cast<const ListBox*>(&owner);
+    if (list != nullptr) {
+        use.Told = use.New ? kNotSettable : Written(list->ListCount());
+    }
+    return list != nullptr;
+}
+
+bool UseListItem(PropertyOwner& owner, Use& use)
+{
+    auto* const list = dynamic_cast<ListBox*>(&owner);
+    if (list == nullptr) {
+        return false;
+    }
+    if (!use.New) {
+        use.Told = Written(list->List(use.Index));
+    } else if (use.Index < 0 || use.Index >= list->ListCount()) {
+        use.Told = kNoValue;
+    } else {
+        list->SetList(use.Index, Unmasked(*use.New));
+    }
+    return true;
+}
+
+constexpr Property kProperties[] = {
+    {"Visible", &UseMember<&Window::Visible>},
+    {"Left", &UseMember<&Window::Left>},
+    {"Top", &UseMember<&Window::Top>},
+    {"Width", &UseMember<&Window::Width>},
+    {"Height", &UseMember<&Window::Height>},
+    {"Caption", &UseMember<&Window::Caption>},
+    {"Picture", &UseMember<&Window::Picture>},
+    {"Icon", &UseMember<&Window::Icon>},
+    {"BackColor", &UseMember<&Window::BackColor>},
+    {"ClientWidth", &UseMember<&Window::ClientWidth, kFixed>},
+    {"ClientHeight", &UseMember<&Window::ClientHeight, kFixed>},
+    {"ShowInTaskbar", &UseMember<&Window::ShowInTaskbar, kFixed>},
+    {"MinButton", &UseMember<&Window::MinButton, kFixed>},
+    {"MaxButton", &UseMember<&Window::MaxButton, kFixed>},
+    {"KeyPreview", &UseMember<&Window::KeyPreview, kFixed>},
+
+    {"Enabled", &UseMember<&Control::Enabled>},
+    {"Visible", &UseMember<&Control::Visible>},
+    {"Left", &UseMember<&Visual::Left>},
+    {"Top", &UseMember<&Visual::Top>},
+    {"Width", &UseMember<&Visual::Width>},
+    {"Height", &UseMember<&Visual::Height>},
+    {"ToolTipText", &UseMember<&Visual::ToolTipText>},
+    {"Tag", &UseMember<&Visual::Tag>},
+    {"TabStop", &UseMember<&Visual::TabStop>},
+    {"MousePointer", &UseMember<&Visual::MousePointer, kFixed>},
+    {"TabIndex", &UseMember<&Visual::TabIndex, kFixed>},
+
+    {"Caption", &UseMember<&Label::Caption>},
+    {"ForeColor", &UseMember<&Label::ForeColor>},
+    {"BackColor", &UseMember<&Label::BackColor>},
+    {"Transparent", &UseMember<&Label::Transparent>},
+    {"Alignment", &UseMember<&Label::Align, kFixed>},
+    {"Font", &UseMember<&Label::TextFont, kFixed>},
+
+    {"Picture", &UseMember<&Image::Picture>},
+    {"Stretch", &UseMember<&Image::Stretch>},
+
+    {"Picture", &UseMember<&PictureBox::Picture>},
+    {"BackColor", &UseMember<&PictureBox::BackColor>},
+    {"Border", &UseMember<&PictureBox::Border>},
+
+    {"Caption", &UseMember<&CommandButton::Caption>},
+    {"Default", &UseMember<&CommandButton::Default>},
+
+    {"Text", &UseMember<&TextBox::Text>},
+    {"Locked", &UseMember<&TextBox::Locked>},
+    {"SelStart", &UseMember<&TextBox::SelStart>},
+    {"SelLength", &UseMember<&TextBox::SelLength>},
+    {"ForeColor", &UseMember<&TextBox::ForeColor>},
+    {"BackColor", &UseMember<&TextBox::BackColor>},
+    {"Font", &UseMember<&TextBox::TextFont, kFixed>},
+
+    {"ListCount", &UseListCount},
+    {"List", &UseListItem, true},
+
+    {"FillColor", &UseMember<&Shape::FillColor>},
+    {"X1", &UseMember<&Line::X1>},
+    {"Y1", &UseMember<&Line::Y1>},
+    {"X2", &UseMember<&Line::X2>},
+    {"Y2", &UseMember<&Line::Y2>},
+    {"BorderColor", &UseMember<&Line::BorderColor>},
+
+    {"Caption", &UseMember<&MenuEntry::Caption>},
+    {"Checked", &UseMember<&MenuEntry::Checked>},
+    {"Interval", &UseMember<&Timer::Interval>},
+};
+
+// Finds the property that is meant and uses it. Nothing: there is none.
+std::optional<Answer> Apply(std::string_view path, Use use)
+{
+    const auto found = PathFrom(path);
+    if (!found) {
         return std::nullopt;
     }
-    if constexpr (requires { (object->*Member).Get(); }) {
-        return Written((object->*Member).Get());
-    } else {
-        return Written(object->*Member);
+    if (!found->Target.Fault().empty()) {
+        return Answer(found->Target.Fault());
     }
-}
-
-template<auto Member>
-const char* SetMember(PropertyOwner& owner, std::int32_t, std::string_view text)
-{
-    using Owner = typename MemberTypes<decltype(Member)>::Owner;
-    auto* const object = dynamic_cast<Owner*>(&owner);
-    if (object == nullptr) {
-        return nullptr;
+    if (use.New && found->Target.Window() == nullptr) {
+        return "? the window is not loaded";
     }
-    std::remove_cvref_t<decltype((object->*Member).Get())> value{};
-    if (!Read(text, value)) {
-        return kNoValue;
-    }
-    object->*Member = value;
-    return kDone;
-}
-
-// Nothing for what is no property of the layer and so never changes.
-template<auto Member>
-std::optional<Change> KindOf(const PropertyOwner& owner)
-{
-    using Owner = typename MemberTypes<decltype(Member)>::Owner;
-    const auto* const object = dynamic_cast<const Owner*>(&owner);
-    if constexpr (requires { (object->*Member).Kind(); }) {
-        return object == nullptr ? std::nullopt : std::optional((object->*Member).Kind());
+    use.Index = found->Index.value_or(0);
+    for (const Property& property : kProperties) {
+        if (property.Name != found->Property || property.Indexed != found->Index.has_value()) {
+            continue;
+        }
+        if (found->Target.Window() == nullptr) {
+            return "= unloaded";
+        }
+        if (property.Apply(*found->Target.Owner(), use)) {
+            return (use.New ? "" : "= ") + use.Told;
+        }
     }
     return std::nullopt;
 }
 
-// What the design has fixed can only be asked for.
-template<class Owner>
-const char* Refuse(PropertyOwner& owner, std::int32_t, std::string_view)
-{
-    return dynamic_cast<Owner*>(&owner) == nullptr ? nullptr : kFixed;
-}
-
-std::optional<std::string> AskShown(const PropertyOwner& owner, std::int32_t)
-{
-    const auto* const window = dynamic_cast<const Window*>(&owner);
-    return window == nullptr ? std::nullopt : std::optional(Written(window->Shown()));
-}
-
-const char* SetShown(PropertyOwner& owner, std::int32_t, std::string_view text)
-{
-    auto* const window = dynamic_cast<Window*>(&owner);
-    bool visible = false;
-    if (window == nullptr || !Read(text, visible)) {
-        return window == nullptr ? nullptr : kNoValue;
-    }
-    window->Visible = visible;
-    return kDone;
-}
-
-std::optional<std::string> AskListCount(const PropertyOwner& owner, std::int32_t)
-{
-    const auto* const list = dynamic_cast<const ListBox*>(&owner);
-    return list == nullptr ? std::nullopt : std::optional(Written(list->ListCount()));
-}
-
-std::optional<std::string> AskListItem(const PropertyOwner& owner, std::int32_t index)
-{
-    const auto* const list = dynamic_cast<const ListBox*>(&owner);
-    return list == nullptr ? std::nullopt : std::optional(Written(list->List(index)));
-}
-
-const char* SetListItem(PropertyOwner& owner, std::int32_t index, std::string_view text)
-{
-    auto* const list = dynamic_cast<ListBox*>(&owner);
-    if (list == nullptr || index < 0 || index >= list->ListCount()) {
-        return list == nullptr ? nullptr : kNoValue;
-    }
-    list->SetList(index, Unmasked(text));
-    return kDone;
-}
-
-template<auto Member>
-constexpr Property Free(std::string_view name)
-{
-    return {name, false, &AskMember<Member>, &SetMember<Member>, &KindOf<Member>};
-}
-
-template<auto Member>
-constexpr Property Fixed(std::string_view name)
-{
-    return {name, false, &AskMember<Member>, &Refuse<typename MemberTypes<decltype(Member)>::Owner>,
-            &KindOf<Member>};
-}
-
-constexpr Property kProperties[] = {
-    {"Visible", false, &AskShown, &SetShown},
-    Free<&Window::Left>("Left"),
-    Free<&Window::Top>("Top"),
-    Free<&Window::Width>("Width"),
-    Free<&Window::Height>("Height"),
-    Free<&Window::Caption>("Caption"),
-    Free<&Window::Picture>("Picture"),
-    Free<&Window::Icon>("Icon"),
-    Free<&Window::BackColor>("BackColor"),
-    Fixed<&Window::ClientWidth>("ClientWidth"),
-    Fixed<&Window::ClientHeight>("ClientHeight"),
-    Fixed<&Window::ShowInTaskbar>("ShowInTaskbar"),
-    Fixed<&Window::MinButton>("MinButton"),
-    Fixed<&Window::MaxButton>("MaxButton"),
-    Fixed<&Window::KeyPreview>("KeyPreview"),
-
-    Free<&Control::Enabled>("Enabled"),
-    Free<&Control::Visible>("Visible"),
-    Free<&Visual::Left>("Left"),
-    Free<&Visual::Top>("Top"),
-    Free<&Visual::Width>("Width"),
-    Free<&Visual::Height>("Height"),
-    Free<&Visual::ToolTipText>("ToolTipText"),
-    Free<&Visual::Tag>("Tag"),
-    Free<&Visual::TabStop>("TabStop"),
-    Fixed<&Visual::MousePointer>("MousePointer"),
-    Fixed<&Visual::TabIndex>("TabIndex"),
-
-    Free<&Label::Caption>("Caption"),
-    Free<&Label::ForeColor>("ForeColor"),
-    Free<&Label::BackColor>("BackColor"),
-    Free<&Label::Transparent>("Transparent"),
-    Fixed<&Label::Align>("Alignment"),
-    Fixed<&Label::TextFont>("Font"),
-
-    Free<&Image::Picture>("Picture"),
-    Free<&Image::Stretch>("Stretch"),
-
-    Free<&PictureBox::Picture>("Picture"),
-    Free<&PictureBox::BackColor>("BackColor"),
-    Free<&PictureBox::Border>("Border"),
-
-    Free<&CommandButton::Caption>("Caption"),
-    Free<&CommandButton::Default>("Default"),
-
-    Free<&TextBox::Text>("Text"),
-    Free<&TextBox::Locked>("Locked"),
-    Free<&TextBox::SelStart>("SelStart"),
-    Free<&TextBox::SelLength>("SelLength"),
-    Free<&TextBox::ForeColor>("ForeColor"),
-    Free<&TextBox::BackColor>("BackColor"),
-    Fixed<&TextBox::TextFont>("Font"),
-
-    {"ListCount", false, &AskListCount, &Refuse<ListBox>},
-    {"List", true, &AskListItem, &SetListItem},
-
-    Free<&Shape::FillColor>("FillColor"),
-    Free<&Line::X1>("X1"),
-    Free<&Line::Y1>("Y1"),
-    Free<&Line::X2>("X2"),
-    Free<&Line::Y2>("Y2"),
-    Free<&Line::BorderColor>("BorderColor"),
-
-    Free<&MenuEntry::Caption>("Caption"),
-    Free<&MenuEntry::Checked>("Checked"),
-    Free<&Timer::Interval>("Interval"),
-};
-
-bool Meant(const Property& property, const PropertyPath& path)
-{
-    return property.Name == path.Property && property.Indexed == path.Index.has_value();
-}
-
 }  // namespace
 
-std::vector<Value> ValuesOf(const PropertyOwner& owner)
+std::vector<Value> ValuesOf(PropertyOwner& owner)
 {
     std::vector<Value> values;
     for (const Property& property : kProperties) {
-        const auto value = property.Indexed ? std::nullopt : property.Ask(owner, 0);
-        if (value) {
-            const auto kind = property.Kind == nullptr ? std::nullopt : property.Kind(owner);
-            const bool text = kind == Change::Text || property.Name == "ToolTipText";
-            values.push_back({property.Name, kind, text ? '"' + *value + '"' : *value});
+        Use use;
+        if (!property.Indexed && property.Apply(owner, use)) {
+            const bool text = use.Kind == Change::Text || property.Name == "ToolTipText";
+            values.push_back({property.Name, use.Kind, text ? '"' + use.Told + '"' : use.Told});
         }
     }
     if (const auto* const list = dynamic_cast<const ListBox*>(&owner)) {
@@ -314,49 +281,13 @@ std::vector<Value> ValuesOf(const PropertyOwner& owner)
 
 Answer AskProperty(std::string_view path)
 {
-    const auto found = PathFrom(path);
-    if (!found) {
-        return kUnknown;
-    }
-    if (!found->Target.Fault().empty()) {
-        return Answer(found->Target.Fault());
-    }
-    for (const Property& property : kProperties) {
-        if (!Meant(property, *found)) {
-            continue;
-        }
-        if (found->Target.Window() == nullptr) {
-            return "= unloaded";
-        }
-        if (const auto value = property.Ask(*found->Target.Owner(), found->Index.value_or(0))) {
-            return "= " + *value;
-        }
-    }
-    return kUnknown;
+    return Apply(path, {}).value_or(kUnknown);
 }
 
 Answer SetProperty(std::string_view line)
 {
-    const auto found = PathFrom(CutOff(line, ' '));
-    if (!found) {
-        return kUnknown;
-    }
-    if (!found->Target.Fault().empty()) {
-        return Answer(found->Target.Fault());
-    }
-    if (found->Target.Window() == nullptr) {
-        return "? the window is not loaded";
-    }
-    for (const Property& property : kProperties) {
-        const char* const answer =
-            Meant(property, *found)
-                ? property.Set(*found->Target.Owner(), found->Index.value_or(0), line)
-                : nullptr;
-        if (answer != nullptr) {
-            return answer;
-        }
-    }
-    return kUnknown;
+    const std::string_view path = CutOff(line, ' ');
+    return Apply(path, {line}).value_or(kUnknown);
 }
 
 }  // namespace malvone::script

@@ -202,8 +202,8 @@ TEST(Layer, EveryNewValueIsToldOnceAndTheSameNever)
 {
     Stage<Witness> stage;
     App.Begin(stage.Binding, stage.Platform);
-    std::vector<std::pair<std::string, const PropertyOwner*>> owners = {{"probe", &*probe}};
-    for (const Control* const control : probe->Controls()) {
+    std::vector<std::pair<std::string, PropertyOwner*>> owners = {{"probe", &*probe}};
+    for (Control* const control : probe->Controls()) {
         owners.emplace_back("probe." + control->FullName(), control);
     }
     auto& told = stage.Binding.Told;

@@ -21,7 +21,7 @@ const std::set<std::string> kUsual = {
     "Left 0",          "Top 0",          "ForeColor 0",      "Icon -",
     "List -",          "Tag ",           "ToolTipText \"\"", "BackColor 16777215"};
 
-std::string Row(const PropertyOwner& owner)
+std::string Row(PropertyOwner& owner)
 {
     std::string row;
     for (const script::Value& value : script::ValuesOf(owner)) {
@@ -50,16 +50,15 @@ TEST(Design, AllWindowsStandAsInTheFile)
     std::vector<std::pair<std::string, std::string>> rows;
     for (const std::string name : {"frmTessel", "frmMsgOk", "frmMsgJa", "frmBeste", "frmBilder",
                                    "frmDigital", "frmHintergrund"}) {
-        const Window& window = InstanceBase::Find(name)->Touch();
+        Window& window = InstanceBase::Find(name)->Touch();
         rows.emplace_back(name, Row(window));
-        std::vector<const Control*> controls(window.FrontToBack().begin(),
-                                             window.FrontToBack().end());
-        for (const Control* const control : window.Controls()) {
+        std::vector<Control*> controls(window.FrontToBack().begin(), window.FrontToBack().end());
+        for (Control* const control : window.Controls()) {
             if (dynamic_cast<const Visual*>(control) == nullptr) {
                 controls.push_back(control);
             }
         }
-        for (const Control* const control : controls) {
+        for (Control* const control : controls) {
             const std::string row = Row(*control);
             const std::string array = name + "." + std::string(control->Name()) + "(";
             if (rows.back().first.starts_with(array) && rows.back().second == row) {
