@@ -69,6 +69,11 @@ TEST(CodePage, WhatTheFileCannotHoldBecomesAQuestionMark)
     }
 }
 
+TEST(CodePage, NothingIsReadBehindTheText)
+{
+    EXPECT_EQ(ToWindows1252(std::string_view("\xE2\x82\xAC", 2)), "??");
+}
+
 TEST(CodePage, OnlyCharactersThatAFileHoldsCanBeTyped)
 {
     EXPECT_EQ(KeepTypable("Jörg \"?\", 5 €"), "Jörg \"?\", 5 €");

@@ -73,7 +73,6 @@ void Application::RunModal(Window& window)
         binding_->RunModal(window);
     }
     std::erase(modals_, &window);
-    window.modal_ = false;
 }
 
 bool ModalOver(const Window& window)

@@ -142,9 +142,8 @@ void LeaveHighlight(Window& window, Visual* under)
 
 void Routing::SetHighlight(Window& window, Visual* control)
 {
-    Visual* const old = std::exchange(window.routed_.Highlighted, control);
-    for (Visual* const changed : {old, control}) {
-        if (changed != nullptr && old != control) {
+    for (Visual* const changed : {std::exchange(window.routed_.Highlighted, control), control}) {
+        if (changed != nullptr) {
             changed->Changed(Change::Highlight);
         }
     }

@@ -103,6 +103,11 @@ void Window::SetFocus(Visual* control)
     }
 }
 
+bool Window::Modal() const
+{
+    return std::find(App.modals_.begin(), App.modals_.end(), this) != App.modals_.end();
+}
+
 void Window::Drag()
 {
     LetGo(*this);
@@ -130,7 +135,6 @@ void Window::Show(ShowMode mode)
     const EventScope scope;
     shown_ = true;
     if (mode == ShowMode::Modal) {
-        modal_ = true;
         App.modals_.push_back(this);
     }
     if (focus_ == nullptr) {

@@ -94,7 +94,7 @@ public:
     bool Close() { return Unload(UnloadMode::TitleBar); }
 
     bool Shown() const { return shown_; }
-    bool Modal() const { return modal_; }
+    bool Modal() const;
 
     // All controls, menu entries and timers too, in the order of their declaration; elements of
     // control arrays made at run time stand at the end.
@@ -164,7 +164,6 @@ private:
     Visual* focus_ = nullptr;
     Routed routed_;
     bool shown_ = false;
-    bool modal_ = false;
 
     void Add(Control& control);
     Visual* InitialFocus() const;
