@@ -25,9 +25,3 @@ if(NOT MALVONE_SANITIZE)
         DEPENDS ${manual_parts} COMMENT "Setting the manuals" VERBATIM)
     add_custom_target(manuals ALL DEPENDS "${manuals_stamp}")
 endif()
-
-# What ./play builds: the game and all that it needs beside it.
-add_custom_target(playable DEPENDS malvone sounds)
-if(NOT MALVONE_SANITIZE)
-    add_dependencies(playable manuals)
-endif()

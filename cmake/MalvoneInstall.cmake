@@ -34,6 +34,8 @@ if(NOT MALVONE_SANITIZE)
         list(APPEND icons "${icon}")
     endforeach()
     add_custom_target(icons ALL DEPENDS ${icons})
+    # What ./play builds, so that it can be installed right afterwards.
+    add_custom_target(playable DEPENDS malvone sounds manuals icons)
 
     install(FILES ${manual_files} DESTINATION "${CMAKE_INSTALL_DOCDIR}")
     cmake_path(RELATIVE_PATH CMAKE_INSTALL_FULL_DOCDIR BASE_DIRECTORY "${MALVONE_SHARE_FOLDER}"
