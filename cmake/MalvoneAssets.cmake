@@ -1,4 +1,5 @@
 # Puts the sounds and the manuals beside the executable, where the game looks for them.
+find_package(Python3 REQUIRED COMPONENTS Interpreter)
 malvone_glob(sounds assets/sounds/*.wav assets/sounds/*.WAV)
 set(sounds_copied "")
 foreach(sound IN LISTS sounds)
@@ -10,9 +11,8 @@ foreach(sound IN LISTS sounds)
 endforeach()
 add_custom_target(sounds ALL DEPENDS ${sounds_copied})
 
-set(manual_builder "${PROJECT_SOURCE_DIR}/assets/manuals/typeset.py")
-if(NOT MALVONE_SANITIZE)
-    find_package(Python3 REQUIRED COMPONENTS Interpreter)
+if(MALVONE_DATA)
+    set(manual_builder "${PROJECT_SOURCE_DIR}/assets/manuals/typeset.py")
     malvone_glob(manual_parts assets/manuals/*.* assets/manuals/screenshots/* assets/pictures/*.svg)
     set(manuals_stamp "${PROJECT_BINARY_DIR}/generated/manuals.stamp")
     # Each manual is one .html file there; the builder makes a PDF of the same name from it.

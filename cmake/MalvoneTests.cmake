@@ -97,7 +97,7 @@ if(MALVONE_QT)
 endif()
 
 # What is the same in every build is looked at in the one that players run.
-if(MALVONE_QT AND NOT MALVONE_SANITIZE)
+if(MALVONE_QT AND MALVONE_DATA)
     # Scripts that look at what lies in the repository or in the build folder.
     malvone_script_tests(files SOURCES tests/manuals/*.py tests/docs/*.py
         ARGUMENTS "${PROJECT_BINARY_DIR}")
