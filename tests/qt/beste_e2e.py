@@ -8,7 +8,7 @@ sys.path.append(os.path.join(os.path.dirname(os.path.abspath(__file__)), os.pard
 from desktop import LIST, LIST_OK, MENU, NEW_GAME, PAIR, YES, Desktop, Game
 from processes import expect, script, until
 
-NAME = "Jörg Müßig, €"
+NAME = "Jörg Müßig, €@"
 # The name box of the first place, and its digits; while a name is typed a caret blinks in the box.
 FIRST_NAME, FIRST_ROW = (44, 52, 147, 27), (248, 46, 88, 32)
 BESIDE = (20, 300)
@@ -49,7 +49,9 @@ def main():
             game.key("j")
             window = list_window(game)
             before = game.look(*FIRST_NAME, window)
+            desktop.do("key", "--delay", 60, "alt+a", "ctrl+alt+1")     # types nothing
             desktop.do("type", "--delay", 60, NAME)
+            desktop.do("key", "--delay", 60, "alt+a", "ctrl+b")
             until(lambda: game.look(*FIRST_NAME, window) != before, "the name in its box")
             seen = game.look(*FIRST_ROW, window)
             game.click(LIST_OK, window)

@@ -73,6 +73,14 @@ bool IsInput(const QEvent& event)
     }
 }
 
+// Qt types a letter with Alt too. Whoever wants a command by such a key wants no letter, least of
+// all over a selected name. AltGr comes without these two, so that € and @ can be typed.
+bool TypesWithCommandKey(const QKeyEvent& event)
+{
+    const bool command = (event.modifiers() & (Qt::AltModifier | Qt::ControlModifier)) != 0;
+    return command && !event.text().isEmpty() && event.text().front().isPrint();
+}
+
 }  // namespace
 
 NameBox::NameBox(TextBox& model, KeyRoute route, QWidget* parent)
@@ -144,7 +152,8 @@ bool NameBox::event(QEvent* event)
     }
     if (event->type() == QEvent::KeyPress) {
         // A key that the box ignores would come back through its parent and be routed again.
-        if (!route_(*static_cast<QKeyEvent*>(event))) {
+        const auto& key = *static_cast<QKeyEvent*>(event);
+        if (!route_(key) && !TypesWithCommandKey(key)) {
             QLineEdit::event(event);
         }
         event->accept();
