@@ -9,7 +9,6 @@
 #include "state/Zellen.h"
 #include "ui/layer/App.h"
 #include "ui/qt/QtBinding.h"
-#include "ui/qt/drawing/Painting.h"
 #include "ui/qt/platform/QtPlatform.h"
 #include "ui/qt/windows/FormWidget.h"
 #include "ui/sound/Sound.h"

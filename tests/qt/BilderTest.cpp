@@ -3,7 +3,6 @@
 
 #include <QDir>
 #include <QFile>
-#include <QPainter>
 #include <QSvgRenderer>
 #include <QXmlStreamReader>
 #include <set>

@@ -8,7 +8,6 @@
 #include <QMouseEvent>
 #include <QTemporaryDir>
 #include <QTimer>
-#include <QtMath>
 #include <functional>
 #include <memory>
 

@@ -2,7 +2,6 @@
 // screen reader is played in zugang_e2e.py.
 #include <QAccessible>
 
-#include "state/Spielstand.h"
 #include "tests/qt/Spieltisch.h"
 #include "ui/qt/drawing/Conversions.h"
 

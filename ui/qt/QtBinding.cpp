@@ -1,7 +1,6 @@
 // QtBinding.cpp: windows come, go and wait.
 #include "ui/qt/QtBinding.h"
 
-#include <QAccessible>
 #include <QApplication>
 #include <QScreen>
 #include <algorithm>

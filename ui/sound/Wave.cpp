@@ -3,7 +3,6 @@
 #include "ui/sound/Wave.h"
 
 #include <algorithm>
-#include <array>
 #include <cstring>
 #include <filesystem>
 #include <fstream>

@@ -1,7 +1,6 @@
 // Painting.cpp: paints grounds and controls from back to front.
 #include "ui/qt/drawing/Painting.h"
 
-#include <QPaintDevice>
 #include <QPainter>
 #include <QPainterPath>
 #include <QRegion>

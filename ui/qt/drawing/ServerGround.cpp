@@ -1,7 +1,6 @@
 // ServerGround.cpp: sends a small picture and has it stretched by the Render extension.
 #include "ui/qt/drawing/ServerGround.h"
 
-#include <QGuiApplication>
 #include <QImage>
 #include <QWindow>
 

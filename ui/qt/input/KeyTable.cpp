@@ -17,12 +17,10 @@ struct Row
 };
 
 constexpr Row kRows[] = {
-    {Qt::Key_Backspace, 8},     {Qt::Key_Tab, kKeyTab},      {Qt::Key_Backtab, kKeyTab},
-    {Qt::Key_Enter, kKeyEnter}, {Qt::Key_Return, kKeyEnter}, {Qt::Key_Escape, kKeyEsc},
-    {Qt::Key_Space, kKeySpace}, {Qt::Key_PageUp, 33},        {Qt::Key_PageDown, 34},
-    {Qt::Key_End, 35},          {Qt::Key_Home, 36},          {Qt::Key_Left, 37},
-    {Qt::Key_Up, 38},           {Qt::Key_Right, 39},         {Qt::Key_Down, 40},
-    {Qt::Key_Insert, 45},       {Qt::Key_Delete, 46},
+    {Qt::Key_Backspace, kKeyBack}, {Qt::Key_Tab, kKeyTab},      {Qt::Key_Backtab, kKeyTab},
+    {Qt::Key_Enter, kKeyEnter},    {Qt::Key_Return, kKeyEnter}, {Qt::Key_Escape, kKeyEsc},
+    {Qt::Key_Space, kKeySpace},    {Qt::Key_Left, kKeyLeft},    {Qt::Key_Up, kKeyUp},
+    {Qt::Key_Right, kKeyRight},    {Qt::Key_Down, kKeyDown},    {Qt::Key_Delete, kKeyDelete},
 };
 
 bool Between(int key, int first, int last)

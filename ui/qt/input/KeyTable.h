@@ -10,7 +10,7 @@ class QKeyEvent;
 
 namespace malvone::qt {
 
-// Code 0 stands for a key without a code, such as an umlaut.
+// Code 0 stands for a key that the game has no use for, such as an umlaut.
 Key ToKey(const QKeyEvent& event);
 
 std::int16_t ToShift(Qt::KeyboardModifiers modifiers);

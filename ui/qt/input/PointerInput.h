@@ -4,7 +4,6 @@
 
 #include <QPoint>
 #include <QPointF>
-#include <QRect>
 
 #include "ui/layer/Window.h"
 

@@ -1,7 +1,6 @@
 // QtPlatform.cpp: hands waves to the player and documents to the desktop.
 #include "ui/qt/platform/QtPlatform.h"
 
-#include <QCoreApplication>
 #include <QProcess>
 #include <QStandardPaths>
 #include <utility>

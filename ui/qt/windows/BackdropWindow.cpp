@@ -1,7 +1,6 @@
 // BackdropWindow.cpp: shows the backdrop, and paints it where the display server does not.
 #include "ui/qt/windows/BackdropWindow.h"
 
-#include <QCloseEvent>
 #include <QGuiApplication>
 #include <QPaintEvent>
 #include <QPainter>
