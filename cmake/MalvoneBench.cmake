@@ -1,4 +1,4 @@
-# Benchmarks, and the empty window that start-up times are compared with.
+# Benchmarks, and the bare windows that start-up times are compared with.
 find_package(benchmark REQUIRED)
 
 malvone_glob(bench_core_sources bench/core*.cpp)
@@ -11,6 +11,6 @@ add_executable(bench_qt ${bench_qt_sources})
 malvone_qt_program(bench_qt)
 target_link_libraries(bench_qt PRIVATE benchmark::benchmark_main)
 
-add_executable(leeres_fenster "${PROJECT_SOURCE_DIR}/bench/leer.cpp")
-malvone_target(leeres_fenster)
-target_link_libraries(leeres_fenster PRIVATE Qt6::Widgets)
+add_executable(bare_windows "${PROJECT_SOURCE_DIR}/bench/bare_windows.cpp")
+malvone_target(bare_windows)
+target_link_libraries(bare_windows PRIVATE Qt6::Widgets)
