@@ -7,7 +7,7 @@
 #include "state/Zellen.h"
 #include "tests/drehbuch/Commands.h"
 #include "tests/drehbuch/Objects.h"
-#include "ui/services/Meldungen.h"
+#include "tests/drehbuch/Text.h"
 #include "ui/services/Spoken.h"
 #include "ui/windows/FrmBilder.h"
 #include "ui/windows/FrmTessel.h"
@@ -65,17 +65,6 @@ struct Changes::Line
 };
 
 namespace {
-
-// A new version changes no transcript.
-std::string WithoutVersion(std::string text)
-{
-    const std::string title = TitelMitVersion();
-    const std::string version = title.substr(title.rfind(' ') + 1);
-    if (const std::size_t at = text.find(version); at != std::string::npos) {
-        text.replace(at, version.size(), "{version}");
-    }
-    return text;
-}
 
 std::string PathOf(const Control& control)
 {

@@ -58,9 +58,7 @@ bool Script::ReadCommand(std::string& line)
 
 void Script::Step(std::string_view waiting)
 {
-    if (changes_) {
-        out_ << changes_->Lines();
-    }
+    out_ << (changes_ ? changes_->Lines() : "") << (listener_ ? listener_->Lines() : "");
     out_ << "> " << waiting << std::endl;
     std::string line;
     if (!ReadCommand(line)) {
@@ -76,12 +74,13 @@ std::string Script::Do(std::string_view line)
 {
     std::string answer = Obey(line);
     // What a script has set by itself it knows.
-    if (const std::string_view name = CutOff(line, ' '); changes_ && answer.empty()) {
-        if (name == "set") {
-            changes_->Told(CutOff(line, ' '));
-        } else if (name == "board") {
-            changes_->BoardSet();
-        }
+    const std::string_view name = CutOff(line, ' ');
+    if (changes_ && answer.empty() && name == "set") {
+        changes_->Told(CutOff(line, ' '));
+    } else if (changes_ && answer.empty() && name == "board") {
+        changes_->BoardSet();
+    } else if (listener_ && name == "board") {
+        listener_->Lines();
     }
     return answer;
 }

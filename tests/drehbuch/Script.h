@@ -11,6 +11,7 @@
 
 #include "platform/Files.h"
 #include "tests/drehbuch/Changes.h"
+#include "tests/drehbuch/Listener.h"
 #include "ui/layer/Binding.h"
 
 namespace malvone::script {
@@ -53,6 +54,8 @@ public:
 
     // From here on each wait begins with what has changed for a player.
     void TellChanges() { changes_.emplace(); }
+    // ... or with what a screen reader says.
+    void TellSpoken() { listener_.emplace(); }
 
     // Plays the whole program once, from its first statement to its end or to the end of the input.
     void Play(Platform& platform);
@@ -86,6 +89,7 @@ private:
     std::ostream& out_;
     bool inputOver_ = false;
     std::optional<Changes> changes_;
+    std::optional<Listener> listener_;
 
     template<class Object>
     void Hear(const Object& object, Change what)

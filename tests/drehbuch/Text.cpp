@@ -6,6 +6,8 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include "ui/services/Meldungen.h"
+
 namespace malvone::script {
 namespace {
 
@@ -68,6 +70,16 @@ std::string_view CutOff(std::string_view& text, char separator)
     const std::string_view head = text.substr(0, cut);
     text.remove_prefix(cut == std::string_view::npos ? text.size() : cut + 1);
     return head;
+}
+
+std::string WithoutVersion(std::string text)
+{
+    const std::string title = TitelMitVersion();
+    const std::string version = title.substr(title.rfind(' ') + 1);
+    if (const std::size_t at = text.find(version); at != std::string::npos) {
+        text.replace(at, version.size(), "{version}");
+    }
+    return text;
 }
 
 std::string FileNameOf(std::string_view path)

@@ -32,6 +32,9 @@ std::optional<Number> NumberFrom(std::string_view text)
 // Cuts the text at its first separator: what stands before it is returned, the rest stays.
 std::string_view CutOff(std::string_view& text, char separator);
 
+// The same with {version} for the number of this version, so that a new one changes no transcript.
+std::string WithoutVersion(std::string text);
+
 // What lies behind the last backslash of a path; "-" for the empty path.
 std::string FileNameOf(std::string_view path);
 

@@ -12,8 +12,23 @@ namespace {
 
 using malvone::script::Options;
 
+// What is told beside the lines of every script.
+struct Told
+{
+    bool Changes = false;
+    bool Spoken = false;
+};
+
+template<class Number>
+bool ReadNumber(Number& number)
+{
+    const auto read = malvone::script::NumberFrom<Number>(optarg);
+    number = read.value_or(0);
+    return read && *read >= 0;
+}
+
 // What the command line says; false, and a message, where it is not in order.
-bool ReadOptions(int argc, char** argv, Options& options, bool& changes)
+bool ReadOptions(int argc, char** argv, Options& options, Told& told)
 {
     constexpr option kOptions[] = {{"daten", required_argument, nullptr, 'd'},
                                    {"programm", required_argument, nullptr, 'p'},
@@ -21,32 +36,26 @@ bool ReadOptions(int argc, char** argv, Options& options, bool& changes)
                                    {"klanggeraete", required_argument, nullptr, 'k'},
                                    {"clock", required_argument, nullptr, 't'},
                                    {"changes", no_argument, nullptr, 'c'},
+                                   {"spoken", no_argument, nullptr, 's'},
                                    {nullptr, 0, nullptr, 0}};
     opterr = 0;  // one message for all faults, below
     bool good = true;
     for (int name = 0; (name = getopt_long(argc, argv, "", kOptions, nullptr)) != -1;) {
-        const auto count =
-            name == 'k' ? malvone::script::NumberFrom<std::int32_t>(optarg) : std::nullopt;
         switch (name) {
         case 'd': options.Data = optarg; break;
         case 'p': options.Program = optarg; break;
-        case 'c': changes = true; break;
-        case 't':
-            options.ClockNs = malvone::script::NumberFrom<std::uint64_t>(optarg);
-            good = good && options.ClockNs;
-            break;
         case 'o': options.WithoutWindowsFolder = true; break;
-        case 'k':
-            good = good && count && *count >= 0;
-            options.SoundDevices = count.value_or(0);
-            break;
+        case 'k': good = ReadNumber(options.SoundDevices) && good; break;
+        case 't': good = ReadNumber(options.ClockNs.emplace()) && good; break;
+        case 'c': told.Changes = true; break;
+        case 's': told.Spoken = true; break;
         default: good = false;
         }
     }
     good = good && optind == argc && !options.Data.empty() && !options.Program.empty();
     if (!good) {
         std::cerr << "usage: drehbuch --daten DIR --programm DIR [--ohne-windowsordner] "
-                     "[--klanggeraete N] [--changes] [--clock NS]\n";
+                     "[--klanggeraete N] [--changes] [--spoken] [--clock NS]\n";
     }
     return good;
 }
@@ -57,16 +66,19 @@ int main(int argc, char** argv)
 {
     std::signal(SIGXFSZ, SIG_IGN);  // as the game does
     Options options;
-    bool changes = false;
-    if (!ReadOptions(argc, argv, options, changes)) {
+    Told told;
+    if (!ReadOptions(argc, argv, options, told)) {
         return 2;
     }
     std::ios::sync_with_stdio(false);
     std::cin.tie(nullptr);
     malvone::script::ScriptPlatform platform(options, std::cout);
     malvone::script::Script script(std::cin, std::cout);
-    if (changes) {
+    if (told.Changes) {
         script.TellChanges();
+    }
+    if (told.Spoken) {
+        script.TellSpoken();
     }
     script.Play(platform);
     return 0;

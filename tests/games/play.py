@@ -17,6 +17,7 @@ Lines that begin with `#:` are for the player, each in its place: before the pro
 while it waits.
 
     #: plain                      without --changes, as any other program would drive it
+    #: spoken                     with --spoken instead: what a screen reader says
     #: options --klanggeraete 0   further options of the program
     #: restart [OPTIONS]          ends the program by the end of its input and starts it anew
     #: times 4                    the next command is given four times; what is told each time is
@@ -179,6 +180,9 @@ class Play:
 
     def do_plain(self):
         self.changes = ["--clock", "1"]
+
+    def do_spoken(self):
+        self.changes = ["--spoken", "--clock", "1"]
 
     def do_options(self, *options):
         self.options = options
