@@ -6,7 +6,7 @@ malvone_target(malvone)
 target_link_libraries(malvone PRIVATE malvone_core)
 # The program's one stack is put aside while it waits for an event.
 target_link_options(malvone PRIVATE --bind -sENVIRONMENT=web -sASYNCIFY
-    -sASYNCIFY_STACK_SIZE=65536 -sFILESYSTEM=0 -sDYNAMIC_EXECUTION=0)
+    -sASYNCIFY_STACK_SIZE=65536 -sFILESYSTEM=0 -sDYNAMIC_EXECUTION=0 -sMODULARIZE -sEXPORT_NAME=malvone)
 
 find_program(MALVONE_NODE NAMES node nodejs REQUIRED)
 set(web_folder "${PROJECT_SOURCE_DIR}/build/web")

@@ -13,7 +13,7 @@ check_packages=(
     clang clang-format clang-tidy "libclang-rt-dev|libclang-rt-14-dev"
     libgtest-dev libbenchmark-dev
     xvfb xauth openbox fluxbox i3-wm xdotool x11-utils imagemagick
-    pulseaudio pulseaudio-utils chromium
+    pulseaudio pulseaudio-utils chromium firefox-esr webkit2gtk-driver
     at-spi2-core dbus python3-pyatspi
     python3-fonttools poppler-utils
     desktop-file-utils appstream man-db mandoc debhelper lintian

@@ -1,94 +1,73 @@
-// page.test.mjs: the real page in a real browser. Whatever the browser writes to its console fails
-// the test that it comes in.
+// page.test.mjs: the real page in real browsers. Whatever Chromium writes to its console fails the
+// test that it comes in.
 import assert from "node:assert/strict";
 import { spawn } from "node:child_process";
-import { cpSync, mkdirSync, mkdtempSync, readFileSync, rmSync, utimesSync, writeFileSync } from "node:fs";
+import { cpSync, mkdirSync, mkdtempSync, readdirSync, readFileSync, rmSync, symlinkSync, utimesSync, writeFileSync } from "node:fs";
 import { tmpdir } from "node:os";
 import { join } from "node:path";
 import { after, test } from "node:test";
-import puppeteer from "puppeteer-core";
+import { atEnd, chromium, end, firefox, webkit } from "./engines.mjs";
 
 const root = new URL("../..", import.meta.url).pathname;
+const built = join(root, "build/web");
 const limit = { timeout: 60_000 };
-const desktop = { width: 1280, height: 720, deviceScaleFactor: 1 };
-const phone = { width: 667, height: 375, deviceScaleFactor: 2, hasTouch: true, isMobile: true, isLandscape: true };
+const phone = { width: 390, height: 664, deviceScaleFactor: 3, hasTouch: true, isMobile: true };
 const list = "C:\\lindenspiele\\malvone.txt";
 
-const ending = [];
-const end = async () => {
-  for (const step of ending.splice(0).reverse()) await step();
-};
 after(end);
 for (const signal of ["SIGTERM", "SIGINT"]) process.on(signal, () => end().finally(() => process.exit(1)));
 
-const built = join(root, "build/web");
-const serve = async (folder = built) => {
-  const server = spawn(join(root, "tools/serve.py"), [folder, "0"], { stdio: ["ignore", "pipe", "inherit"] });
-  ending.push(() => server.kill());
+const folder = () => {
+  const made = mkdtempSync(join(tmpdir(), "malvone-"));
+  atEnd(() => rmSync(made, { recursive: true, force: true, maxRetries: 5 }));
+  return made;
+};
+const serve = async served => {
+  const server = spawn(join(root, "tools/serve.py"), [served, "0"], { stdio: ["ignore", "pipe", "inherit"] });
+  atEnd(() => server.kill());
   const line = await new Promise(resolve => server.stdout.once("data", resolve));
   return { address: /http\S+/.exec(line)[0], stop: () => server.kill() };
 };
-const launch = async (preferences = {}) => {
-  const profile = mkdtempSync(join(tmpdir(), "malvone-"));
-  mkdirSync(join(profile, "Default"));
-  writeFileSync(join(profile, "Default/Preferences"), JSON.stringify(preferences));
-  const browser = await puppeteer.launch({
-    executablePath: "/usr/bin/chromium", userDataDir: profile, args: ["--no-sandbox", "--autoplay-policy=user-gesture-required"],
-  });
-  ending.push(async () => {
-    await browser.close();
-    rmSync(profile, { recursive: true, force: true, maxRetries: 5 });
-  });
-  return browser;
-};
-const server = await serve();
-const shared = await launch();
+const server = await serve(built);
+const shared = await chromium();
 
-// A page of its own; `prepare` runs before the game starts.
-const open = async (t, { browser, size = desktop, entries = {}, prepare, started = true } = {}) => {
-  const context = browser ? browser.defaultBrowserContext() : await shared.createBrowserContext();
-  const page = await context.newPage();
-  const told = [];
-  page.on("console", message => told.push(message.text()));
-  page.on("pageerror", fault => told.push(String(fault)));
-  page.on("dialog", dialog => dialog.accept());
-  await page.setViewport(size);
-  await page.evaluateOnNewDocument(given => {
-    for (const [name, text] of Object.entries(given)) localStorage[name] ??= text;
-  }, entries);
-  await prepare?.(page);
-  await page.goto(server.address);
-  const game = { page, context, told, ...actions(page) };
-  if (started) await game.sees("frmTessel");
-  t.after(async () => {
-    if (!browser) await context.close();
-    assert.deepEqual(told, []);
-  });
-  return game;
-};
-
-const element = id => `[id="${id}"]`;
-const actions = page => {
-  const at = async id => {
-    const box = await (await page.waitForSelector(element(id), { visible: true, ...limit })).boundingBox();
-    return [box.x + box.width / 2, box.y + box.height / 2];
+// What a player does and sees, in any engine.
+const actions = tab => {
+  const until = async (what, ...given) => {
+    for (const last = Date.now() + limit.timeout; Date.now() < last; await new Promise(done => setTimeout(done, 20))) {
+      const found = await tab.run(what, ...given).catch(() => null);  // the page may just be changing
+      if (found) return found;
+    }
+    throw new Error(`${what} has not come true with ${given} on: ${await tab.run(() => document.body.innerText)}`);
   };
   const game = {
-    sees: id => page.waitForSelector(element(id), { visible: true, ...limit }),
-    gone: id => page.waitForFunction(name => !document.getElementById(name), limit, id),
-    reads: (id, words) => page.waitForFunction((name, text) => document.getElementById(name)?.textContent.includes(text), limit, id, words),
-    name: id => page.$eval(element(id), e => e.ariaLabel),
-    named: (id, words) => page.waitForFunction((name, text) => document.getElementById(name)?.ariaLabel === text, limit, id, words),
-    click: async id => page.mouse.click(...await at(id)),
-    point: async id => page.mouse.move(...await at(id)),
-    tap: async id => page.touchscreen.tap(...await at(id)),
-    press: async keys => {
-      const all = keys.split("+");
-      for (const key of all) await page.keyboard.down(key);
-      for (const key of all.reverse()) await page.keyboard.up(key);
+    until,
+    sees: id => until(name => {
+      const element = document.getElementById(name);
+      return element?.getClientRects().length && element.getBoundingClientRect().toJSON();
+    }, id),
+    gone: id => until(name => !document.getElementById(name), id),
+    reads: (id, words) => until((name, text) => document.getElementById(name)?.textContent.includes(text), id, words),
+    says: words => until(text => document.body.textContent.includes(text), words),
+    name: id => tab.run(of => document.getElementById(of).ariaLabel, id),
+    named: (id, words) => until((name, text) => document.getElementById(name)?.ariaLabel === text, id, words),
+    holds: (id, text) => until((name, value) => document.getElementById(name).value === value, id, text),
+    entry: name => tab.run(key => localStorage[key], name),
+    middle: async id => {
+      const box = await game.sees(id);
+      return [box.x + box.width / 2, box.y + box.height / 2];
     },
-    board: () => page.$$eval('[id^="frmTessel.imgFeld("]', cells => cells.slice(0, 140).map(c => c.ariaLabel.split(", ")[2])),
-    entry: name => page.evaluate(key => localStorage[key], name),
+    // A pointer that already is there has to move all the same.
+    point: async id => {
+      const [x, y] = await game.middle(id);
+      for (const way of [1, 0]) await tab.mouse("move", x + way, y);
+    },
+    click: async id => {
+      await game.point(id);
+      await tab.mouse("down");
+      await tab.mouse("up");
+    },
+    board: () => tab.run(() => [...document.querySelectorAll('[id^="frmTessel.imgFeld("]')].slice(0, 140).map(cell => cell.ariaLabel.split(", ")[2])),
     // A stone with a neighbour of its colour below or to the right, or nothing.
     group: async () => {
       const cells = await game.board();
@@ -102,14 +81,31 @@ const actions = page => {
     },
     // Until the message at its end.
     playLevel: async () => {
-      const cell = await (await game.sees("frmTessel.imgFeld(1)")).boundingBox();
       for (let stone = await game.group(); stone; stone = await game.group()) {
-        const place = Number(/\d+/.exec(stone)) - 1;
-        await page.mouse.click(cell.x + (Math.floor(place / 10) + 0.5) * cell.width, cell.y + (place % 10 + 0.5) * cell.height);
-        if (await page.$(element("frmMsgOk"))) return;
+        await game.click(stone);
+        if (await tab.run(() => document.getElementById("frmMsgOk"))) return;
       }
     },
   };
+  return { ...tab, ...game };
+};
+
+// A game in a tab of its own. `entries` lie in the storage before it starts.
+const open = async (t, { engine = shared, address = server.address, entries = {}, size = { width: 1280, height: 720 }, started = true, ...given } = {}) => {
+  const tab = await engine.tab({ size, ...given });
+  t.after(async () => {
+    await tab.close();
+    assert.deepEqual(tab.told ?? [], []);
+  });
+  const game = actions(tab);
+  await tab.go(address);
+  if (started) await game.sees("frmTessel");
+  if (Object.keys(entries).length) {
+    await tab.run(all => void Object.assign(localStorage, all), entries);
+    await tab.go(address);
+    await game.sees("frmTessel");
+  }
+  await tab.run(() => { Date.now = () => 1; });  // chance draws the same boards in every run
   return game;
 };
 
@@ -124,99 +120,153 @@ test("the server compresses, names what never changes, and refuses what is no na
   assert.equal((await answer("", { "If-None-Match": page.headers.get("ETag") })).status, 304);
 });
 
-test("a level is played by pointer", async t => {
-  const game = await open(t);
-  await game.begin();
-  const stone = await game.group();
-  await game.point(stone);
-  await game.reads("frmTessel.lblSumme", "Dieser Spielzug ergibt");
-  const worth = Number(/\d+/.exec(await game.page.$eval(element("frmTessel.lblSumme"), e => e.textContent)));
-  await game.click(stone);
-  assert.equal(await game.name("frmTessel.Image3"), `Punkte: ${worth}`);
-  await game.playLevel();
-  await game.click("frmMsgOk.lblOk");
-  await game.gone("frmMsgOk");
-});
+// Copies of the page that each have one file that is not as it was built.
+const damage = {
+  missing: () => null,
+  empty: () => "",
+  cut: bytes => bytes.subarray(0, bytes.length / 2),
+  wrong: () => "<!doctype html><title>404</title>",
+};
+const damaged = () => {
+  const copies = folder();
+  for (const file of ["malvone.css", "page.js", "pictures.css", "malvone.js", "malvone.wasm", "index.html"]) {
+    for (const [how, spoil] of Object.entries(damage).filter(([kind]) => file !== "index.html" || kind === "cut")) {
+      mkdirSync(join(copies, `${file}-${how}`));
+      for (const name of readdirSync(built)) {
+        const copy = join(copies, `${file}-${how}`, name);
+        const spoilt = name === file ? spoil(readFileSync(join(built, name))) : undefined;
+        if (spoilt === undefined) symlinkSync(join(built, name), copy);
+        else if (spoilt !== null) writeFileSync(copy, spoilt);
+      }
+    }
+  }
+  return copies;
+};
+const copies = damaged();
+
+for (const [name, engine] of Object.entries({ chromium: async () => shared, firefox, webkit })) {
+  test(`${name} plays a level, takes an entry, keeps it, and tells of every damaged file`, async t => {
+    const low = "Niemand\r\n".repeat(5) + "5\r\n4\r\n3\r\n2\r\n1\r\n";
+    const game = await open(t, { engine: await engine(), entries: { "C:\\lindenspiele\\": "", [list]: low } });
+    await game.begin();
+    const stone = await game.group();
+    await game.point(stone);
+    await game.reads("frmTessel.lblSumme", "Dieser Spielzug ergibt");
+    const worth = /\d+/.exec(await game.run(() => document.getElementById("frmTessel.lblSumme").textContent))[0];
+    await game.click(stone);
+    await game.named("frmTessel.Image3", `Punkte: ${worth}`);
+    await game.click("frmTessel.lblEnde");
+    await game.sees("frmMsgJa");
+    await game.press("Escape");
+    await game.gone("frmMsgJa");
+    for (let level = 2; level <= 5; ++level) await game.press("Enter");
+    await game.playLevel();
+    await game.named("frmTessel.Image4", "Level: 5");
+    await game.click("frmMsgOk.lblOk");
+    await game.reads("frmMsgJa", "eine neue Bestmarke");
+    await game.press("KeyJ");
+    await game.holds("frmBeste.txtSpieler(0)", "Spieler");
+    await game.type("Jörg Müßig, €");
+    await game.holds("frmBeste.txtSpieler(0)", "Jörg Müßig, €");
+    await game.click("frmBeste.cmdEnde");
+    await game.sees("frmMsgJa");
+    assert.match(await game.entry(list), /^J\xf6rg M\xfc\xdfig, \x80\r\nNiemand\r\n/);
+    await game.go(server.address);
+    for (const [width, height] of [[1000, 700], [1500, 800], [480, 760]]) {
+      await game.resize(width, height);
+      await game.until(wide => document.getElementById("frmHintergrund")?.offsetWidth === wide, width);
+      const [window, cell] = [await game.sees("frmTessel"), await game.sees("frmTessel.imgFeld(1)")];
+      for (const length of [window.x, window.y, cell.x, cell.width, cell.height]) assert.equal(length, Math.round(length));
+      assert.ok(window.width >= 0.95 * width || window.height >= 0.95 * height);
+    }
+    const { address } = await serve(copies);
+    for (const [i, copy] of readdirSync(copies).entries()) {
+      if (name !== "chromium" && i % 5 !== 0) continue;  // each file once, and each kind of damage
+      await game.go(`${address}${copy}/`);
+      await game.says("Eine seiner Dateien fehlt oder ist beschädigt");
+      assert.deepEqual(await game.run(() => document.activeElement.textContent), "Noch einmal beginnen", copy);
+      assert.equal(await game.run(() => navigator.locks.query().then(({ held }) => held.length)), 0, copy);
+    }
+    game.told?.splice(0);  // Chromium tells of the damaged files, as it should
+  });
+}
 
 test("messages are answered by pointer, key and touch, and move", async t => {
-  const game = await open(t, { size: { ...desktop, hasTouch: true } });
-  const ask = () => game.click("frmTessel.lblEnde");
-  await ask();
-  const box = async id => (await game.sees(id)).boundingBox();
-  const [before, title] = [await box("frmMsgJa"), await box("frmMsgJa.lblName")];
+  const game = await open(t, { size: { width: 1280, height: 720, hasTouch: true } });
+  await game.click("frmTessel.lblEnde");
+  const before = await game.sees("frmMsgJa");
+  const [x, y] = await game.middle("frmMsgJa.lblName");
   await game.point("frmMsgJa.lblName");
-  await game.page.mouse.down();
-  await game.page.mouse.move(title.x + title.width / 2 + 60, title.y + 40, { steps: 4 });
-  await game.page.mouse.up();
-  assert.ok((await box("frmMsgJa")).x > before.x + 40);
-  assert.equal(await game.page.$eval(element("frmMsgJa"), e => getComputedStyle(e, "::before").content), "none");
+  await game.mouse("down");
+  for (const way of [0.5, 1]) await game.mouse("move", x + 60 * way, y + 40 * way);
+  await game.mouse("up");
+  await game.until(left => document.getElementById("frmMsgJa").getBoundingClientRect().x > left, before.x + 40);
+  assert.equal(await game.run(() => getComputedStyle(document.getElementById("frmMsgJa"), "::before").content), "none");
   await game.press("Escape");
   await game.gone("frmMsgJa");
-  await ask();
-  await game.tap("frmMsgJa.lblNein");
+  await game.click("frmTessel.lblEnde");
+  await game.page.touchscreen.tap(...await game.middle("frmMsgJa.lblNein"));
   await game.gone("frmMsgJa");
-  await ask();
+  await game.click("frmTessel.lblEnde");
   await game.click("frmMsgJa.lblJa");
-  await game.reads("notice", "Das Spiel ist beendet.");
-  await game.click("again");
+  await game.says("Das Spiel ist beendet.");
+  assert.equal(await game.run(() => document.querySelector("h1").textContent), "Malvone");
+  await game.press("Enter");  // the button has the focus
   await game.sees("frmTessel");
 });
 
-test("a finger points first and takes then", async t => {
+test("a finger points first and takes then, on a telephone held upright too", async t => {
   const game = await open(t, { size: phone });
-  const all = await (await game.sees("frmTessel")).boundingBox();
-  assert.ok(all.x >= 0 && all.y >= 0 && all.x + all.width <= phone.width && all.y + all.height <= phone.height);
-  await game.tap("frmTessel.lblNeu");
+  const tap = async id => game.page.touchscreen.tap(...await game.middle(id));
+  await tap("frmTessel.lblNeu");
   await game.named("frmTessel.Image4", "Level: 1");
   const stone = await game.group();
-  await game.tap(stone);
+  await tap(stone);
   await game.reads("frmTessel.lblSumme", "ergibt");
   assert.equal(await game.name("frmTessel.Image3"), "Punkte: 0");
-  await game.tap(stone);
-  await game.page.waitForFunction(() => document.getElementById("frmTessel.Image3").ariaLabel !== "Punkte: 0", limit);
+  await tap(stone);
+  await game.until(() => document.getElementById("frmTessel.Image3").ariaLabel !== "Punkte: 0");
 });
 
-test("an entry is typed, kept as the file's bytes and found again by keyboard alone", async t => {
+test("the game is played and an entry made by keyboard alone", async t => {
   const low = "Niemand\r\n".repeat(5) + "5\r\n4\r\n3\r\n2\r\n1\r\n";
   const game = await open(t, { entries: { "C:\\lindenspiele\\": "", [list]: low } });
   await game.press("Alt+KeyS");
+  await game.sees("frmTessel.mnuTessel(1)");
   await game.press("Enter");
+  await game.reads("news", "Neues Spiel.");
   for (let level = 2; level <= 5; ++level) await game.press("Enter");
   await game.playLevel();
-  assert.equal(await game.name("frmTessel.Image4"), "Level: 5");
-  await game.sees("frmMsgOk");
+  await game.named("frmTessel.Image4", "Level: 5");
   await game.press("Escape");
   await game.reads("frmMsgJa", "eine neue Bestmarke");
   await game.press("KeyJ");
-  await game.sees("frmBeste");
   const box = "frmBeste.txtSpieler(0)";
-  const holds = name => game.page.waitForFunction((id, text) => document.getElementById(id).value === text, limit, box, name);
-  const given = await game.page.$eval(element(box), e => e.value);
+  await game.holds(box, "Spieler");
   await game.page.keyboard.sendCharacter("中文");  // as a paste does: it comes at once
-  await holds(given);
-  await game.page.keyboard.type("Jörg 中Müßig, €");
-  await holds("Jörg Müßig, €");
+  await game.holds(box, "Spieler");
+  await game.type("Jörg 中Müßig");
+  await game.holds(box, "Jörg Müßig");
   await game.press("Tab");
-  while (await game.page.evaluate(() => document.activeElement.id !== "frmBeste.cmdEnde")) await game.press("Tab");
+  while (await game.run(() => document.activeElement.id !== "frmBeste.cmdEnde")) await game.press("Tab");
   await game.press("Enter");
-  await game.page.waitForFunction(key => localStorage[key].includes("rg M"), limit, list);
-  assert.match(await game.entry(list), /^J\xf6rg M\xfc\xdfig, \x80\r\nNiemand\r\n/);
+  await game.until(key => localStorage[key].includes("rg M"), list);
   await game.page.reload();
   await game.sees("frmTessel");
   await game.press("Alt+KeyI");
   await game.press("ArrowUp");
   await game.press("Enter");
   await game.sees("frmBeste");
-  assert.equal(await game.page.$eval(element("frmBeste.txtSpieler(0)"), e => e.value), "Jörg Müßig, €");
+  await game.holds(box, "Jörg Müßig");
 });
 
 test("arrow keys play, and a screen reader hears what is seen", async t => {
   const game = await open(t);
-  await game.click("frmTessel.lblNeu");
+  await game.begin();
   const stone = Number(/\d+/.exec(await game.group())) - 1;
   for (let i = 0; i < 1 + Math.floor(stone / 10); ++i) await game.press("ArrowRight");
   for (let i = 9; i > stone % 10; --i) await game.press("ArrowUp");
-  assert.equal(await game.page.evaluate(() => document.activeElement.id), `frmTessel.imgFeld(${stone + 1})`);
+  assert.equal(await game.run(() => document.activeElement.id), `frmTessel.imgFeld(${stone + 1})`);
   await game.press("Delete");
   await game.reads("news", "Steine entfernt");
   await game.press("Control+KeyE");
@@ -233,7 +283,7 @@ test("arrow keys play, and a screen reader hears what is seen", async t => {
 
 test("a storage that is full, cleared or forbidden gives the game's own messages", async t => {
   const full = await open(t, { entries: { "C:\\lindenspiele\\": "", [list]: "" } });
-  await full.page.evaluate(() => {
+  await full.run(() => {
     for (let size = 1 << 22; size >= 1; size >>= 1) {
       try {
         for (let i = 0; ; ++i) localStorage[`x${size}.${i}`] = "x".repeat(size);
@@ -243,54 +293,68 @@ test("a storage that is full, cleared or forbidden gives the game's own messages
   await full.click("frmTessel.lblNeu");
   await full.reads("frmMsgOk", "»tessel.ini«");
   await full.press("Escape");
-  await full.page.evaluate(() => localStorage.clear());
+  await full.run(() => localStorage.clear());
   for (const key of ["Alt+KeyI", "ArrowUp", "Enter"]) await full.press(key);
   await full.reads("frmMsgOk", "konnten nicht gelesen werden");
-  const guarded = await launch({ profile: { default_content_setting_values: { cookies: 2 } } });
-  const forbidden = await open(t, { browser: guarded, started: false });
+  const profile = folder();
+  mkdirSync(join(profile, "Default"));
+  writeFileSync(join(profile, "Default/Preferences"), '{"profile":{"default_content_setting_values":{"cookies":2}}}');
+  const forbidden = await open(t, { engine: await chromium({ userDataDir: profile }), started: false, own: false });
   await forbidden.reads("frmMsgOk", "Festplatte");
   await forbidden.press("Escape");
   await forbidden.begin();
 });
 
-test("one page of a browser has the game", async t => {
+test("one page of a browser has the game; another takes it over or waits for it", async t => {
   const first = await open(t);
-  const second = await first.context.newPage();
-  await second.goto(server.address);
-  const other = actions(second);
-  await other.reads("notice", "schon in einem anderen");
-  await first.page.close();
-  await other.sees("frmTessel");
+  const page = await first.context.newPage();
+  const second = actions({ run: (what, ...given) => page.evaluate(what, ...given) });
+  await page.goto(server.address);
+  await second.says("schon in einem anderen");
+  await page.click("button");
+  await second.sees("frmTessel");
+  await first.says("läuft jetzt in einem anderen");
+  await first.page.reload();
+  await first.says("schon in einem anderen");
+  await page.close();
+  await first.sees("frmTessel");
 });
 
-// Requests for a part of the page go another way.
-const divert = (part, way) => async page => {
-  await page.setRequestInterception(true);
-  page.on("request", request => (request.url().includes(part) ? way(request) : request.continue()));
-};
+test("only the program's own fault ends the game", async t => {
+  const game = await open(t);
+  await game.run(() => { Promise.reject(new Error("somebody else's")); });
+  await game.begin();
+  await game.run(() => page.push({ kind: 5 }));  // no kind of event
+  await game.says("fehlt oder ist beschädigt");
+  assert.equal(game.told.splice(0).length, 2);
+});
 
 test("the first picture is the game's, and is seen before the program is there", limit, async t => {
   let hold;
   const held = new Promise(resolve => { hold = resolve; });
-  const game = await open(t, { started: false, prepare: divert("malvone.js", hold) });
-  await game.page.waitForSelector("#first svg", { visible: true, ...limit });
-  const box = async selector => (await (await game.page.waitForSelector(selector, { visible: true, ...limit })).boundingBox());
-  const before = await box("#first .Window");
-  const words = await game.page.$eval("#first .Window", e => e.innerText);
-  assert.match(words, /Klicken Sie auf »Neues Spiel«/);
+  const game = await open(t, {
+    started: false, size: { width: 1111, height: 777 }, prepare: async page => {
+      await page.setRequestInterception(true);
+      page.on("request", request => (request.url().includes("malvone.js") ? hold(request) : request.continue()));
+    },
+  });
+  const boxes = (...names) => game.run(all => all.map(name => document.querySelector(name).getBoundingClientRect().toJSON()), names);
+  await game.until(() => document.querySelector("#first svg"));
+  const before = await boxes("#first .Window", "#first .PictureBox");
+  assert.match(await game.run(() => document.querySelector("#first").innerText), /Klicken Sie auf »Neues Spiel«/);
   (await held).continue();
-  assert.deepEqual(await box(element("frmTessel")), before);
-  assert.equal(await game.page.$("#first"), null);
+  await game.sees("frmTessel");
+  assert.deepEqual(await boxes("#frmTessel", "#frmTessel .PictureBox"), before);
+  assert.equal(await game.run(() => document.querySelector("#first")), null);
 });
 
-test("bad luck is told in a sentence", async t => {
-  for (const part of [".wasm", "malvone.js", "pictures.css", "malvone.css"]) {
-    const game = await open(t, { started: false, prepare: divert(part, request => request.abort()) });
-    await game.reads("notice", "Eine seiner Dateien fehlt");
-    game.told.length = 0;  // the browser tells of the missing file, as it should
-  }
+test("without scripts, and from a folder, the page says what it needs", async t => {
   const silent = await open(t, { started: false, prepare: page => page.setJavaScriptEnabled(false) });
-  await silent.page.waitForFunction(() => document.body.innerText.includes("braucht JavaScript"), limit);
+  await silent.says("braucht JavaScript");
+  const page = await shared.browser.newPage();
+  await page.goto(`file://${built}/index.html`);
+  await actions({ run: (what, ...given) => page.evaluate(what, ...given) }).says("nur von einem Webserver");
+  await page.close();
 });
 
 // Width, height and ratio of screens, from walls to telephones that are held upright.
@@ -300,15 +364,14 @@ const screens = [
   [667, 375, 2], [568, 320, 2], [820, 1180, 2], [412, 732, 2.625], [390, 664, 3], [375, 553, 2],
 ];
 test("the game is as large as the screen allows, and sharp", async t => {
-  const { page } = await open(t);
-  for (const [width, height, deviceScaleFactor] of screens) {
-    await page.setViewport({ width, height, deviceScaleFactor });
-    await page.waitForFunction(wide => document.getElementById("frmHintergrund").offsetWidth === wide, limit, width);
-    const [window, cell, bar] = await page.evaluate(() => ["frmTessel", "frmTessel.imgFeld(1)", "frmTessel menu"]
-      .map(id => document.getElementById(id).getBoundingClientRect().toJSON()));
-    const text = `${width} x ${height} at ${deviceScaleFactor}`;
+  const game = await open(t);
+  for (const [width, height, ratio] of screens) {
+    await game.resize(width, height, ratio);
+    await game.until(wide => document.getElementById("frmHintergrund").offsetWidth === wide, width);
+    const [window, cell, bar] = await Promise.all(["frmTessel", "frmTessel.imgFeld(1)", "frmTessel menu"].map(game.sees));
+    const text = `${width} x ${height} at ${ratio}`;
     for (const length of [window.left, window.top, window.width, cell.left, cell.top, cell.width, cell.height]) {
-      assert.ok(Math.abs(length * deviceScaleFactor - Math.round(length * deviceScaleFactor)) < 0.05, `${text}: ${length}`);
+      assert.ok(Math.abs(length * ratio - Math.round(length * ratio)) < 0.05, `${text}: ${length}`);
     }
     assert.ok(window.left >= 0 && window.top >= 0 && window.right <= width && window.bottom <= height, text);
     const upright = 3 * height > 4 * width;
@@ -319,38 +382,37 @@ test("the game is as large as the screen allows, and sharp", async t => {
 });
 
 test("after one visit the game needs no network", async t => {
-  const own = await serve();
-  const page = await (await shared.createBrowserContext()).newPage();
-  await page.goto(own.address);
-  await page.evaluate(() => navigator.serviceWorker.ready);
-  await page.waitForFunction(() => caches.keys().then(names => names.length === 1), limit);
+  const own = await serve(built);
+  const game = await open(t, { address: own.address });
+  await game.run(() => navigator.serviceWorker.ready.then(() => true));
   own.stop();
-  await page.reload();
-  await actions(page).sees("frmTessel");
+  for (const name of ["", "index.html", "?utm_source=x"]) {
+    await game.go(own.address + name);
+    await game.sees("frmTessel");
+  }
+  for (const name of ["WHOOSH.WAV", "Malvone.pdf"]) assert.ok(await game.run(file => fetch(file).then(({ ok }) => ok), name), name);
 });
 
 test("a new version plays from the next start on", async t => {
-  const folder = mkdtempSync(join(tmpdir(), "malvone-"));
-  ending.push(() => rmSync(folder, { recursive: true, force: true }));
-  cpSync(built, folder, { recursive: true });
+  const served = folder();
+  cpSync(built, served, { recursive: true });
   // A browser keeps an old file for long where the server does not say how long.
-  utimesSync(join(folder, "index.html"), 1, 1);
-  const page = await (await shared.createBrowserContext()).newPage();
-  const only = name => page.waitForFunction(kept => caches.keys().then(names => names.join() === kept), limit, name);
-  await page.goto((await serve(folder)).address);
-  const [, mark] = /const build = "malvone-(\w+)"/.exec(readFileSync(join(folder, "worker.js"), "utf8"));
-  await page.evaluate(() => navigator.serviceWorker.ready);
+  utimesSync(join(served, "index.html"), 1, 1);
+  const game = await open(t, { address: (await serve(served)).address });
+  const only = name => game.until(kept => caches.keys().then(names => names.join() === kept), name);
+  const [, mark] = /const build = "malvone-(\w+)"/.exec(readFileSync(join(served, "worker.js"), "utf8"));
+  await game.run(() => navigator.serviceWorker.ready.then(() => true));
   await only(`malvone-${mark}`);
   for (const name of ["index.html", "worker.js"]) {
-    const text = readFileSync(join(folder, name), "utf8");
-    writeFileSync(join(folder, name), text.replaceAll(mark, "next").replace("<body", '<body class="next"'));
+    const text = readFileSync(join(served, name), "utf8");
+    writeFileSync(join(served, name), text.replaceAll(mark, "next").replace("<body", '<body class="next"'));
   }
-  await page.reload();
+  await game.page.reload();
   await only("malvone-next");
-  await page.reload();
-  await actions(page).sees("frmTessel");
-  assert.equal(await page.evaluate(() => document.body.className), "next");
-  assert.ok(await page.evaluate(() => document.querySelector("[src]").src.endsWith("?next")));
+  await game.page.reload();
+  await game.sees("frmTessel");
+  assert.equal(await game.run(() => document.body.className), "next");
+  assert.ok(await game.run(() => document.querySelector("[src]").src.endsWith("?next")));
 });
 
 test("no sound plays before the first gesture; a new one cuts the old one; a manual opens beside the game", async t => {
@@ -370,8 +432,8 @@ test("no sound plays before the first gesture; a new one cuts the old one; a man
       };
     }),
   });
-  assert.deepEqual(await game.page.evaluate(() => heard), []);
-  const hears = sound => game.page.waitForFunction(text => heard.at(-1) === text, limit, sound);
+  assert.deepEqual(await game.run(() => heard), []);
+  const hears = sound => game.until(text => heard.at(-1) === text, sound);
   await game.click("frmTessel.lblEnde");
   await hears("CHIMES.WAV 1");
   await game.press("Escape");

@@ -35,16 +35,19 @@ write("pictures.css", pictures.map(file => {
 
 // What is asked for carries the mark of its build, so that files of two builds never meet.
 const start = `\n${text(part("start.js"))}`;
-const sum = createHash("sha256").update(start);
+const sha256 = content => createHash("sha256").update(content);
+const integrity = name => `sha256-${sha256(readFileSync(join(out, name))).digest("base64")}`;
+const sum = sha256(start);
 for (const name of ["index.html.in", "worker.js.in"]) sum.update(text(part(name)));
 sum.update(first.markup);
 for (const name of readdirSync(out).sort()) sum.update(readFileSync(join(out, name)));
 const build = sum.digest("hex").slice(0, 12);
 const marked = ["page.js", "malvone.css", "pictures.css", "malvone.js", "malvone.wasm"].map(name => `${name}?${build}`);
 const values = {
-  BUILD: build, BESIDE: beside.join(" "), FIRST: first.markup, START: start,
-  START_SUM: `'sha256-${createHash("sha256").update(start).digest("base64")}'`,
-  FILES: [...marked, "malvone.svg", "malvone.webmanifest"].join(" "),
+  BUILD: build, FIRST: first.markup, START: start, BESIDE: beside.join(" "),
+  FILES: [...marked, "malvone.svg", "malvone.webmanifest", ...beside].join(" "),
+  START_SUM: `'sha256-${sha256(start).digest("base64")}'`, STYLE_SUM: integrity("malvone.css"),
+  PAGE_SUM: integrity("page.js"), PICTURES_SUM: integrity("pictures.css"), PROGRAM_SUM: integrity("malvone.js"),
 };
 for (const name of ["index.html", "worker.js"]) {
   write(name, text(part(`${name}.in`)).replace(/@MALVONE_(\w+)@/g, (_, value) => values[value]));

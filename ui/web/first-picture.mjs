@@ -26,11 +26,11 @@ const listen = folder => new Promise((resolve, reject) => {
   };
   const context = vm.createContext({
     page: new Proxy(told, { get: (all, name) => all[name] ?? (() => {}) }),
-    Module: {}, document: { currentScript: { src: "" } }, console, performance, TextDecoder, setTimeout, clearTimeout,
-    fetch: async () => new Response(readFileSync(`${folder}/malvone.wasm`), { headers: { "Content-Type": "application/wasm" } }),
+    document: { currentScript: { src: "" } }, console, performance, TextDecoder, setTimeout, clearTimeout,
   });
   context.window = context;
   vm.runInContext(readFileSync(`${folder}/malvone.js`, "utf8"), context);
+  context.malvone({ wasmBinary: readFileSync(`${folder}/malvone.wasm`) });
   setTimeout(() => reject(new Error("The program does not come to its first picture.")), 60_000).unref();
 });
 

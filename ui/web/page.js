@@ -3,6 +3,7 @@
 
 const byId = id => document.getElementById(id);
 const screenBox = byId("screen");
+const { src, dataset: given } = document.currentScript;
 
 const make = (tag, className, parent, id = "") => {
   const element = document.createElement(tag);
@@ -69,6 +70,7 @@ var page = {
   // Events. While somebody waits, the next one is taken at once.
   queue: [],
   push(event) {
+    if (start.over) return;
     const last = this.queue.at(-1);
     if (last?.kind === event.kind && last.target === event.target) {
       if (event.kind === "move") this.queue.pop();  // only the latest place counts
@@ -78,11 +80,18 @@ var page = {
     this.wake?.();
   },
   async nextEvent(gameRuns) {
-    byId("first")?.remove();
+    if (!start.plays) this.shown();
     this.gameRuns = gameRuns;
     if (!this.queue.length) await new Promise(wake => { this.wake = wake; });
     this.wake = null;
     return { target: "", ...this.queue.shift() };
+  },
+  // The program has come to its first picture.
+  shown() {
+    start.plays = true;
+    byId("first").remove();
+    byId("news").textContent = "";
+    navigator.serviceWorker?.register("worker.js").catch(() => {});
   },
   timers: {},
   timer(id, interval) {
@@ -103,7 +112,7 @@ var page = {
   // Files: entries of the browser's storage; what lies in the program's folder lives as long as the
   // page. Numbers are those of the program's file faults. A page that does not know what an entry
   // holds by now does not write it: where the browser has no locks, another page may have.
-  beside: Object.fromEntries(document.body.dataset.files.split(" ").map(name => ["P:\\" + name, ""])),
+  beside: Object.fromEntries(given.beside.split(" ").map(name => ["P:\\" + name, ""])),
   known: {},
   entries(name) { return name.startsWith("P:") ? this.beside : localStorage; },
   storageAllowed() {
@@ -137,40 +146,7 @@ var page = {
     } catch { /* nobody looks at the outcome */ }
   },
 
-  // Sentences in the place of the game.
-  notice(text) {
-    this.over = true;
-    byId("first")?.remove();
-    this.release?.();
-    screenBox.hidden = true;
-    byId("notice").textContent = text;
-    byId("notice").hidden = byId("again").hidden = false;
-  },
-  end() { this.notice("Das Spiel ist beendet."); },
-  fail() {
-    page.notice(typeof WebAssembly === "object"
-      ? "Das Spiel kann nicht laufen: Eine seiner Dateien fehlt oder ist beschädigt."
-      : "Dieser Browser kann das Spiel nicht ausführen: WebAssembly fehlt oder ist abgeschaltet.");
-  },
-
-  // One page of a browser has the game, so that lists never mix; the others wait for it.
-  begin() {
-    addRunDependency("the game");
-    const own = () => new Promise(release => {
-      page.release = release;
-      byId("notice").hidden = true;
-      pictures.then(() => removeRunDependency("the game"));
-    });
-    if (!navigator.locks) return own();
-    navigator.locks.request("malvone", { ifAvailable: true }, free => {
-      if (free) return own();
-      byId("first").remove();
-      byId("notice").textContent = "Malvone ist schon in einem anderen Fenster oder Reiter geöffnet. " +
-        "Wird es dort beendet, beginnt es hier.";
-      navigator.locks.request("malvone", own);
-      return null;
-    }).catch(own);  // a browser that forbids the storage forbids locks too
-  },
+  end() { start.tell("Das Spiel ist beendet."); },
 };
 
 // The list behind an entry is open while the focus is on the entry or in the list. The program
@@ -276,7 +252,7 @@ for (const type of ["input", "compositionend", "focusin"]) {
 
 addEventListener("keydown", event => {
   const here = document.activeElement;
-  if (page.over || event.isComposing || event.getModifierState("AltGraph") || menu.key(event)) return;
+  if (start.over || event.isComposing || event.getModifierState("AltGraph") || menu.key(event)) return;
   if (event.key === "Enter" || event.key === " ") {
     if (here.matches("button")) return;
     if (here.matches("[role=button][tabindex='0']")) {
@@ -298,40 +274,66 @@ addEventListener("resize", () => {
   start.fit();
   page.push({ kind: "resize" });
 });
-addEventListener("beforeunload", event => { if (page.gameRuns && !page.over) event.preventDefault(); });
-addEventListener("unhandledrejection", () => page.fail());
-byId("again").onclick = () => location.reload();
+addEventListener("beforeunload", event => { if (page.gameRuns && !start.over) event.preventDefault(); });
 
-const build = document.currentScript.src.replace(/^[^?]*/, "");
-var Module = { locateFile: name => name + build, onAbort: page.fail, preRun: [page.begin] };
-
-// What the game needs, while the picture that the page has come with is seen. Every picture is ready
-// before a control shows it.
-const fetchPart = (tag, parts, after = () => {}) => {
-  const part = make(tag, "", document.head);
-  part.onload = after;
-  part.onerror = page.fail;
-  Object.assign(part, parts);
-};
-let picturesReady;
-const pictures = new Promise(ready => { picturesReady = ready; });
-const stockPictures = () => {
-  for (const rule of [...document.styleSheets].at(-1).cssRules) {
-    const picture = /data-picture="?([^"\]]+)/.exec(rule.selectorText);
+// What the game needs comes while the picture that the page has come with is seen. Every picture is
+// drawn once before a control shows it.
+const build = src.replace(/^[^?]*/, "");
+const load = (tag, properties) => new Promise(onload => Object.assign(make(tag, "", document.head), { onload, ...properties }));
+const stock = ({ target }) => {
+  for (const { selectorText } of target.sheet.cssRules) {
+    const picture = /data-picture="?([^"\]]+)/.exec(selectorText);
     if (picture) make("i", "", byId("stock")).dataset.picture = picture[1];
   }
-  picturesReady();
 };
-const loadGame = () => {
-  fetchPart("link", { rel: "stylesheet", href: "pictures.css" + build }, stockPictures);
-  fetchPart("script", { src: "malvone.js" + build });
-  navigator.serviceWorker?.register("worker.js").catch(() => {});
+const loadGame = async () => {
+  const [module] = await Promise.all([
+    WebAssembly.compileStreaming(fetch("malvone.wasm" + build)),
+    load("link", { integrity: given.pictures, rel: "stylesheet", href: "pictures.css" + build }).then(stock),
+    load("script", { integrity: given.program, src: "malvone.js" + build }),
+  ]);
+  return module;
 };
 
-if (getComputedStyle(screenBox).position !== "fixed") {
-  page.fail();
-  throw new Error("The style sheet is missing.");
+// One page of a browser has the game, so that lists never mix; the others wait for it or take it over.
+const takeOver = () => {
+  history.replaceState("take over", "");
+  location.reload();
+};
+const begin = module => {
+  const play = () => new Promise(release => {
+    start.release = release;
+    malvone({
+      onAbort: () => start.fail(),
+      instantiateWasm(imports, ready) {
+        WebAssembly.instantiate(module, imports).then(ready);
+        return {};
+      },
+    });
+  });
+  const elsewhere = words => start.tell(words, "Hier weiterspielen", takeOver);
+  const mode = history.state === "take over" ? { steal: true } : { ifAvailable: true };
+  history.replaceState(null, "");
+  if (!navigator.locks) return play();
+  return navigator.locks.request("malvone", mode, free => {
+    if (free) return play();
+    elsewhere("Malvone ist schon in einem anderen Fenster oder Reiter geöffnet. Wird es dort beendet, beginnt es hier.");
+    navigator.locks.request("malvone", () => location.reload());
+    return null;
+  }).catch(fault => {
+    if (fault.name !== "AbortError") return play();  // a browser that forbids the storage forbids locks too
+    return elsewhere("Malvone läuft jetzt in einem anderen Fenster oder Reiter.");
+  });
+};
+
+const run = () => loadGame().then(begin, () => start.fail());
+if (typeof WebAssembly !== "object") {
+  start.tell("Dieser Browser kann das Spiel nicht ausführen: WebAssembly fehlt oder ist abgeschaltet.");
+} else if (document.hidden || !PerformanceObserver.supportedEntryTypes.includes("paint")) {
+  run();  // a page that nobody sees paints nothing
+} else {
+  new PerformanceObserver((_, observer) => {
+    observer.disconnect();
+    run();
+  }).observe({ type: "paint", buffered: true });
 }
-// A page that nobody sees paints nothing.
-if (document.hidden || !PerformanceObserver.supportedEntryTypes.includes("paint")) loadGame();
-else new PerformanceObserver((_, observer) => { observer.disconnect(); loadGame(); }).observe({ type: "paint", buffered: true });

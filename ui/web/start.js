@@ -1,10 +1,11 @@
 // start.js: what stands in the page itself, to be there before any other file: how large the game is
-// drawn. Cells are whole device pixels at every size.
+// drawn, and a sentence for the player in place of a game that cannot run.
 const start = {
   // The ways to lay out the main window: width and height of its client area in twips. The upright
   // one is for telephones; where its parts lie, first-picture.mjs says.
   layouts: [[11325, 6945], [7125, 10480]],
 
+  // Cells are whole device pixels at every size.
   fit() {
     const { clientWidth, clientHeight, style, classList } = document.documentElement;
     const whole = length => Math.floor(length * devicePixelRatio + 1e-6) / devicePixelRatio;
@@ -26,5 +27,32 @@ const start = {
     };
     for (const [name, value] of Object.entries(told)) style.setProperty(`--${name}`, value);
   },
+
+  // The first sentence stays. Whoever has the game gives it up.
+  tell(words, label = "Noch einmal beginnen", act = () => location.reload()) {
+    if (this.over) return;
+    this.over = true;
+    this.release?.();
+    const show = () => {
+      document.body.innerHTML = '<main id="notice"><h1>Malvone</h1><p role="alert"></p><button></button></main>';
+      document.querySelector("p").textContent = words;
+      const button = document.querySelector("button");
+      Object.assign(button, { textContent: label, onclick: act }).focus();
+    };
+    if (document.readyState === "loading") addEventListener("DOMContentLoaded", show);
+    else show();
+  },
+  fail() { this.tell("Das Spiel kann nicht laufen: Eine seiner Dateien fehlt oder ist beschädigt."); },
 };
 start.fit();
+if (location.protocol === "file:") {
+  start.tell("Ein Browser lädt die Dateien des Spiels nicht aus einem Ordner, sondern nur von einem Webserver. " +
+    "»./play --browser« startet einen.");
+}
+// A part of the game does not come, or not as it was built, or cannot be read by this browser.
+addEventListener("error", ({ target, filename }) => {
+  if (target.integrity || (!start.plays && /\/(page|malvone)\.js/.test(filename))) start.fail();
+}, true);
+// Others may have scripts on the page too; only the program's own fault ends it.
+addEventListener("unhandledrejection", ({ reason }) => { if (/(page|malvone)\.(js|wasm)/.test(reason?.stack)) start.fail(); });
+addEventListener("DOMContentLoaded", () => { if (!document.getElementById("stock")) start.fail(); });
