@@ -2,8 +2,8 @@
 // and takes the name of a new entry.
 #include "ui/windows/FrmBeste.h"
 
-#include <algorithm>
 #include <cmath>
+#include <string>
 
 #include "platform/CodePage.h"
 #include "state/Pfade.h"
@@ -12,7 +12,6 @@
 #include "ui/layer/Keys.h"
 #include "ui/services/Handbuch.h"
 #include "ui/services/Meldungen.h"
-#include "ui/windows/FrmDigital.h"
 
 namespace malvone {
 
@@ -21,8 +20,6 @@ namespace {
 constexpr Meldungstext kAlleLoeschen = {
     "\r\nSind Sie sicher,\r\ndass Sie alle Einträge löschen möchten?",
     "\r\n»Einträge löschen« bestätigen"};
-
-constexpr std::int32_t kGroesste = 9999999;  // the greatest number that has room in a row
 
 constexpr Twips kNamenLeft = 1300;
 constexpr Twips kNamenTop = 750;
@@ -35,8 +32,8 @@ void FrmBeste::Form_Load()
     cmdTessel.Visible = true;
     shpTessel.Visible = true;
     ZeilenAnordnen();
-    for (int stelle = 0; stelle < kPlaetze * kZiffernJePlatz; ++stelle) {
-        imgDiggi(stelle).Picture = frmDigital->imgDiggi(kZifferLeer).Picture;
+    for (Ziffernreihe& reihe : Punkte) {
+        reihe.Zeigen("");
     }
     BesteLesen();
 }
@@ -103,28 +100,19 @@ void FrmBeste::FelderSperren()
 void FrmBeste::PunkteAnzeigen()
 {
     for (int platz = 0; platz < kPlaetze; ++platz) {
-        const int einer = platz * kZiffernJePlatz;
-        for (int stelle = einer; stelle < einer + kZiffernJePlatz; ++stelle) {
-            imgDiggi(stelle).Picture = frmDigital->imgDiggi(kZifferLeer).Picture;
-        }
+        Ziffernreihe& reihe = Punkte[static_cast<std::size_t>(platz)];
+        const std::int32_t punkte = PunkteDesPlatzes(platz);
         // By design (leere-ziffer): one would expect a 0 here. A row whose points are 0 stays dark,
         // unlike the displays of the main window. Test: BesteFenster.ARowShowsItsPoints
-        const std::int32_t punkte = PunkteDesPlatzes(platz);
         if (punkte == 0) {
+            reihe.Zeigen("");
             continue;
         }
         // By design (siebte-stelle): one would expect seven digits to be seen. The first of them
         // lies in a place that is never visible. More than seven digits have no room: nines in
         // every place say "at least". Test: BesteFenster.ARowShowsItsPoints
-        const std::string text =
-            punkte > kGroesste ? std::string(kZiffernJePlatz, '9') : lstPunkte.List(platz);
-        const int laenge = static_cast<int>(std::min<std::size_t>(text.size(), kZiffernJePlatz));
-        for (int k = 0; k < laenge; ++k) {
-            const char zeichen = text[text.size() - 1 - static_cast<std::size_t>(k)];
-            if (zeichen >= '0' && zeichen <= '9') {
-                imgDiggi(einer + k).Picture = frmDigital->imgDiggi(zeichen - '0').Picture;
-            }
-        }
+        const std::int32_t groesste = reihe.Groesste();
+        reihe.Zeigen(punkte > groesste ? std::to_string(groesste) : lstPunkte.List(platz));
     }
 }
 

@@ -190,7 +190,7 @@ std::string Changes::PropertyLines(Window& window)
     }
     // Pictures of cells and digits are told by the board and by the displays.
     for (const Spoken& spoken : SpokenOn(window)) {
-        std::vector<const Visual*> told(spoken.Digits.begin(), spoken.Digits.end());
+        std::vector<const Visual*> told(spoken.Digits().begin(), spoken.Digits().end());
         if (spoken.Kind == SpokenKind::Cell) {
             told.push_back(spoken.Where);
         }
@@ -224,14 +224,14 @@ std::string Changes::PropertyLines(Window& window)
 }
 
 // Dark places before the first digit say nothing.
-std::string Changes::NumberOn(const std::vector<const Image*>& digits) const
+std::string Changes::NumberOn(const Ziffernreihe& display) const
 {
     constexpr std::string_view kBank = "frmDigital.imgDiggi(";
     std::string number;
-    for (const Image* const place : digits) {
-        const std::string_view picture = Known(*place, ".Picture");
+    for (auto place = display.Stellen().rbegin(); place != display.Stellen().rend(); ++place) {
+        const std::string_view picture = Known(**place, ".Picture");
         const bool dark = picture == "frmDigital.imgDiggi(10)";
-        if (Known(*place, ".Visible") == "True" && !(dark && number.empty())) {
+        if (Known(**place, ".Visible") == "True" && !(dark && number.empty())) {
             const bool digit = picture.starts_with(kBank) && picture.size() == kBank.size() + 2;
             number += dark ? '_' : digit ? picture[kBank.size()] : '?';
         }
@@ -243,10 +243,9 @@ std::string Changes::DisplayLine(Window& window)
 {
     std::string line;
     for (const Spoken& spoken : SpokenOn(window)) {
-        const std::string name(spoken.Painted);
-        const std::string number = spoken.Digits.empty() ? "" : NumberOn(spoken.Digits);
-        if (!spoken.Digits.empty() && std::exchange(displays_[name], number) != number) {
-            line += (line.empty() ? "~ " : ", ") + name + ": " + number;
+        const std::string number = spoken.Display == nullptr ? "" : NumberOn(*spoken.Display);
+        if (std::exchange(displays_[spoken.Painted], number) != number) {
+            line += (line.empty() ? "~ " : ", ") + spoken.Painted + ": " + number;
         }
     }
     return line.empty() ? "" : line + "\n";

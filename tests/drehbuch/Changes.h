@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "ui/layer/Window.h"
+#include "ui/windows/Ziffernreihe.h"
 
 namespace malvone::script {
 
@@ -50,7 +51,7 @@ private:
                  std::vector<Line>& lines);
     std::string PropertyLines(Window& window);
     std::string DisplayLine(Window& window);
-    std::string NumberOn(const std::vector<const Image*>& digits) const;
+    std::string NumberOn(const Ziffernreihe& display) const;
     std::string BoardLines();
 };
 

@@ -2,7 +2,6 @@
 #include "ui/services/Spoken.h"
 
 #include <algorithm>
-#include <charconv>
 #include <utility>
 
 #include "state/Spielstand.h"
@@ -17,19 +16,9 @@ namespace {
 constexpr std::array<std::string_view, kFarben + 1> kFarbnamen = {"leer", "orange", "hellgrün",
                                                                   "gelb", "himmelblau"};
 
-// Index n of a display holds the digit of weight ten to the n.
-std::vector<const Image*> Row(const ControlArray<Image>& places, IndexRange range)
+Spoken Row(Visual& where, const Ziffernreihe& row)
 {
-    std::vector<const Image*> row;
-    for (int index = range.Last; index >= range.First; --index) {
-        row.push_back(&places(index));
-    }
-    return row;
-}
-
-std::vector<const Image*> Row(const ControlArray<Image>& places)
-{
-    return Row(places, {0, places.End() - 1});
+    return {SpokenKind::Words, &where, row.Name(), &row};
 }
 
 std::vector<Spoken> On(FrmTessel& window)
@@ -39,9 +28,9 @@ std::vector<Spoken> On(FrmTessel& window)
         {Words, &window.Label1(0)},
         {Button, &window.lblHilfe, "Hilfe"},
         {Button, &window.lblInfo, "Info"},
-        {Words, &window.Image3, "Punkte", Row(window.imgDiggiPunkte)},
-        {Words, &window.Image6, "Levelpunkte", Row(window.imgDiggiLevelPunkte)},
-        {Words, &window.Image4, "Level", Row(window.imgDiggiLevel)},
+        Row(window.Image3, window.Punkte),
+        Row(window.Image6, window.LevelPunkte),
+        Row(window.Image4, window.Level),
         {Button, &window.lblNeu, "Neues Spiel"},
         {Button, &window.lblEnde, "Beenden"},
     };
@@ -79,18 +68,12 @@ std::vector<Spoken> On(FrmMsgJa& window)
 std::vector<Spoken> On(FrmBeste& window)
 {
     using enum SpokenKind;
-    constexpr std::array<std::string_view, kPlaetze> names = {
-        "Name, Platz 1", "Name, Platz 2", "Name, Platz 3", "Name, Platz 4", "Name, Platz 5"};
-    constexpr std::array<std::string_view, kPlaetze> points = {"Punkte, Platz 1", "Punkte, Platz 2",
-                                                               "Punkte, Platz 3", "Punkte, Platz 4",
-                                                               "Punkte, Platz 5"};
     std::vector<Spoken> all = {{Words, &window.Label1}, {Words, &window.Label2}};
-    for (int place = 0; place < kPlaetze; ++place) {
-        const auto row = static_cast<std::size_t>(place);
-        const int units = place * kZiffernJePlatz;
-        all.push_back({NameBox, &window.txtSpieler(place), names[row]});
-        all.push_back({Words, &window.imgDiggi(units), points[row],
-                       Row(window.imgDiggi, {units, units + kZiffernJePlatz - 1})});
+    for (int platz = 0; platz < kPlaetze; ++platz) {
+        const std::string number = std::to_string(platz + 1);
+        all.push_back({NameBox, &window.txtSpieler(platz), "Name, Platz " + number});
+        all.push_back(Row(window.imgDiggi(platz * kZiffernJePlatz),
+                          window.Punkte[static_cast<std::size_t>(platz)]));
     }
     all.push_back({Button, &window.lblTessel, "Einträge löschen"});
     all.push_back({Button, &window.cmdEnde, "OK"});
@@ -115,18 +98,6 @@ std::string OneLine(std::string_view text)
     return line;
 }
 
-// The pictures of digits are called "frmDigital.imgDiggi(0)" to "(9)"; "(10)" is the dark place.
-std::string Digit(const Image& place)
-{
-    const std::string_view name = place.Picture->Name();
-    const std::size_t open = name.find('(');
-    int digit = 10;
-    if (place.Visible && open != std::string_view::npos) {
-        std::from_chars(name.data() + open + 1, name.data() + name.size(), digit);
-    }
-    return digit <= 9 ? std::to_string(digit) : std::string();
-}
-
 std::string CellName(const Visual& cell)
 {
     const std::int32_t colour = cell.Tag->Number();
@@ -142,6 +113,11 @@ std::ptrdiff_t Stones(const std::array<std::int32_t, kZellen>& board)
 }
 
 }  // namespace
+
+std::span<Image* const> Spoken::Digits() const
+{
+    return Display == nullptr ? std::span<Image* const>() : Display->Stellen();
+}
 
 std::vector<Spoken> SpokenOn(const Window& window)
 {
@@ -166,14 +142,11 @@ std::string NameOf(const Spoken& spoken)
         label != nullptr && spoken.Painted.empty()) {
         return OneLine(label->Caption.Get());
     }
-    if (spoken.Digits.empty()) {
-        return std::string(spoken.Painted);
+    if (spoken.Display == nullptr) {
+        return spoken.Painted;
     }
-    std::string number;
-    for (const Image* const place : spoken.Digits) {
-        number += Digit(*place);
-    }
-    return std::string(spoken.Painted) + ": " + (number.empty() ? "dunkel" : number);
+    const std::string number = spoken.Display->Gezeigt();
+    return spoken.Painted + ": " + (number.empty() ? "dunkel" : number);
 }
 
 std::string DescriptionOf(const Spoken& spoken)

@@ -13,12 +13,13 @@
 
 #include <array>
 #include <cstdint>
+#include <span>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "state/Zellen.h"
 #include "ui/layer/Window.h"
+#include "ui/windows/Ziffernreihe.h"
 
 namespace malvone {
 
@@ -32,9 +33,12 @@ enum class SpokenKind {
 struct Spoken
 {
     SpokenKind Kind = SpokenKind::Words;
-    Visual* Where = nullptr;                // the place on the window, and what a press presses
-    std::string_view Painted = {};          // the words in its picture; empty: it has a caption
-    std::vector<const Image*> Digits = {};  // from the highest place to the units
+    Visual* Where = nullptr;   // where it stands on the window, and what a press presses
+    std::string Painted = {};  // the words in its picture; empty: it has a caption
+    const Ziffernreihe* Display = nullptr;  // the row of digits that it names
+
+    // The places of the row, from the units upward; empty where it is none.
+    std::span<Image* const> Digits() const;
 };
 
 // Everything on a window that has words, in reading order. Empty for the backdrop.

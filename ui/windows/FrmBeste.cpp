@@ -1,6 +1,8 @@
 // FrmBeste.cpp: places, looks and words of the best-players window.
 #include "ui/windows/FrmBeste.h"
 
+#include <string>
+
 #include "ui/windows/Design.h"
 #include "ui/windows/Pictures.h"
 
@@ -61,6 +63,12 @@ FrmBeste::FrmBeste() : Window("frmBeste", 5130, 4845)
     for (int i = 0; i < txtSpieler.End(); ++i) {
         txtSpieler(i).Text = "Text1";
         txtSpieler(i).TextFont = Font{"Arial", 12.0F, true};
+    }
+
+    for (int platz = 0; platz < kPlaetze; ++platz) {
+        const int einer = platz * kZiffernJePlatz;
+        Punkte.emplace_back("Punkte, Platz " + std::to_string(platz + 1), imgDiggi,
+                            IndexRange{einer, einer + kZiffernJePlatz - 1});
     }
 
     // All rows start at the place of the first units digit; loading arranges them.

@@ -1,7 +1,10 @@
 // FrmBeste.h: the best-players window, which also holds the list in memory.
 #pragma once
 
+#include <vector>
+
 #include "ui/layer/Instance.h"
+#include "ui/windows/Ziffernreihe.h"
 
 namespace malvone {
 
@@ -29,6 +32,8 @@ public:
     Label Label1{Named("Label1")};
     Line Line2{Named("Line2")};
     Line Line1{Named("Line1")};
+
+    std::vector<Ziffernreihe> Punkte;  // one row for each place of the list
 
     void Form_Load() override;
     void Form_Activate() override;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "ui/layer/Instance.h"
+#include "ui/windows/Ziffernreihe.h"
 
 namespace malvone {
 
@@ -32,7 +33,6 @@ public:
     Image imgNochEinmal{Named("imgNochEinmal")};
     Image lblInfo{Named("lblInfo")};
     Image lblHilfe{Named("lblHilfe")};
-    // Index n of a display holds the digit of weight ten to the n.
     ControlArray<Image> imgDiggiLevel{Named("imgDiggiLevel"), IndexRange{0, 1}};
     Image Image4{Named("Image4")};
     ControlArray<Image> imgDiggiPunkte{Named("imgDiggiPunkte"), IndexRange{0, 4}};
@@ -49,6 +49,10 @@ public:
     ControlArray<Image> imgDiggiLevelPunkte{Named("imgDiggiLevelPunkte"), IndexRange{0, 3}};
     Image Image6{Named("Image6")};
     Image Image1{Named("Image1")};
+
+    Ziffernreihe Punkte{"Punkte", imgDiggiPunkte};
+    Ziffernreihe LevelPunkte{"Levelpunkte", imgDiggiLevelPunkte};
+    Ziffernreihe Level{"Level", imgDiggiLevel};
 
     std::int16_t PfeilPhase = 0;  // 0 or 1: the look of the blinking arrow
 

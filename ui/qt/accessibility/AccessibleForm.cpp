@@ -54,7 +54,7 @@ QRect AccessiblePart::rect() const
         return {};
     }
     QRectF place = PlaceOf(*part_.Where);
-    for (const Image* const digit : part_.Digits) {
+    for (const Image* const digit : part_.Digits()) {
         place |= digit->Visible ? PlaceOf(*digit) : QRectF();
     }
     const QRect pixels = OnScreen(form->DesignScale().ToWindow(place), 1);
@@ -192,7 +192,7 @@ QAccessibleInterface* AccessibleForm::InterfaceOf(const Visual* visual) const
 {
     const std::vector<Node>& nodes = Nodes();
     const auto found = std::find_if(nodes.begin(), nodes.end(), [visual](const Node& node) {
-        const std::vector<const Image*>& digits = node.Part.Digits;
+        const std::span<Image* const> digits = node.Part.Digits();
         return node.Part.Where == visual ||
                std::find(digits.begin(), digits.end(), visual) != digits.end();
     });
