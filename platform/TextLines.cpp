@@ -46,7 +46,7 @@ void LineCollector::EndLine()
     line_.clear();
 }
 
-ReadLines LinesOf(std::string_view content, std::size_t count)
+ReadLines FirstLines(std::string_view content, std::size_t count)
 {
     ReadLines result;
     LineCollector collector(count, result.Lines);

@@ -37,7 +37,7 @@ private:
 };
 
 // The first lines of a whole file, and the same way back.
-ReadLines LinesOf(std::string_view content, std::size_t count);
+ReadLines FirstLines(std::string_view content, std::size_t count);
 std::string FileContent(const std::vector<std::string>& lines);
 
 // The name under which a file that was not read whole is kept; the player reads it.

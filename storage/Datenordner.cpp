@@ -1,7 +1,6 @@
 // Datenordner.cpp: asks the platform for the data folder.
 #include "storage/Datenordner.h"
 
-#include "state/Pfade.h"
 #include "ui/layer/App.h"
 #include "ui/services/Klaenge.h"
 #include "ui/services/Meldungen.h"

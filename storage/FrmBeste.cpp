@@ -6,9 +6,8 @@
 #include <string>
 
 #include "platform/CodePage.h"
-#include "state/Pfade.h"
+#include "state/Beste.h"
 #include "storage/modBeste.h"
-#include "ui/layer/App.h"
 #include "ui/layer/Keys.h"
 #include "ui/services/Handbuch.h"
 #include "ui/services/Meldungen.h"

@@ -7,8 +7,8 @@
 
 namespace malvone {
 
-// A signed 32-bit number in decimal: digits with an optional sign, blanks around it are let pass.
-// Anything else, and any number out of range, is none.
+// A signed number of 32 or 16 bits: decimal digits with an optional sign, with or without blanks
+// around them. Anything else, and any number out of range, is none.
 std::optional<std::int32_t> Zahl32(std::string_view text);
 std::optional<std::int16_t> Zahl16(std::string_view text);
 

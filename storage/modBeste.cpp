@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <vector>
 
+#include "state/Beste.h"
 #include "state/Pfade.h"
 #include "state/Spielstand.h"
 #include "storage/Zahlen.h"

@@ -4,8 +4,6 @@
 #include <cstdint>
 #include <string>
 
-#include "state/Beste.h"
-
 namespace malvone {
 
 std::string BesteDatei();

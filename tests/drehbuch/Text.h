@@ -1,11 +1,11 @@
 // Text.h: how the script program writes texts and numbers on its lines, and how it reads them.
 #pragma once
 
-#include <charconv>
 #include <optional>
 #include <string>
 #include <string_view>
 
+#include "ui/layer/Number.h"
 #include "ui/layer/Units.h"
 
 namespace malvone::script {
@@ -18,16 +18,6 @@ std::string Unmasked(std::string_view text);
 // Shortest form that reads back as the same number, never with an exponent.
 std::string TwipsText(Twips value);
 std::optional<Twips> TwipsFrom(std::string_view text);  // finite numbers only
-
-// A whole number in plain decimal digits that fits its type and is all of the text.
-template<class Number>
-std::optional<Number> NumberFrom(std::string_view text)
-{
-    Number number{};
-    const auto [stop, fault] = std::from_chars(text.data(), text.data() + text.size(), number);
-    const bool whole = fault == std::errc() && stop == text.data() + text.size();
-    return whole ? std::optional(number) : std::nullopt;
-}
 
 // Cuts the text at its first separator: what stands before it is returned, the rest stays.
 std::string_view CutOff(std::string_view& text, char separator);

@@ -22,7 +22,7 @@ struct Told
 template<class Number>
 bool ReadNumber(Number& number)
 {
-    const auto read = malvone::script::NumberFrom<Number>(optarg);
+    const auto read = malvone::NumberFrom<Number>(optarg);
     number = read.value_or(0);
     return read && *read >= 0;
 }

@@ -1,8 +1,6 @@
 // App.cpp: the program from its beginning to its end, modal loops, and events from outside.
 #include "ui/layer/App.h"
 
-#include <algorithm>
-
 #include "Version.h"
 #include "ui/layer/Instance.h"
 #include "ui/layer/PointerRouting.h"
@@ -16,7 +14,7 @@ Application::Application() : Major(kVersionMajor), Minor(kVersionMinor), Revisio
 
 Application::~Application() = default;
 
-void Application::Begin(Binding& binding, Platform& platform)
+void Application::Begin(malvone::Binding& binding, Platform& platform)
 {
     Finish();
     binding_ = &binding;
@@ -101,11 +99,6 @@ bool RaiseTimer(Timer& timer)
     const EventScope scope;
     timer.Tick.Raise(timer.Index());
     return true;
-}
-
-bool RaiseMenuClick(MenuEntry& entry)
-{
-    return RaiseClick(entry);
 }
 
 bool RaiseClick(Control& control)

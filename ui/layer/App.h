@@ -28,7 +28,7 @@ public:
 
     // Ties the program to a binding and a platform, which have to outlive Finish. All windows are
     // unloaded and nothing has ended.
-    void Begin(Binding& binding, Platform& platform);
+    void Begin(malvone::Binding& binding, Platform& platform);
     // Destroys all windows without any event. For the end of the process, and between two runs in
     // one process.
     void Finish();
@@ -38,7 +38,7 @@ public:
     void Ende();
     bool Ended() const { return ended_; }
 
-    Binding& Screen() const { return *binding_; }
+    malvone::Binding& Binding() const { return *binding_; }
     Platform& System() const { return *platform_; }
 
     // The topmost modal window, null where none is up.
@@ -55,7 +55,7 @@ private:
     friend class InstanceBase;
     friend class EventScope;
 
-    Binding* binding_ = nullptr;
+    malvone::Binding* binding_ = nullptr;
     Platform* platform_ = nullptr;
     bool ended_ = false;
     int depth_ = 0;
@@ -72,11 +72,8 @@ struct ScreenObject
 {
     struct Extent
     {
-        Twips (Binding::*Ask)();
-        operator Twips() const
-        {
-            return (App.Screen().*Ask)();
-        }  // NOLINT(google-explicit-constructor)
+        Twips (Binding::*Size)();
+        operator Twips() const { return (App.Binding().*Size)(); }
     };
     Extent Width{&Binding::ScreenWidth};
     Extent Height{&Binding::ScreenHeight};
@@ -96,7 +93,6 @@ public:
 
 // Events from outside. Each returns false, and does nothing, where its target takes no input.
 bool RaiseTimer(Timer& timer);
-bool RaiseMenuClick(MenuEntry& entry);
 bool RaiseClick(Control& control);
 bool RaiseActivate(Window& window);
 bool RaiseClose(Window& window);

@@ -1,12 +1,12 @@
 // Control.cpp: places, reach and change of controls.
 #include "ui/layer/Control.h"
 
-#include <charconv>
 #include <utility>
 
 #include "ui/layer/App.h"
 #include "ui/layer/Binding.h"
 #include "ui/layer/Controls.h"
+#include "ui/layer/Number.h"
 #include "ui/layer/Window.h"
 
 namespace malvone {
@@ -35,26 +35,20 @@ bool Control::Reachable() const
 void Control::Changed(Change what)
 {
     if (owner_.instance_ != nullptr && !App.Ended()) {
-        App.Screen().ControlChanged(*this, what);
+        App.Binding().ControlChanged(*this, what);
     }
 }
 
 void Control::TellAdded()
 {
     if (owner_.instance_ != nullptr && !App.Ended()) {
-        App.Screen().ControlAdded(*this);
+        App.Binding().ControlAdded(*this);
     }
 }
 
-TagText::TagText(std::string text) : text_(std::move(text))
-{
-    const char* const end = text_.data() + text_.size();
-    std::int32_t number = 0;
-    const auto [stop, fault] = std::from_chars(text_.data(), end, number);
-    if (fault == std::errc() && stop == end) {
-        number_ = number;
-    }
-}
+TagText::TagText(std::string text)
+    : text_(std::move(text)), number_(NumberFrom<std::int32_t>(text_).value_or(0))
+{}
 
 TagText::TagText(const char* text) : TagText(std::string(text)) {}
 

@@ -41,7 +41,7 @@ void InstanceBase::Announce(Window& window)
     if (App.Ended()) {
         return;
     }
-    App.Screen().WindowLoaded(window);
+    App.Binding().WindowLoaded(window);
     window.Form_Load();
 }
 

@@ -99,7 +99,7 @@ void Window::SetFocus(Visual* control)
     }
     focus_ = control;
     if (instance_ != nullptr && !App.Ended()) {
-        App.Screen().FocusChanged(*this);
+        App.Binding().FocusChanged(*this);
     }
 }
 
@@ -111,7 +111,7 @@ bool Window::Modal() const
 void Window::Drag()
 {
     LetGo(*this);
-    App.Screen().DragWindow(*this);
+    App.Binding().DragWindow(*this);
 }
 
 void Window::Move(Twips left, Twips top)
@@ -140,7 +140,7 @@ void Window::Show(ShowMode mode)
     if (focus_ == nullptr) {
         SetFocus(InitialFocus());
     }
-    App.Screen().WindowShown(*this, mode);
+    App.Binding().WindowShown(*this, mode);
     Form_Activate();
     if (mode == ShowMode::Modal) {
         App.RunModal(*this);
@@ -155,7 +155,7 @@ void Window::Hide()
     shown_ = false;
     LetGo(*this);
     focus_ = nullptr;  // whoever shows it again begins with the designed focus
-    App.Screen().WindowHidden(*this);
+    App.Binding().WindowHidden(*this);
 }
 
 bool Window::Unload(UnloadMode mode)
@@ -174,7 +174,7 @@ bool Window::Unload(UnloadMode mode)
         return true;  // the handler has ended the program, or unloaded the window by itself
     }
     shown_ = false;
-    App.Screen().WindowUnloaded(*this);
+    App.Binding().WindowUnloaded(*this);
     App.gone_.push_back(instance_->Release());
     instance_ = nullptr;
     return true;
@@ -200,7 +200,7 @@ void Window::Form_MouseMove(const Mouse& mouse)
 void Window::Changed(Change what)
 {
     if (instance_ != nullptr && !App.Ended()) {
-        App.Screen().WindowChanged(*this, what);
+        App.Binding().WindowChanged(*this, what);
     }
 }
 

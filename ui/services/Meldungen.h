@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "ui/layer/Window.h"
+#include "ui/layer/Units.h"
 
 namespace malvone {
 

@@ -2,7 +2,6 @@
 #include "ui/services/Spoken.h"
 
 #include <algorithm>
-#include <utility>
 
 #include "state/Spielstand.h"
 #include "ui/windows/FrmBeste.h"

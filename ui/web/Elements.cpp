@@ -41,7 +41,7 @@ public:
         text_ += '\x1e';
         return *this;
     }
-    Properties& Place(Twips left, Twips top, Twips width, Twips height)
+    Properties& Bounds(Twips left, Twips top, Twips width, Twips height)
     {
         return (*this)("--left", left)("--top", top)("--width", width)("--height", height);
     }
@@ -148,7 +148,7 @@ const char* Describe(const Visual& visual, Properties& element)
     if (const auto* const line = dynamic_cast<const Line*>(&visual)) {
         const auto [left, right] = std::minmax<Twips>(line->X1, line->X2);
         const auto [top, bottom] = std::minmax<Twips>(line->Y1, line->Y2);
-        element.Place(left, top, right - left + kTwipsPerPixel, bottom - top + kTwipsPerPixel);
+        element.Bounds(left, top, right - left + kTwipsPerPixel, bottom - top + kTwipsPerPixel);
         element("--ground", Css(line->BorderColor));
         return "Line";
     }
@@ -160,7 +160,7 @@ void PutVisual(const Visual& visual)
     const std::vector<Visual*>& all = visual.Owner().FrontToBack();
     Properties element;
     element("--level", std::distance(std::find(all.begin(), all.end(), &visual), all.end()));
-    element.Place(visual.WindowLeft(), visual.WindowTop(), visual.Width, visual.Height);
+    element.Bounds(visual.WindowLeft(), visual.WindowTop(), visual.Width, visual.Height);
     element("hidden", !visual.Seen())("title", visual.ToolTipText.Get());
     element("data-hand", visual.MousePointer == Pointer::Hand);
     element("data-highlight", visual.Owner().Highlighted() == &visual);
@@ -190,7 +190,7 @@ void Put(const Window& window, int level)
 {
     Properties element;
     element("--level", level)("data-bar", Above(window) > 0)("--across", window.Picture->Width());
-    element.Place(window.Left, window.Top, window.Width, window.Height);
+    element.Bounds(window.Left, window.Top, window.Width, window.Height);
     element("--ground", Css(window.BackColor));
     const bool main = window.Role == WindowRole::Main;
     const bool message = window.Role == WindowRole::Message;

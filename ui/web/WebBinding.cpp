@@ -169,7 +169,7 @@ void WebBinding::Used(Control& control, const std::string& kind, const val& even
     if (auto* const timer = dynamic_cast<Timer*>(&control)) {
         RaiseTimer(*timer);
     } else if (auto* const entry = dynamic_cast<MenuEntry*>(&control)) {
-        RaiseMenuClick(*entry);
+        RaiseClick(*entry);
     } else if (kind == "press") {
         Press(dynamic_cast<Visual&>(control));
     } else if (auto& box = dynamic_cast<TextBox&>(control); App.TakesInput(box.Owner())) {

@@ -74,7 +74,7 @@ void WebPlatform::DeleteFileA(const std::string& path)
 ReadLines WebPlatform::ReadTextLines(const std::string& path, std::size_t count)
 {
     const std::optional<std::string> content = ReadEntry(path);
-    return content ? LinesOf(*content, count) : ReadLines{FileFault::NotFound, {}};
+    return content ? FirstLines(*content, count) : ReadLines{FileFault::NotFound, {}};
 }
 
 FileFault WebPlatform::WriteTextLines(const std::string& path,

@@ -9,7 +9,7 @@
 namespace malvone::design {
 
 // Left, Top, Width, Height in twips, from the corner of the container or of the client area.
-struct Place
+struct Bounds
 {
     Visual& control;
     Twips left;
@@ -50,9 +50,9 @@ struct Entry
     Key shortcut;
 };
 
-inline void Apply(std::span<const Place> rows)
+inline void Apply(std::span<const Bounds> rows)
 {
-    for (const Place& row : rows) {
+    for (const Bounds& row : rows) {
         row.control.Move(row.left, row.top, row.width, row.height);
     }
 }

@@ -17,7 +17,7 @@ FrmBeste::FrmBeste() : Window("frmBeste", 5130, 4845)
     Picture = PictureNamed("frmBeste");
     Icon = PictureNamed("frmBeste.Icon");
 
-    const design::Place places[] = {
+    const design::Bounds bounds[] = {
         {cmdTessel, 8550, 3660, 2205, 495},      //
         {lstPunkte, 9150, 60, 825, 2205},        //
         {lstName, 8940, 90, 825, 2205},          //
@@ -52,7 +52,7 @@ FrmBeste::FrmBeste() : Window("frmBeste", 5130, 4845)
         {cmdEnde, "frmBeste.cmdEnde"},
         {lblTessel, "frmBeste.lblTessel"},
     };
-    design::Apply(places);
+    design::Apply(bounds);
     design::Apply(looks);
     design::Apply(tips);
     design::Apply(pictures);

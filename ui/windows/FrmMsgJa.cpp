@@ -17,7 +17,7 @@ FrmMsgJa::FrmMsgJa() : Window("frmMsgJa", 5880, 3540)
     Picture1.Border = true;
     Image1.Stretch = true;
 
-    const design::Place places[] = {
+    const design::Bounds bounds[] = {
         {Picture1, 60, 750, 5745, 2025},   //
         {lblTitel, 120, 990, 5505, 945},   //
         {lblMeldung, 120, 30, 5475, 825},  //
@@ -40,7 +40,7 @@ FrmMsgJa::FrmMsgJa() : Window("frmMsgJa", 5880, 3540)
         {lblJa, Pointer::Hand, "Bestätigen"},
     };
     const design::Shows pictures[] = {{Image1, "frmMsgJa.Image1"}};
-    design::Apply(places);
+    design::Apply(bounds);
     design::Apply(looks);
     design::Apply(tips);
     design::Apply(pictures);

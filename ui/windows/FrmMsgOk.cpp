@@ -17,7 +17,7 @@ FrmMsgOk::FrmMsgOk() : Window("frmMsgOk", 5805, 3420)
     Picture1.Border = true;
     Image2.Stretch = true;
 
-    const design::Place places[] = {
+    const design::Bounds bounds[] = {
         {Picture1, 60, 780, 5655, 2025},  //
         {lblTitel, 30, 990, 5505, 945},   //
         {lblMeldung, 30, 60, 5445, 825},  //
@@ -38,7 +38,7 @@ FrmMsgOk::FrmMsgOk() : Window("frmMsgOk", 5805, 3420)
         {lblOk, Pointer::Hand, "Fenster schließen"},
     };
     const design::Shows pictures[] = {{Image2, "frmMsgOk.Image2"}};
-    design::Apply(places);
+    design::Apply(bounds);
     design::Apply(looks);
     design::Apply(tips);
     design::Apply(pictures);

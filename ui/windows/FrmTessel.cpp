@@ -35,7 +35,7 @@ FrmTessel::~FrmTessel() = default;
 
 void FrmTessel::PlaceControls()
 {
-    const design::Place places[] = {
+    const design::Bounds bounds[] = {
         {Picture1, 3750, 150, 6945, 5055},               //
         {imgFeld(0), 420, 570, 495, 495},                //
         {cmdSchalt(3), 11700, 270, 1425, 435},           //
@@ -71,7 +71,7 @@ void FrmTessel::PlaceControls()
         {Image6, 120, 3660, 2865, 630},                  //
         {Image1, 60, 5190, 3000, 1440},                  //
     };
-    design::Apply(places);
+    design::Apply(bounds);
 }
 
 void FrmTessel::SetLooks()

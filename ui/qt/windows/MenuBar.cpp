@@ -124,7 +124,7 @@ void MenuBar::Chosen(MenuEntry& entry)
     if (window_ == nullptr) {
         return;
     }
-    RaiseMenuClick(entry);
+    RaiseClick(entry);
     // Qt has toggled the mark of a checked entry; the model decides whether it is to go.
     if (window_ != nullptr) {
         Follow(entry);
