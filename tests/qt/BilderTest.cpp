@@ -97,15 +97,6 @@ TEST(Bilder, APictureIsRenderedOnceForEachSize)
     EXPECT_EQ(pixels(32), first);
 }
 
-TEST(Bilder, ACellsEmptyTileHidesWhatLiesBehindIt)
-{
-    PictureStore store;
-    const QImage tile = store.Get(PictureNamed("frmBilder.imgGrund"), QSize(32, 32));
-    for (int at = 0; at < 32; ++at) {
-        EXPECT_EQ(tile.pixelColor(at, 31 - at).alpha(), 255);
-    }
-}
-
 TEST(Bilder, TheHandPointsWithItsFingerTip)
 {
     for (const double ratio : {1.0, 1.5, 2.0}) {

@@ -60,17 +60,6 @@ void ExpectWholeWords(const Label& label)
 
 using Texte = Spieltisch;
 
-TEST_F(Texte, FontsKeepTheSizeOfTheDesign)
-{
-    EXPECT_EQ(ToQFont(Font{"Arial", 9.75F, true}).pixelSize(), 13);
-    EXPECT_EQ(ToQFont(Font{"Arial", 14.25F, false}).pixelSize(), 19);
-}
-
-TEST_F(Texte, AllWordsAreSetInOneFace)
-{
-    EXPECT_EQ(ToQFont(frmBeste->Label1.TextFont).family(), ToQFont(Font()).family());
-}
-
 TEST_F(Texte, EveryMessageFitsItsLabels)
 {
     const std::set<std::string> texts = TextsOfMessages();
@@ -103,25 +92,6 @@ TEST_F(Texte, EveryTextOfTheMainWindowFits)
     frmMsgJa->Form_Activate();
     ExpectFits(frmMsgOk->lblName);
     ExpectFits(frmMsgJa->lblName);
-}
-
-TEST_F(Texte, ALabelTooLowMovesItsLinesTogetherAndCutsNoWord)
-{
-    Label& label = frmMsgOk->lblTitel;
-    label.Caption = "eins\r\nzwei\r\ndrei\r\nvier\r\nfünf";
-    ASSERT_EQ(BreakIntoLines(label).Lines.size(), 5U);
-    const double natural = BreakIntoLines(label).Height;
-    label.Height = ToTwips(natural - 12);
-    EXPECT_NEAR(BreakIntoLines(label).Height, natural - 12, 0.1);
-}
-
-TEST_F(Texte, LinesAreCentredOneByOne)
-{
-    Label& label = frmMsgOk->lblMeldung;
-    label.Caption = "lang und breit\r\nkurz";
-    for (const TextLine& line : BreakIntoLines(label).Lines) {
-        EXPECT_NEAR(line.Baseline.x() + line.Width / 2, ToPixels(label.Width) / 2, 0.51);
-    }
 }
 
 }  // namespace
