@@ -1,4 +1,4 @@
-// AllesnachLinks.h: what follows gravity: closing columns, and whether a move is left.
+// AllesnachLinks.h: what comes after gravity: closing columns, and whether a move is left.
 #pragma once
 
 #include "ui/layer/Units.h"

@@ -8,7 +8,7 @@
 namespace malvone {
 namespace {
 
-// As the pass runs from top to bottom, all that lies above a gap is closed up already.
+// The pass runs from top to bottom, so everything above a gap is closed up already.
 void SpalteFallenLassen(int oberste, int unterste)
 {
     for (int i = oberste; i <= unterste; ++i) {

@@ -3,8 +3,8 @@
 
 namespace malvone {
 
-// Closes every gap within every column: stones fall down and keep their order. Then repaints the
-// whole board, whether anything has moved or not. Marks stay where they are.
+// Closes all gaps within the columns: stones fall and keep their order. Then repaints the whole
+// board, whether anything moved or not. Marks stay where they are.
 void SteineFallenLassen();
 
 }  // namespace malvone

@@ -9,8 +9,9 @@
 namespace malvone {
 namespace {
 
-// One of these runs: cells from the first to the last by a step; each gives its mark to neighbours
-// of its colour, then takes one from marked neighbours, at the offsets named in that order.
+// A run visits cells from the first to the last in steps. Each cell passes its mark on to
+// neighbours of its colour, then takes one over from marked neighbours, at the given offsets in
+// their order.
 struct Lauf
 {
     int Erste;
@@ -56,7 +57,7 @@ constexpr int kGibtDrei[] = {kRechts, kTief, kHoch};  // the first column has no
 constexpr int kSeiten[] = {kRechts, kLinks};
 constexpr std::span<const int> kNichts;
 
-// The first runs go down one column each, rows 2 to 9, from the middle of the board outward; the
+// The first runs go down one column each, rows 2 to 9, from the middle of the board outwards; the
 // others go along one row each, from the second column to the thirteenth.
 constexpr Lauf kLaeufe[] = {
     {62, 69, 1, kGibtVier, kNimmtVier},    // 1

@@ -1,4 +1,4 @@
-// SteuereBilder.cpp: what is marked, how it looks and what it is worth.
+// SteuereBilder.cpp: what is marked, how it looks, and what it is worth.
 #include "board/SteuereBilder.h"
 
 #include <cmath>
@@ -17,7 +17,7 @@ namespace {
 constexpr Colour kDunkelblau = 0x00C00000;
 constexpr Colour kRot = 255;
 
-// Set when a test to the side finds the colour, also where the neighbour was marked already.
+// Set when a test to the side finds the colour, even if the neighbour was marked already.
 bool RechtsGefunden = false;
 bool LinksGefunden = false;
 
@@ -129,7 +129,7 @@ bool HatBild(std::int32_t wert)
     return wert >= 0 && wert <= kFarben;
 }
 
-// As all marked cells have just become empty, no mark is left behind.
+// All marked cells have just been emptied, so no mark is left behind.
 void LeereZellenEntmarken()
 {
     for (int i = 1; i <= kZellen; ++i) {
@@ -252,7 +252,7 @@ void NachLinksAusbreiten(std::int16_t farbe)
 void GruppeVorschauen(std::int16_t farbe)
 {
     Stand.MarkiertZahl = 0;
-    // A value from a damaged snapshot has no face: nothing is shown for it.
+    // A value from a damaged snapshot has no face, so nothing is shown.
     if (!HatBild(farbe)) {
         return;
     }

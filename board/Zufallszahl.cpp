@@ -1,5 +1,5 @@
-// Zufallszahl.cpp: SplitMix64, a counter put through a mixing function. Its constants are those
-// that Steele, Lea and Flood published for it in 2014.
+// Zufallszahl.cpp: SplitMix64, a counter passed through a mixing function, with the constants that
+// Steele, Lea and Flood published in 2014.
 #include "board/Zufallszahl.h"
 
 #include "state/Zellen.h"
@@ -37,7 +37,7 @@ float Zufall::Zahl()
 
 std::int16_t FarbeAus(float zahl)
 {
-    // Cut off first: 1 added to the greatest number would be rounded up to a fifth colour.
+    // Truncate first: adding 1 to the greatest number would round it up to a fifth colour.
     return static_cast<std::int16_t>(static_cast<int>(zahl * static_cast<float>(kFarben)) + 1);
 }
 

@@ -1,13 +1,13 @@
-// Zufallszahl.h: chance.
+// Zufallszahl.h: random colours.
 #pragma once
 
 #include <cstdint>
 
 namespace malvone {
 
-// A random generator that takes its seed anew from a clock before every number. The seed takes in
-// the generator's running state as well, so that a clock that stands still, or one that is coarser
-// than the 140 draws of a board, leaves the numbers random.
+// A random generator that is reseeded from a clock before every number. The seed also takes in the
+// generator's own state, so that the numbers stay random if the clock stands still or is too coarse
+// for the 140 draws of a board.
 class Zufall
 {
 public:
@@ -23,7 +23,7 @@ private:
 
 // The colour, 1 to 4, for a number from 0 up to but not including 1.
 std::int16_t FarbeAus(float zahl);
-// The colour of a new stone, 1 to 4, each with the same chance.
+// The colour of a new stone, 1 to 4, all equally likely.
 std::int16_t ZufallsFarbe();
 
 }  // namespace malvone

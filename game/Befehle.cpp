@@ -61,8 +61,8 @@ void FrmTessel::imgNaechsterLevel_Click()
     cmdSchalt_Click(kSchaltWeiter);
 }
 
-// Points and level go back before it is known whether the snapshot can be read: reading it raises
-// the level again, and a failure leaves both as they are now.
+// Points and level go back before the snapshot is read: reading it raises the level again, and a
+// failure leaves both set back.
 void FrmTessel::imgWiederholen_Click()
 {
     PfeileAus();
@@ -117,8 +117,7 @@ void FrmTessel::lblEnde_Click()
     Unload();
 }
 
-// F1 is also the shortcut of a menu entry: who has opened the manual takes the key, so that it is
-// opened once.
+// F1 is also the shortcut of a menu entry. The key is taken here, so that the manual opens once.
 void FrmTessel::Form_KeyDown(std::int16_t& KeyCode, std::int16_t Shift)
 {
     (void)Shift;

@@ -3,10 +3,10 @@
 
 namespace malvone {
 
-// Sets points and level to 0. It touches neither the board nor LevelPunkte, and no display.
+// Sets points and level to 0. Leaves the board, LevelPunkte and the displays alone.
 void SpielZuruecksetzen();
 
-// The first level of a new game: a new board, points and level from the start.
+// Begins a new game: level 1, no points, a new board.
 void SpielBeginnen();
 
 }  // namespace malvone

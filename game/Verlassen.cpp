@@ -6,7 +6,7 @@
 
 namespace malvone {
 
-// Whoever closes the window, and for whatever reason: the question is the same.
+// The question is the same whoever closes the window, and why.
 void FrmTessel::Form_QueryUnload(std::int16_t& Cancel, UnloadMode mode)
 {
     (void)mode;
@@ -17,7 +17,7 @@ void FrmTessel::Form_QueryUnload(std::int16_t& Cancel, UnloadMode mode)
     }
 }
 
-// The end takes all windows with it.
+// All windows go with the program.
 void FrmTessel::Form_Unload()
 {
     App.Ende();

@@ -1,4 +1,4 @@
-// Zug.cpp: the pointer on the board: what the main window does when it moves and when it presses.
+// Zug.cpp: the pointer on the board: what moving it and pressing its button do.
 #include "board/AllesnachLinks.h"
 #include "board/FillFeld.h"
 #include "board/Sicherheit.h"
@@ -52,7 +52,7 @@ void FrmTessel::imgFeld_MouseDown(std::int16_t Index, const Mouse& mouse)
     }
 }
 
-// The pointer is on the margin round the stones.
+// The pointer is on the margin around the stones.
 void FrmTessel::Picture1_MouseMove()
 {
     VorschauZuruecknehmen();

@@ -1,4 +1,4 @@
-// CodePage.cpp: turns texts between UTF-8 and Windows-1252, and counts their characters.
+// CodePage.cpp: converts texts between UTF-8 and Windows-1252, and counts their characters.
 #include "platform/CodePage.h"
 
 #include <algorithm>
@@ -17,12 +17,12 @@ constexpr std::array<char32_t, 32> kSpecial = {
     0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
     0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
 
-constexpr char32_t kNoCharacter = 0xFFFFFFFF;  // a byte that is no UTF-8
+constexpr char32_t kNoCharacter = 0xFFFFFFFF;  // a byte that is not UTF-8
 
 struct Decoded
 {
     char32_t Character;
-    std::size_t Length;  // in bytes, 1 for a byte that is no UTF-8
+    std::size_t Length;  // in bytes; 1 for a byte that is not UTF-8
 };
 
 constexpr std::uint8_t Byte(char c)
@@ -30,8 +30,8 @@ constexpr std::uint8_t Byte(char c)
     return static_cast<std::uint8_t>(c);
 }
 
-// The first character of a text that is not empty. Over-long forms, surrogates and numbers beyond
-// the last character are no UTF-8.
+// The first character of a text that is not empty. Overlong forms, surrogates and numbers beyond
+// the last character are not UTF-8.
 Decoded Decode(std::string_view text)
 {
     struct Form

@@ -1,4 +1,4 @@
-// Beste.h: the state of the best list outside its window; it lives for one run of the program.
+// Beste.h: the state of the best list outside its window, for one run of the program.
 #pragma once
 
 #include <cstdint>
@@ -9,7 +9,7 @@ namespace malvone {
 
 struct Bestenstand
 {
-    Flag EintragModus = False;      // True: the window is opened, or open, for entering a name
+    Flag EintragModus = False;      // True: the window opens, or is open, for entering a name
     std::int16_t EintragPlatz = 0;  // place 0 to 4 of the new entry; -1 while there is none
     std::int32_t EndPunkte = 0;     // points of the finished game
     bool Gelesen = false;           // the whole file was read into the lists, or written from them

@@ -1,4 +1,4 @@
-// Pfade.cpp: paths in the game's own way of writing them, and the existence test.
+// Pfade.cpp: paths as the game writes them, and the existence test.
 #include "state/Pfade.h"
 
 #include "ui/layer/App.h"

@@ -1,5 +1,5 @@
-// Pfade.h: where the program's files and the data lie, and the small questions asked of paths and
-// files. Nothing in here knows a window.
+// Pfade.h: where the program's files and its data lie, and small questions about paths and files.
+// Knows no window.
 #pragma once
 
 #include <string>
@@ -8,7 +8,7 @@
 
 namespace malvone {
 
-// Set by Main at the start, only read afterwards.
+// Set by Main at the start; only read afterwards.
 struct Datenlage
 {
     std::string DatenOrdner;  // without a backslash at its end; empty without a Windows folder
@@ -21,10 +21,10 @@ extern Datenlage Daten;
 std::string MitBackslash(std::string pfad);
 // The folder of the program file, always with a backslash at its end.
 std::string ProgrammOrdner();
-// False for the empty path and for a free name in an existing folder. Everything else counts as
-// there: files, folders, and any name in a folder that is missing.
+// False for the empty path and for a free name in an existing folder. Anything else counts as
+// existing: files, folders, and any name in a missing folder.
 bool ExistiertDatei(const std::string& pfad);
-// Where the snapshot lies, with a backslash at the end. Asked anew at each use.
+// Where the snapshot lies, with a backslash at its end. Ask again for each use.
 std::string DatenPfad();
 
 }  // namespace malvone

@@ -1,4 +1,4 @@
-// Spielstand.h: the state of a game; it lives for one run of the program.
+// Spielstand.h: the state of a game, for one run of the program.
 #pragma once
 
 #include <cstdint>

@@ -8,7 +8,7 @@
 
 namespace malvone {
 
-// Cells are numbered 1 to 140 down each column, then on to the top of the next column to the right.
+// Cells are numbered 1 to 140: down each column, then on to the top of the next one to the right.
 inline constexpr int kSpalten = 14;
 inline constexpr int kReihen = 10;
 inline constexpr int kZellen = kSpalten * kReihen;
@@ -32,16 +32,16 @@ constexpr int UntersteZelle(int spalte)
     return spalte * kReihen + kReihen;
 }
 
-// Marks sit on cell numbers, not on stones: when stones fall, no mark moves with them.
+// Marks belong to cell numbers, not to stones: when stones fall, no mark moves with them.
 struct Zelle
 {
-    Flag Markiert = False;     // belongs to the group that is marked at present
-    Flag Vorschau = False;     // shows a preview picture; its plain picture must be given back
+    Flag Markiert = False;     // belongs to the group that is marked now
+    Flag Vorschau = False;     // shows a preview picture and needs its plain one back
     Flag ObererRand = False;   // top cell of its column
     Flag UntererRand = False;  // bottom cell of its column
 };
 
-// Index 1 to 140; the record 0 belongs to no cell.
+// Index 1 to 140; record 0 belongs to no cell.
 extern std::array<Zelle, kZellen + 1> Zellen;
 
 inline Zelle& Satz(int zelle)

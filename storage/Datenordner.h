@@ -1,4 +1,4 @@
-// Datenordner.h: the folder of the data files, and how it comes to be.
+// Datenordner.h: finds the folder of the data files, and makes it.
 #pragma once
 
 #include <string>
@@ -8,7 +8,7 @@ namespace malvone {
 // The data folder's own name, directly under the root of the drive.
 inline constexpr const char* kDatenOrdnerName = "lindenspiele";
 
-// The system's folder; empty when it cannot be found.
+// The system's folder; empty if it cannot be found.
 std::string WindowsOrdner();
 // Makes a folder; the player is told if that fails.
 void OrdnerAnlegen(const std::string& pfad);

@@ -1,5 +1,5 @@
-// FrmBeste.cpp: what the window of the best players does. It holds the list in memory, shows it,
-// and takes the name of a new entry.
+// FrmBeste.cpp: the window of the best players: holds the list in memory, shows it, and takes the
+// name of a new entry.
 #include "ui/windows/FrmBeste.h"
 
 #include <cmath>
@@ -92,7 +92,7 @@ void FrmBeste::FelderSperren()
     for (int i = 0; i < 2 * kPlaetze; ++i) {
         txtSpieler(i).TabStop = false;
         txtSpieler(i).Locked = true;
-        txtSpieler(i).SelLength = 0;  // an earlier entry may have left its name selected
+        txtSpieler(i).SelLength = 0;  // an earlier entry may still be selected
     }
 }
 

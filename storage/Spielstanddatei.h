@@ -1,12 +1,12 @@
-// Spielstanddatei.h: the snapshot of a board as it was filled, so that its level can be repeated.
+// Spielstanddatei.h: the snapshot of a freshly filled board, from which its level can be repeated.
 #pragma once
 
 namespace malvone {
 
-// Writes the values of all cells to a new file. A failure is told to the player, not to the caller.
+// Writes the values of all cells to a new file. Tells the player, not the caller, of a failure.
 void StandSpeichern();
-// Puts the board of the file back and counts the level; here too a failure is told to the player,
-// and leaves only the next level to be taken.
+// Puts the board of the file back and counts the level. A failure, too, is told to the player;
+// after it only the next level is offered.
 void StandLaden();
 
 }  // namespace malvone

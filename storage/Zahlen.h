@@ -1,4 +1,4 @@
-// Zahlen.h: numbers in texts that somebody may have edited by hand.
+// Zahlen.h: numbers in files that somebody may have edited by hand.
 #pragma once
 
 #include <cstdint>

@@ -1,5 +1,5 @@
-// modBeste.cpp: "malvone.txt", five names and then five points, and the way into it. While the
-// program runs the list lives in lstName and lstPunkte of frmBeste.
+// modBeste.cpp: "malvone.txt", five names and then five points, and how a result gets into it.
+// While the program runs, the list lives in lstName and lstPunkte of frmBeste.
 #include "storage/modBeste.h"
 
 #include <algorithm>
@@ -56,8 +56,8 @@ std::int32_t Punktzahl(const Eintrag& eintrag)
     return Zahl32(eintrag.Punkte).value_or(0);
 }
 
-// The list as results meet it: places without a number stand behind all others, so that they are
-// the first to fall out.
+// The list as a new result meets it: places without a number stand behind all others, so that they
+// are the first to go.
 std::vector<Eintrag> Rangliste()
 {
     std::vector<Eintrag> eintraege;

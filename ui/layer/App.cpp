@@ -25,7 +25,7 @@ void Application::Begin(malvone::Binding& binding, Platform& platform)
 
 void Application::Finish()
 {
-    ended_ = true;  // what the windows' destructors change is told to nobody
+    ended_ = true;  // so that the windows' destructors tell no binding
     modals_.clear();
     gone_.clear();
     for (InstanceBase* const instance : InstanceBase::All()) {
@@ -61,7 +61,7 @@ bool Application::TakesInput(const Window& window) const
 
 void Application::RunModal(Window& window)
 {
-    // A press that has opened this window finds its release elsewhere, or nowhere.
+    // The press that has opened this window is released elsewhere, or nowhere.
     for (InstanceBase* const instance : InstanceBase::All()) {
         if (Window* const other = instance->Current()) {
             LetGo(*other);

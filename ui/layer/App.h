@@ -1,4 +1,4 @@
-// App.h: the program and the screen as objects, and the events that bindings hand to windows.
+// App.h: the program and the screen as objects, and the events that bindings pass to windows.
 #pragma once
 
 #include <cstdint>
@@ -26,28 +26,28 @@ public:
     Application(const Application&) = delete;
     Application& operator=(const Application&) = delete;
 
-    // Ties the program to a binding and a platform, which have to outlive Finish. All windows are
-    // unloaded and nothing has ended.
+    // Connects the program to a binding and a platform, which must outlive Finish. Afterwards no
+    // window is loaded and nothing has ended.
     void Begin(malvone::Binding& binding, Platform& platform);
-    // Destroys all windows without any event. For the end of the process, and between two runs in
+    // Destroys all windows without any event: at the end of the process, and between two runs in
     // one process.
     void Finish();
 
-    // The program is over: all loops return, nothing is shown, loaded or written any more, and
-    // handlers that still run change nothing that anybody sees.
+    // Ends the program: all loops return, nothing is shown, loaded or written any more, and
+    // handlers that are still running change nothing that can be seen.
     void Ende();
     bool Ended() const { return ended_; }
 
     malvone::Binding& Binding() const { return *binding_; }
     Platform& System() const { return *platform_; }
 
-    // The topmost modal window, null where none is up.
+    // The topmost modal window, null if there is none.
     Window* TopModal() const { return modals_.empty() ? nullptr : modals_.back(); }
-    // The loaded window whose role it is, null where there is none.
+    // The loaded window with that role, null if there is none.
     Window* MainWindow() const;
     // The window that gets the keys: the topmost modal one, else the main window.
     Window* KeyWindow() const { return TopModal() != nullptr ? TopModal() : MainWindow(); }
-    // Whether a window takes input at present: it is shown and no other window is modal above it.
+    // Whether a window takes input now: it is shown, and no other window is modal above it.
     bool TakesInput(const Window& window) const;
 
 private:
@@ -80,8 +80,8 @@ struct ScreenObject
 };
 inline const ScreenObject Screen;
 
-// Stands around everything that runs handlers, Main too: windows that were unloaded meanwhile are
-// destroyed when the outermost scope is left.
+// Put around everything that runs handlers, Main included: windows that were unloaded in the
+// meantime are destroyed at the end of the outermost scope.
 class EventScope
 {
 public:
@@ -91,7 +91,7 @@ public:
     EventScope& operator=(const EventScope&) = delete;
 };
 
-// Events from outside. Each returns false, and does nothing, where its target takes no input.
+// Events from outside. Each returns false and does nothing if its target takes no input.
 bool RaiseTimer(Timer& timer);
 bool RaiseClick(Control& control);
 bool RaiseActivate(Window& window);

@@ -18,23 +18,23 @@ public:
     virtual Twips ScreenWidth() = 0;
     virtual Twips ScreenHeight() = 0;
 
-    // What a binding does not override is nothing to it.
+    // A binding overrides what it needs.
 
-    // A window has been made in its designed state; its Form_Load comes next. Here a binding may
-    // put the size of frame and menu bar, as far as it knows them, into Width and Height.
+    // A window has been made as designed; its Form_Load comes next. A binding may now add the frame
+    // and the menu bar, as far as it knows their size, to Width and Height.
     virtual void WindowLoaded(Window& /*window*/) {}
-    // A window is shown, told before its Form_Activate; told again for each Show of a window that
-    // is shown already, which brings it to the front.
+    // A window is shown; its Form_Activate comes next. Called again for each Show of a window that
+    // is already shown, which brings it to the front.
     virtual void WindowShown(Window& /*window*/, ShowMode /*mode*/) {}
     // A shown window is hidden without being unloaded.
     virtual void WindowHidden(Window& /*window*/) {}
-    // A window goes away. It is still whole; it will be destroyed when no handler runs any more.
+    // A window goes away. It is still whole, and is destroyed once no handler is running.
     virtual void WindowUnloaded(Window& /*window*/) {}
 
-    // Something of a loaded window or of one of its controls has become another value.
+    // A value of a loaded window, or of one of its controls, has changed.
     virtual void WindowChanged(Window& /*window*/, Change /*what*/) {}
     virtual void ControlChanged(Control& /*control*/, Change /*what*/) {}
-    // A control array of a loaded window has got a new element.
+    // A control array of a loaded window has a new element.
     virtual void ControlAdded(Control& /*control*/) {}
     virtual void FocusChanged(Window& /*window*/) {}
 
@@ -46,8 +46,8 @@ public:
     virtual void Ended() {}
 };
 
-// Whether the modal loop of a window has come to its end: it is hidden or unloaded, or the program
-// is over.
+// Whether the modal loop of a window is to end: it has been hidden or unloaded, or the program is
+// over.
 bool ModalOver(const Window& window);
 
 }  // namespace malvone

@@ -1,4 +1,4 @@
-// Control.cpp: places, reach and change of controls.
+// Control.cpp: where controls lie, whether they take input, and whom they tell of changes.
 #include "ui/layer/Control.h"
 
 #include <utility>

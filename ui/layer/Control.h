@@ -1,4 +1,4 @@
-// Control.h: what all objects on a window have in common, and what all have that take up a place.
+// Control.h: what all objects on a window have in common, and what all visible ones have.
 #pragma once
 
 #include <cstdint>
@@ -15,12 +15,12 @@ namespace malvone {
 class PictureBox;
 class Window;
 
-// Where a control stands in its window's list. An element of a control array has an index from 0
-// and shares the events of its array; a single control has none.
+// Where a control belongs. An element of a control array has an index from 0 and shares the events
+// of its array; a single control has none.
 struct Seat
 {
     Window& Owner;
-    std::string_view Name;  // as in the code, constant for the whole run
+    std::string_view Name;  // as in the code; constant data
     PictureBox* Container = nullptr;
     std::int16_t Index = -1;
     std::shared_ptr<Events> Shared = nullptr;
@@ -37,11 +37,11 @@ public:
     Window& Owner() const { return owner_; }
     PictureBox* Container() const { return container_; }  // null: the window itself
 
-    // A control takes input where it and its container are visible and it is enabled.
+    // A control takes input if it is enabled and both it and its container are visible.
     virtual bool Reachable() const;
 
     void Changed(Change what) override;
-    // Tells the binding of an element that has joined a control array at run time.
+    // Tells the binding of an element that was added to a control array at run time.
     void TellAdded();
 
     Property<bool> Enabled{*this, Change::Enabled, true};
@@ -70,7 +70,7 @@ private:
     std::int16_t index_;
 };
 
-// The text of an image's Tag, with its value as a number beside it: the board is read a thousand
+// The text of an image's Tag together with its value as a number: the board is read a thousand
 // times for each movement of the pointer.
 class TagText
 {
@@ -82,10 +82,10 @@ public:
 
     const std::string& Text() const { return text_; }
     operator const std::string&() const { return text_; }  // NOLINT(google-explicit-constructor)
-    // The value of a text of decimal digits with an optional minus sign; 0 for any other text.
+    // The value of decimal digits with an optional minus sign; 0 for any other text.
     std::int32_t Number() const { return number_; }
 
-    // Nearly all are one digit long, for which the library's comparison costs more than the rest.
+    // Nearly all are one digit long; for them a call of the library would cost most of the time.
     friend bool operator==(const TagText& a, const TagText& b)
     {
         const bool single = a.text_.size() == 1 && b.text_.size() == 1;
@@ -97,7 +97,8 @@ private:
     std::int32_t number_ = 0;
 };
 
-// A control with a place: twips from the corner of its container or of the window's client area.
+// A control with a position and a size, in twips from the corner of its container or of the
+// window's client area.
 class Visual : public Control
 {
 public:
@@ -112,26 +113,26 @@ public:
     void Move(Twips left, Twips top);
     void Move(Twips left, Twips top, Twips width, Twips height);
 
-    // The corner in the window's client area, with the container's place counted in.
+    // The corner in the window's client area, whatever the container.
     Twips WindowLeft() const;
     Twips WindowTop() const;
-    // Visible with its container, and begins within the designed client area: what the design keeps
-    // beside it stays out of sight in a larger window too.
+    // Visible, as is its container, and begins within the designed client area. What the design
+    // puts outside stays hidden even if the window is enlarged.
     bool Seen() const;
-    // Whether a place in the window's client area lies on the control.
+    // Whether a point of the window's client area lies on the control.
     bool Covers(Twips x, Twips y) const;
 
-    // Shapes and lines are looked through by the pointer.
+    // The pointer ignores shapes and lines.
     virtual bool TakesPointer() const { return true; }
     // The arrow keys lead to the control as the pointer would: see Highlight.h. Fixed by the
     // design.
     bool ByArrows = false;
-    // Buttons and text boxes can have the focus; the first in the tab order has the lowest number.
+    // Buttons and text boxes can have the focus; the lowest number comes first in the tab order.
     virtual bool TakesFocus() const { return false; }
     std::int16_t TabIndex = 0;
     Property<bool> TabStop{*this, Change::State, true};
 
-    // Takes over all that a copy of this control for a new element of its array needs.
+    // Takes over from another control what a copy of it needs.
     void CopyFrom(const Visual& other);
 
 protected:

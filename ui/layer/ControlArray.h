@@ -1,4 +1,5 @@
-// ControlArray.h: controls of one name, told apart by an index; with gaps, from any index, growing.
+// ControlArray.h: controls that share a name and are told apart by an index. An array may have
+// gaps, begin at any index, and grow.
 #pragma once
 
 #include <cassert>
@@ -23,8 +24,8 @@ template<class T>
 class ControlArray
 {
 public:
-    // The designed elements, named from front to back. Whatever else the kind of control needs
-    // follows behind, the parent of menu entries for example.
+    // The designed elements from front to back, and what else their kind of control needs: the
+    // parent of menu entries, for example.
     template<class... More>
     ControlArray(const Seat& seat, std::initializer_list<int> indexes, More... more)
         : events_(std::make_shared<Events>()), seat_(seat)
@@ -54,7 +55,7 @@ public:
     // One more than the highest index.
     int End() const { return static_cast<int>(elements_.size()); }
 
-    // A new element at run time, a hidden copy of element 0. An index in use stays as it is.
+    // Makes a new element, a hidden copy of element 0, unless the index is in use.
     T& Load(int index)
     {
         if (!Has(index)) {

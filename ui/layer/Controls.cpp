@@ -1,4 +1,4 @@
-// Controls.cpp: what single kinds of control do beyond holding their properties.
+// Controls.cpp: what the kinds of control do beyond holding their properties.
 #include "ui/layer/Controls.h"
 
 #include <algorithm>

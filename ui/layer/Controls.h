@@ -11,7 +11,7 @@
 
 namespace malvone {
 
-// Text that wraps at the label's width; every line is aligned. CR LF breaks a line.
+// Text that wraps at the label's width. CR LF breaks a line.
 class Label final : public Visual
 {
 public:
@@ -25,7 +25,7 @@ public:
     Property<Font> TextFont{*this, Change::Look};
 };
 
-// A property that makes its image as large as the picture it takes, unless the image stretches.
+// A property that makes its image as large as its picture, unless the image stretches.
 class ImagePicture : public Property<Picture>
 {
 public:
@@ -41,8 +41,8 @@ private:
     const Property<bool>& stretch_;
 };
 
-// A picture at its place. With Stretch off the image is as large as its picture, and keeps its size
-// while it has none; with Stretch on the picture fills the image whatever its size.
+// Shows a picture. With Stretch off the image is as large as its picture, and keeps its size while
+// it has none; with Stretch on the picture fills the image.
 class Image final : public Visual
 {
 public:
@@ -94,9 +94,8 @@ public:
     void SetFocus();
     bool TakesFocus() const override { return true; }
 
-    // What typing and pasting do: they replace the selection by those characters that a file can
-    // hold, as many as there is room for, and put the caret behind them. Does nothing while Locked,
-    // and where nothing is left of the text: the selection stays.
+    // Types or pastes: replaces the selection by those characters that a file can hold, and puts
+    // the caret behind them. Does nothing while Locked, or if no such character is left.
     void Type(std::string_view text);
 };
 
@@ -111,7 +110,7 @@ public:
     std::int32_t ListCount() const { return static_cast<std::int32_t>(items_.size()); }
     // The item at an index from 0; the empty text for any other index.
     const std::string& List(std::int32_t index) const;
-    void SetList(std::int32_t index, std::string text);  // does nothing where there is no such item
+    void SetList(std::int32_t index, std::string text);  // ignores any other index
 
 private:
     std::vector<std::string> items_;

@@ -1,4 +1,4 @@
-// Event.h: what a control tells the window that holds it.
+// Event.h: what controls tell their window.
 #pragma once
 
 #include <concepts>
@@ -19,8 +19,8 @@ inline constexpr std::int16_t kShiftKey = 1;
 inline constexpr std::int16_t kCtrlKey = 2;
 inline constexpr std::int16_t kAltKey = 4;
 
-// A pointer event. Button is the one button of a press or release, and the sum of all pressed
-// buttons of a move; X and Y are twips from the corner of the object that gets the event.
+// A pointer event. Button is the button of a press or release, and the sum of all pressed buttons
+// in a move. X and Y are twips from the corner of the object that gets the event.
 struct Mouse
 {
     std::int16_t Button = 0;
@@ -29,8 +29,8 @@ struct Mouse
     Twips Y = 0;
 };
 
-// One event with at most one handler. A handler takes the index within the control array, then the
-// arguments; it may leave out the index, or everything.
+// An event with at most one handler, which takes the index within the control array and then the
+// arguments. It may leave out the index, or everything.
 template<class... Args>
 class Event
 {

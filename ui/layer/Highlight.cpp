@@ -43,14 +43,14 @@ Visual* BottomLeft(const Window& window)
     return best;
 }
 
-// How much of what lies beside each other is level: up to 0 where nothing is.
+// How far two stretches overlap; 0 or less if they do not.
 Twips Overlap(Twips a, Twips aLength, Twips b, Twips bLength)
 {
     return std::min(a + aLength, b + bLength) - std::max(a, b);
 }
 
-// The nearest control straight ahead, of several side by side the one that lies best; where there
-// is none, the highlight stays.
+// The nearest control straight ahead, and of several at the same distance the one that is least
+// aside. Without any, the highlight stays.
 Visual& Next(const Window& window, Visual& from, const Direction& direction)
 {
     const Mouse here = MiddleOf(from, 0);

@@ -12,10 +12,10 @@ namespace malvone {
 class Visual;
 class Window;
 
-// The last station of a key. Without modifiers the arrows lead from one control with ByArrows to
-// the next in their direction, over all of them and no further than the last; the first one only
-// shows where the highlight is: where the pointer was last, else at the bottom left. A window
-// without such controls takes none of these keys.
+// The last station of a key. Arrows without modifiers lead from one control with ByArrows to the
+// next in their direction, and stop at the last one. The first arrow only shows the highlight:
+// where the pointer was last, else at the bottom left. A window without such controls takes none of
+// these keys.
 bool TakenByHighlight(Window& window, Key key);
 
 // The pointer moves over a control, null for the window itself: the frame goes.

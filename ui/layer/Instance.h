@@ -11,8 +11,8 @@
 
 namespace malvone {
 
-// The name under which the game knows a window. It loads on use: the first touch makes the window
-// in its designed state and runs its Form_Load; after Unload the next touch begins anew.
+// The name under which the game knows a window. The first touch makes the window as designed and
+// runs its Form_Load; after Unload, the next touch begins anew.
 class InstanceBase
 {
 public:

@@ -1,4 +1,4 @@
-// Keys.h: keys by code, and the one way that a key takes through a window.
+// Keys.h: keys by code, and the way of a key through a window.
 #pragma once
 
 #include <cstdint>
@@ -19,25 +19,24 @@ inline constexpr std::int16_t kKeyDown = 40;
 inline constexpr std::int16_t kKeyDelete = 46;
 inline constexpr std::int16_t kKeyF1 = 112;
 inline constexpr std::int16_t kKeyF10 = 121;
-// Letters have the codes of their capitals, 'A' to 'Z', whatever Shift says.
+// Letters have the codes of their capitals, 'A' to 'Z', with or without Shift.
 
 struct Key
 {
     std::int16_t Code = 0;
-    std::int16_t Shift = 0;  // kShiftKey, kCtrlKey, kAltKey added up
+    std::int16_t Shift = 0;  // the sum of kShiftKey, kCtrlKey and kAltKey
 
     friend bool operator==(const Key&, const Key&) = default;
 };
 
-// Routes a key that has been pressed in a window: Form_KeyDown first, then the menu's shortcuts,
-// access keys of visible and enabled buttons wherever they lie, the default button, the focused
-// button, Tab, the highlight of the arrow keys. Returns whether somebody took it; what is left
-// belongs to the text box that has the focus and to the platform. A key for a window that takes no
-// input at present is not routed.
+// Routes a key that was pressed in a window: to Form_KeyDown first, then to the menu's shortcuts,
+// the access keys of buttons that take input, wherever they lie, the default button, the focused
+// button, Tab, and the highlight of the arrow keys. Returns whether the key was taken; otherwise it
+// is for the focused text box and the platform. A window that takes no input gets no key.
 bool RouteKey(Window& window, Key key);
 
-// A key that is held down speaks once: it must not answer the next question too. Only those that
-// lead over the window are routed again and again.
+// Whether a key that is held down counts again and again. Only arrow keys do: any other key must
+// not answer the next question as well.
 bool MayRepeat(Key key);
 
 }  // namespace malvone

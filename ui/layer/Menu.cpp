@@ -1,4 +1,4 @@
-// Menu.cpp: when an entry of a menu works.
+// Menu.cpp: whether an entry of a menu works.
 #include "ui/layer/Menu.h"
 
 namespace malvone {

@@ -18,7 +18,7 @@ public:
 
     MenuEntry* Parent() const { return parent_; }
     bool Separator() const { return Caption.Get() == "-"; }
-    // An entry works where it and all entries above it are enabled.
+    // An entry works if it and all entries above it are enabled.
     bool Reachable() const override;
 
 private:

@@ -17,12 +17,12 @@ struct PictureInfo
     int Height = 0;
 };
 
-// What a control shows: an entry of the bank, or nothing. Copies show the same image.
+// What a control shows: an entry of the bank, or nothing.
 class Picture
 {
 public:
     constexpr Picture() = default;
-    // The entry has to outlive every copy; the bank is constant data.
+    // The entry must outlive every copy; the bank is constant data.
     constexpr explicit Picture(const PictureInfo& info) : info_(&info) {}
 
     constexpr bool Empty() const { return info_ == nullptr; }
@@ -31,7 +31,7 @@ public:
     constexpr int Width() const { return Empty() ? 0 : info_->Width; }
     constexpr int Height() const { return Empty() ? 0 : info_->Height; }
 
-    // Each picture of the bank has one entry, so that no names need be compared.
+    // Each picture has one entry, so there are no names to compare.
     friend constexpr bool operator==(const Picture&, const Picture&) = default;
 
 private:

@@ -1,4 +1,4 @@
-// PointerRouting.cpp: who gets the pointer.
+// PointerRouting.cpp: which control hears of the pointer.
 #include "ui/layer/PointerRouting.h"
 
 #include "ui/layer/App.h"
@@ -16,7 +16,7 @@ Mouse Within(const Visual& visual, const Mouse& mouse)
     return inside;
 }
 
-// What is pressed hears of the pointer wherever it is, everything else within the client area.
+// While something is pressed it hears of the pointer anywhere, else only within the client area.
 bool HearsOf(const Window& window, const Mouse& mouse)
 {
     return App.TakesInput(window) && (window.Pressed() || window.InClient(mouse.X, mouse.Y));
@@ -63,7 +63,8 @@ void PointerPressed(Window& window, const Mouse& mouse)
     std::optional<Visual*>& pressed = Routing::Of(window).Pressed;
     if (!pressed) {
         pressed = ControlAt(window, mouse.X, mouse.Y);
-        // Keys may have pointed elsewhere since: nothing is pressed that was not pointed at last.
+        // Keys may have pointed elsewhere in the meantime, and only what was pointed at last may be
+        // pressed.
         if (window.Highlighted() != nullptr && window.Highlighted() != pressed) {
             Hover(window, mouse);
         }
@@ -119,9 +120,8 @@ void PointerReleased(Window& window, const Mouse& mouse)
             target->RaiseClick();
         }
     }
-    // The pointer has slid onto something else that knows nothing of it yet: without this movement
-    // the next press would act on a place that the player no longer points at. A pointer that has
-    // stayed has been heard of, and a click without a movement stays one.
+    // The pointer has slid onto something else: without this movement the next press would act on
+    // what it no longer points at. If it has stayed, it has been heard of, and a click stays one.
     if (left) {
         Hover(window, Mouse{0, mouse.Shift, mouse.X, mouse.Y});
     }

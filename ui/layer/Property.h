@@ -1,4 +1,4 @@
-// Property.h: the one way into a value of a window or control, so that every change is told.
+// Property.h: values of windows and controls, which tell of every change.
 #pragma once
 
 #include <string>
@@ -6,9 +6,9 @@
 
 namespace malvone {
 
-// What of an object has changed; a binding repaints or adjusts just that.
+// What has changed; a binding repaints or adjusts just that.
 enum class Change {
-    Geometry,  // place or size
+    Geometry,  // position or size
     Visible,
     Enabled,
     Picture,
@@ -17,11 +17,11 @@ enum class Change {
     State,      // Checked, Locked, TabStop, Interval
     Select,     // SelStart, SelLength
     Tip,        // ToolTipText, MousePointer
-    Highlight,  // the frame of the arrow keys has come to a control, or left it
+    Highlight,  // the highlight of the arrow keys has come to a control, or left it
     Data,       // Tag: nothing that can be seen
 };
 
-// Whoever owns properties: a window or a control.
+// What has properties: a window or a control.
 class PropertyOwner
 {
 public:
@@ -34,7 +34,7 @@ protected:
     PropertyOwner& operator=(const PropertyOwner&) = delete;
 };
 
-// A value that tells its owner when it becomes another one. Setting the same value does nothing.
+// A value that tells its owner when it changes. Setting it to the same value does nothing.
 template<class T>
 class Property
 {

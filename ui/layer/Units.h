@@ -1,4 +1,4 @@
-// Units.h: lengths, colours, fonts and flags as the windows of the game speak of them.
+// Units.h: lengths, colours, fonts and flags as the windows of the game have them.
 #pragma once
 
 #include <cstdint>
@@ -6,12 +6,12 @@
 
 namespace malvone {
 
-// Lengths on windows, single precision. 15 twips are one pixel at 96 dpi, at every scale of the
-// desktop: a binding that draws twice as fine draws one pixel of the design on two by two.
+// Lengths on windows, in single precision. 15 twips are one pixel of the design; a binding for a
+// finer screen draws it with more pixels of the screen.
 using Twips = float;
 inline constexpr Twips kTwipsPerPixel = 15.0F;
 
-// 16-bit flags as the game keeps them in its records and state.
+// 16-bit flags, as in the game's records and state.
 using Flag = std::int16_t;
 inline constexpr Flag True = -1;
 inline constexpr Flag False = 0;
@@ -30,8 +30,8 @@ enum class Alignment { Left, Centre };
 
 enum class Pointer { Default, Hand };
 
-// A font by its family's name and its size in points at 96 dpi; it grows with the twips of the
-// window and never with the desktop's text size.
+// A font by its family and its size in points at 96 dpi. It grows with the window, never with the
+// desktop's text size.
 struct Font
 {
     std::string_view Name = "Arial";

@@ -154,7 +154,7 @@ void Window::Hide()
     }
     shown_ = false;
     LetGo(*this);
-    focus_ = nullptr;  // whoever shows it again begins with the designed focus
+    focus_ = nullptr;  // shown again, it begins with the designed focus
     App.Binding().WindowHidden(*this);
 }
 
@@ -171,7 +171,7 @@ bool Window::Unload(UnloadMode mode)
     }
     Form_Unload();
     if (App.Ended() || instance_ == nullptr) {
-        return true;  // the handler has ended the program, or unloaded the window by itself
+        return true;  // the handler has ended the program, or unloaded the window itself
     }
     shown_ = false;
     App.Binding().WindowUnloaded(*this);

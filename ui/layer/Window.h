@@ -28,11 +28,11 @@ enum class WindowRole {
     Message,   // tells or asks something and goes again
 };
 
-// Why a window is to close: the player closes it by its frame or through the system, or the game
-// unloads it. A question that is closed the first way has no answer.
+// Why a window is to close: the player or the system closes it, or the game unloads it. A question
+// that is closed the first way has no answer.
 enum class UnloadMode : std::int16_t { TitleBar = 0, Code = 1 };
 
-// A window's Visible: reading tells whether it is shown, setting it shows or hides the window.
+// A window's Visible: reads whether the window is shown; setting it shows or hides the window.
 class VisibleProperty
 {
 public:
@@ -44,7 +44,8 @@ private:
     Window& window_;
 };
 
-// A window's handlers have the names of the events; a class of floor 2 overrides those it answers.
+// A window overrides the events that it answers, which are named Form_. It defines its destructor
+// beside its constructor, so that its table of functions lies where it is designed.
 class Window : public PropertyOwner
 {
 public:
@@ -52,8 +53,8 @@ public:
 
     std::string_view Name() const { return name_; }
 
-    // The outer frame's corner on the screen; Width and Height count frame and menu bar where the
-    // binding knows them. Until a binding has told otherwise they are those of the client area.
+    // The corner of the outer frame on the screen. Width and Height include frame and menu bar if
+    // the binding has added them, else they are those of the client area.
     Property<Twips> Left{*this, Change::Geometry, 0};
     Property<Twips> Top{*this, Change::Geometry, 0};
     Property<Twips> Width{*this, Change::Geometry, 0};
@@ -74,7 +75,7 @@ public:
     bool MaxButton = false;
     bool KeyPreview = true;
 
-    // Whether a place lies within the designed client area; what the design keeps beside it is
+    // Whether a point lies within the designed client area; what the design puts outside it is
     // neither seen nor pointed at.
     bool InClient(Twips x, Twips y) const
     {
@@ -84,8 +85,8 @@ public:
     void Move(Twips left, Twips top);
     void Move(Twips left, Twips top, Twips width, Twips height);
 
-    // Shows the window and tells it that it is active. A modal Show returns when the window has
-    // been hidden or unloaded, or when the program is over.
+    // Shows the window and tells it that it is active. A modal Show returns once the window has
+    // been hidden or unloaded, or the program is over.
     void Show(ShowMode mode = ShowMode::Modeless);
     void Hide();
     // Asks Form_QueryUnload, then Form_Unload, then takes the window away. False: it was refused.
@@ -99,24 +100,23 @@ public:
     // All controls, menu entries and timers too, in the order of their declaration; elements of
     // control arrays made at run time stand at the end.
     const std::vector<Control*>& Controls() const { return controls_; }
-    // Everything that has a place, from front to back: the children of a container before it.
+    // Everything that can lie on the window, from front to back: children before their container.
     const std::vector<Visual*>& FrontToBack() const;
     std::vector<MenuEntry*> MenuEntries() const;
-    // The control of a name such as "imgFeld(17)" or "lblNeu"; null where there is none.
+    // The control of a name such as "imgFeld(17)" or "lblNeu"; null if there is none.
     Control* Find(std::string_view fullName) const;
 
-    // The control with the focus, null where none has it.
+    // The control with the focus; null if there is none.
     Visual* Focus() const { return focus_; }
     void SetFocus(Visual* control);
 
-    // What holds the pointer between press and release: a control, or with null the window's own
-    // surface. Without a value nothing is pressed.
+    // What is pressed: a control, or with null the window's own surface. No value: nothing.
     std::optional<Visual*> Pressed() const { return routed_.Pressed; }
-    // Where the arrow keys have led to, null while they lead nowhere; bindings draw a frame there
-    // and hear of its coming and going as Change::Highlight.
+    // Where the arrow keys have led to; null: nowhere. Bindings draw a frame there, and hear of its
+    // coming and going as Change::Highlight.
     Visual* Highlighted() const { return routed_.Highlighted; }
-    // The player drags the window by its surface: it follows the pointer until the button is
-    // released, and no control hears of the release.
+    // Lets the player drag the window by its surface: it follows the pointer until the button is
+    // released, which no control hears of.
     void Drag();
 
     virtual void Form_Load() {}
@@ -134,7 +134,7 @@ protected:
     // Sizes are those of the client area.
     Window(std::string_view name, Twips clientWidth, Twips clientHeight);
 
-    // The seat of a control of this window. Controls are declared from front to back.
+    // For the declaration of a control. Controls are declared from front to back.
     Seat Named(std::string_view name, PictureBox* container = nullptr)
     {
         return Seat{*this, name, container, -1, nullptr};
@@ -151,9 +151,9 @@ private:
     {
         std::optional<Visual*> Pressed;
         Visual* Highlighted = nullptr;
-        // Where the pointer, or a key in its stead, has last been on a control with ByArrows.
+        // The control with ByArrows that the pointer, or a key, was on last.
         Visual* LastByArrows = nullptr;
-        Twips PointerX = -1;  // the last place that a binding has told
+        Twips PointerX = -1;  // where a binding said last that it is
         Twips PointerY = -1;
     };
 

@@ -3,8 +3,8 @@
 
 namespace malvone {
 
-// Repaints total points, points of the level and number of the level from the state of the game.
-// They change at no other moment: until the next call they lag behind the counters.
+// Repaints the total points, the level's points and its number from the state of the game. They
+// change only here, and lag behind the counters until the next call.
 void AnzeigenAktualisieren();
 
 }  // namespace malvone

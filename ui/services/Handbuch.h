@@ -1,12 +1,11 @@
-// Handbuch.h: how a manual is opened.
+// Handbuch.h: opens the manuals.
 #pragma once
 
 #include <string_view>
 
 namespace malvone {
 
-// Opens a manual of the program's folder in the system's viewer. A missing one is passed over in
-// silence.
+// Opens a manual of the program's folder in the system's viewer. Ignores one that is missing.
 void HandbuchOeffnen(std::string_view name);
 
 }  // namespace malvone

@@ -12,20 +12,20 @@ inline constexpr int kTonEntfernt = 1;  // WHOOSH.WAV
 inline constexpr int kTonBeginn = 2;    // CHIMES.WAV
 inline constexpr int kTonFrage = 3;     // FRAGE.WAV
 inline constexpr int kTonFehler = 4;    // FEHLER.WAV
-inline constexpr int kTonPiep = 5;      // BLIP.WAV, which no event plays
+inline constexpr int kTonPiep = 5;      // BLIP.WAV, not used
 inline constexpr int kTonHinweis = 6;   // ding.wav
 inline constexpr int kToene = 7;
 
 // The full paths of the sounds, as the game writes paths; empty where the file is missing.
 extern std::array<std::string, kToene> SoundDateien;
 
-// Fills the list. A missing file empties its entry and is told to nobody.
+// Fills the list; the entry of a missing file stays empty.
 void SoundListeAnlegen();
 
 // Whether the system has a device that plays waves.
 bool SoundKarteVorhanden();
 
-// Plays the sound of an index, 0 to 6, if sound is switched on in the menu.
+// Plays a sound by its index, 0 to 6, if sound is switched on in the menu.
 void SoundSpielen(int index);
 // Plays it whatever the menu says.
 void SoundDirekt(int index);

@@ -1,4 +1,4 @@
-// Meldungen.cpp: how the two message windows are used, and what they do while they are open.
+// Meldungen.cpp: shows the two message windows, and answers their events.
 #include "ui/services/Meldungen.h"
 
 #include <string>
@@ -30,7 +30,7 @@ void Zentrieren(Window& fenster)
                  frmTessel->Top + (frmTessel->Height - fenster.Height) / 2);
 }
 
-// Without a title bar the window is moved by its surface, with the left button alone.
+// Without a title bar the window is dragged by its surface, with the left button alone.
 void FensterZiehen(Window& fenster, const Mouse& mouse)
 {
     if (mouse.Button == kLeftButton) {
@@ -130,8 +130,7 @@ void FrmMsgJa::lblName_MouseMove(const Mouse& mouse)
     FensterZiehen(*this, mouse);
 }
 
-// A question that the system takes away is closed without an answer: the answer of an earlier
-// question must not stand for this one.
+// A question that the system closes has no answer: that of an earlier question must not count.
 void FrmMsgJa::Form_QueryUnload(std::int16_t& Cancel, UnloadMode mode)
 {
     (void)Cancel;

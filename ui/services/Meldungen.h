@@ -1,4 +1,4 @@
-// Meldungen.h: the one recipe by which the game tells the player something or asks a question.
+// Meldungen.h: how the game tells the player something, or asks a question.
 #pragma once
 
 #include <cstdint>
@@ -13,25 +13,25 @@ inline constexpr std::int16_t kAntwortJa = 1;
 inline constexpr std::int16_t kAntwortNein = 2;
 inline constexpr std::int16_t kAntwortGeschlossen = 3;  // closed without an answer
 
-// The last answer of frmMsgJa, 0 before the first. No caller resets it before a question.
+// The last answer of frmMsgJa, 0 before the first. It is not reset before a question.
 extern std::int16_t MsgAntwort;
 
-// Where a message opens, from the corner of frmTessel, in twips; without one it opens centred.
+// Where a message opens, in twips from the corner of frmTessel. Without it, it opens centred.
 struct Versatz
 {
     Twips Links;
     Twips Oben;
 };
 
-// The two texts of a message, where they are constant.
+// The two texts of a message.
 struct Meldungstext
 {
     std::string_view Meldung;
     std::string_view Titel;
 };
 
-// Shows frmMsgOk with two texts and returns when it has closed. Lines are parted by CR LF; a text
-// that begins with CR LF begins on the second line.
+// Shows frmMsgOk and returns when it has closed. CR LF breaks a line; a text that begins with it
+// begins on the second line.
 void MeldungZeigen(std::string_view meldung, std::string_view titel);
 void MeldungZeigen(std::string_view meldung, std::string_view titel, Versatz versatz);
 inline void MeldungZeigen(const Meldungstext& text)
@@ -39,7 +39,7 @@ inline void MeldungZeigen(const Meldungstext& text)
     MeldungZeigen(text.Meldung, text.Titel);
 }
 
-// Shows frmMsgJa, centred. True only where the answer is exactly yes.
+// Shows frmMsgJa, centred. True only if the answer is yes.
 bool FrageStellen(std::string_view meldung, std::string_view titel);
 inline bool FrageStellen(const Meldungstext& text)
 {

@@ -1,4 +1,4 @@
-// Spoken.cpp: the words for screen readers, and the tables of what has them.
+// Spoken.cpp: the words for screen readers, and what has them.
 #include "ui/services/Spoken.h"
 
 #include <algorithm>
@@ -79,7 +79,7 @@ std::vector<Spoken> On(FrmBeste& window)
     return all;
 }
 
-// A message breaks its lines and begins with an empty one; in speech only the words count.
+// Messages have line breaks, and begin with an empty line; only the words are spoken.
 std::string OneLine(std::string_view text)
 {
     std::string line;
@@ -171,8 +171,8 @@ std::string TitleOf(const Window& window)
     return OneLine(window.Caption.Get());
 }
 
-// Stones only become more when a board is filled, and only a move earns points for those that go:
-// at the end of a level they go for nothing. The bonus comes with no stone on the board.
+// The number of stones rises only when a board is filled. When it falls, a move has earned points
+// for them; at the end of a level they go for nothing. The bonus comes when no stone is left.
 std::string Reporter::News()
 {
     if (!frmTessel.Loaded() || !frmTessel->imgFeld.Has(kZellen)) {

@@ -1,14 +1,13 @@
-// Spoken.h: what a screen reader says of the windows, and when: the one place of these words and
-// decisions, for every binding that draws. A binding asks what there is and carries it to its
-// screen readers; the game knows nothing of it.
+// Spoken.h: what a screen reader says about the windows, and when, for every binding that draws. A
+// binding asks and passes it on to its screen readers; the game knows nothing of it.
 //
 // What a binding does with it:
-// - For each window it offers SpokenOn(window), in this order, each with NameOf and DescriptionOf.
-//   The list is the same for the life of the window, but for the cells that the start adds: what is
-//   not seen at the moment is in it too, and is hidden from the reader by IsSpokenNow.
-// - Before it waits for input it compares the names with those it told last, tells the changes, and
-//   says Reporter::News aloud where that is not empty.
-// - A window whose Role is Message is an alert. Its title, TitleOf, is no part of SpokenOn.
+// - It offers SpokenOn(window) for each window, in this order, with NameOf and DescriptionOf. The
+//   list stays the same for the life of the window, apart from the cells that the start adds. It
+//   also holds what cannot be seen now; IsSpokenNow says so, and the reader skips it.
+// - Before it waits for input it reports the names that have changed, and says Reporter::News aloud
+//   unless that is empty.
+// - A window whose Role is Message is an alert. Its title, TitleOf, is not in SpokenOn.
 #pragma once
 
 #include <array>
@@ -24,10 +23,10 @@
 namespace malvone {
 
 enum class SpokenKind {
-    Words,    // a text as it stands on the window, or a row of digits with what it counts
+    Words,    // a text on the window, or a row of digits with what it counts
     Button,   // answers a press
     Cell,     // a cell of the board; answers a press
-    NameBox,  // a text box; its text is the binding's to tell
+    NameBox,  // a text box; the binding tells its text
 };
 
 struct Spoken
@@ -44,22 +43,22 @@ struct Spoken
 // Everything on a window that has words, in reading order. Empty for the backdrop.
 std::vector<Spoken> SpokenOn(const Window& window);
 
-// What it is called at the moment: "Neues Spiel", "Punkte: 36", "Spalte 3, Reihe 5, orange".
+// Its name at the moment: "Neues Spiel", "Punkte: 36", "Spalte 3, Reihe 5, orange".
 std::string NameOf(const Spoken& spoken);
-// The tool tip; for the stone that the arrow keys have led to, what a move there is worth. Empty
-// where there is nothing to add.
+// The tool tip, or what a move is worth at the stone that the arrow keys have led to. Empty if
+// there is nothing to add.
 std::string DescriptionOf(const Spoken& spoken);
-// Whether it is seen on the window and has words at the moment.
+// Whether it can be seen and has words at the moment.
 bool IsSpokenNow(const Spoken& spoken);
 
 std::string TitleOf(const Window& window);
 
-// Says in words what has happened on the board since it was asked last. It only looks, at
-// stones and points.
+// Says in words what has happened on the board since it was last asked, by looking at stones and
+// points.
 class Reporter
 {
 public:
-    // "4 Steine entfernt, 16 Punkte." Empty where nothing is to be said.
+    // "4 Steine entfernt, 16 Punkte." Empty if there is nothing to say.
     std::string News();
 
 private:

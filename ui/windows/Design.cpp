@@ -1,4 +1,4 @@
-// Design.cpp: the one design table that needs the bank of pictures.
+// Design.cpp: the table that needs the bank of pictures.
 #include "ui/windows/Design.h"
 
 #include "ui/windows/Pictures.h"

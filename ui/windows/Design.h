@@ -1,4 +1,4 @@
-// Design.h: the rows of the tables in which the windows' constructors write their design down.
+// Design.h: the rows of the tables that hold the windows' design.
 #pragma once
 
 #include <span>
@@ -36,7 +36,7 @@ struct Tip
     std::string_view text;
 };
 
-// The picture that a control shows from the start, by its name in the bank.
+// The picture that an image shows at first, by its name in the bank.
 struct Shows
 {
     Image& image;

@@ -18,7 +18,8 @@ public:
     ~FrmBeste() override;
 
     // From front to back. What lies outside the client area is never seen: the two lists are the
-    // best list in memory, txtSpieler(5) to (9) hold the points as text, cmdTessel lends Alt+A.
+    // best list in memory, txtSpieler(5) to (9) hold the points as text, cmdTessel is there for
+    // Alt+A.
     CommandButton cmdTessel{Named("cmdTessel")};
     ListBox lstPunkte{Named("lstPunkte")};
     ListBox lstName{Named("lstName")};

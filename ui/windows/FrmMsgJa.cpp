@@ -26,7 +26,7 @@ FrmMsgJa::FrmMsgJa() : Window("frmMsgJa", 5880, 3540)
         {lblJa, 3330, 2880, 2175, 435},    //
         {lblName, 930, 180, 3915, 315},    //
     };
-    // The texts are placeholders: every use writes its own.
+    // The texts are placeholders; every use sets its own.
     constexpr Font kText{"Arial", 9.75F, true};
     constexpr Font kName{"Arial", 12.0F, true};
     const design::LabelLook looks[] = {

@@ -25,7 +25,7 @@ FrmMsgOk::FrmMsgOk() : Window("frmMsgOk", 5805, 3420)
         {lblName, 960, 180, 4155, 435},   //
         {lblOk, 1800, 2910, 2175, 405},   //
     };
-    // The texts are placeholders: every use writes its own.
+    // The texts are placeholders; every use sets its own.
     constexpr Font kText{"Arial", 9.75F, true};
     constexpr Font kName{"Arial", 14.25F, false};
     const design::LabelLook looks[] = {

@@ -28,7 +28,7 @@ public:
     PictureBox Picture1{Named("Picture1")};  // the board's frame
     ControlArray<Image> imgFeld{Named("imgFeld", &Picture1),
                                 {0}};  // 0 is the template of the cells
-    // Right of the client area, never seen: they lend the keyboard their access keys.
+    // To the right of the client area, never seen: they are there for their access keys.
     ControlArray<CommandButton> cmdSchalt{Named("cmdSchalt"), {3, 2, 1, 0}};
     Image imgNochEinmal{Named("imgNochEinmal")};
     Image lblInfo{Named("lblInfo")};
@@ -37,7 +37,7 @@ public:
     Image Image4{Named("Image4")};
     ControlArray<Image> imgDiggiPunkte{Named("imgDiggiPunkte"), IndexRange{0, 4}};
     Image Image3{Named("Image3")};
-    Label lblMeldung{Named("lblMeldung")};  // what the player shall do next
+    Label lblMeldung{Named("lblMeldung")};  // what the player is to do next
     Label lblSumme{Named("lblSumme")};      // what the move under the pointer is worth
     Image imgWiederholen{Named("imgWiederholen")};
     Image imgNaechsterLevel{Named("imgNaechsterLevel")};

@@ -8,10 +8,10 @@
 
 namespace malvone {
 
-// All pictures of the program, for tests and bindings that walk over them.
+// All pictures of the program.
 std::span<const PictureInfo> AllPictures();
 
-// The picture of a name; an unknown name is a mistake in the program and stops a debug build.
+// The picture of a name. An unknown name is a mistake in the program and stops a debug build.
 Picture PictureNamed(std::string_view name);
 
 }  // namespace malvone
