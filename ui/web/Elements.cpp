@@ -1,6 +1,8 @@
 // Elements.cpp: what the page hears of windows and controls. How it looks stands in page.css.
 #include "ui/web/Elements.h"
 
+#include <emscripten.h>
+
 #include <algorithm>
 #include <array>
 #include <cstdio>
@@ -8,6 +10,15 @@
 
 #include "ui/layer/App.h"
 #include "ui/web/Page.h"
+
+// clang-format off
+EM_JS(void, TellText, (const char* name, const char* value), {
+    page.told[UTF8ToString(name)] = UTF8ToString(value);
+})
+EM_JS(void, TellNumber, (const char* name, double value), {
+    page.told[UTF8ToString(name)] = String(value);
+})
+// clang-format on
 
 namespace malvone::web {
 namespace {
@@ -22,43 +33,36 @@ std::string Css(Colour colour)
 
 // The properties of an element by name. Those that begin with dashes are of its style; page.css
 // makes lengths and colours of them.
-class Properties
+class Element
 {
 public:
     template<class T>
-    Properties& operator()(const char* name, const T& value)
+    const Element& operator()(const char* name, const T& value) const
     {
-        (text_ += name) += '\x1f';
         if constexpr (std::is_same_v<T, bool>) {
-            text_ += value ? "true" : "";
+            TellText(name, value ? "true" : "");
         } else if constexpr (std::is_arithmetic_v<T>) {
-            std::array<char, 16> number{};
-            std::snprintf(number.data(), number.size(), "%.7g", static_cast<double>(value));
-            text_ += number.data();
+            TellNumber(name, static_cast<double>(value));
         } else {
-            text_ += value;
+            TellText(name, std::string(value).c_str());
         }
-        text_ += '\x1e';
         return *this;
     }
-    Properties& Bounds(Twips left, Twips top, Twips width, Twips height)
+    const Element& Bounds(Twips left, Twips top, Twips width, Twips height) const
     {
         return (*this)("--left", left)("--top", top)("--width", width)("--height", height);
     }
-    Properties& Words(const Font& font, Colour colour)
+    const Element& Words(const Font& font, Colour colour) const
     {
         constexpr float kTwipsPerPoint = 20;
         (*this)("--font", font.Size * kTwipsPerPoint)("--weight", font.Bold ? "bold" : "normal");
         return (*this)("--colour", Css(colour));
     }
-    // The element lies in another one, of the page or told before.
-    void Tell(const char* kind, const std::string& id, const std::string& inside) const
+    // The element lies in another one, of the page or put before.
+    void Put(const char* kind, const std::string& id, const std::string& inside) const
     {
-        Ask("put", std::string(kind), id, inside, text_);
+        Ask("put", std::string(kind), id, inside);
     }
-
-private:
-    std::string text_;
 };
 
 std::string KeyName(Key key, const char* control = "Control+")
@@ -84,29 +88,35 @@ void PutEntry(const MenuEntry& entry)
     const MenuEntry* const parent = entry.Parent();
     const std::string list = ListOf(window, parent);
     if (parent == nullptr) {
-        Properties()("role", "menubar").Tell("Menu", list, IdOf(window));
+        Element()("role", "menubar").Put("Menu", list, IdOf(window));
     } else {
-        Properties()("aria-haspopup", "menu").Tell("MenuEntry", IdOf(*parent), "");
-        Properties()("role", "menu")("hidden", true)
-            .Tell("Menu", list, ListOf(window, parent->Parent()));
+        Element()("aria-haspopup", "menu").Put("MenuEntry", IdOf(*parent), "");
+        Element()("role", "menu")("hidden", true)
+            .Put("Menu", list, ListOf(window, parent->Parent()));
     }
     if (entry.Separator()) {
-        Properties()("role", "separator").Tell("Separator", IdOf(entry), list);
+        Element()("role", "separator").Put("Separator", IdOf(entry), list);
         return;
     }
     const char letter = AccessKey(entry.Caption.Get());
     const Key key = parent != nullptr ? entry.Shortcut : Key{letter, kAltKey};
-    Properties element;
+    const Element element;
     element("textContent", PlainCaption(entry.Caption.Get()));
     element("data-letter", letter == 0 ? std::string() : std::string(1, letter));
     element("aria-keyshortcuts", KeyName(key))("data-shortcut", KeyName(entry.Shortcut, "Strg+"));
     element("disabled", !entry.Enabled)("hidden", !entry.Visible);
-    element("role", entry.Checked ? "menuitemcheckbox" : "menuitem");
-    element("aria-checked", entry.Checked.Get()).Tell("MenuEntry", IdOf(entry), list);
+    // Where one entry of a list is checked, all are a choice.
+    const std::vector<MenuEntry*> all = window.MenuEntries();
+    const bool choice = std::any_of(all.begin(), all.end(), [&](const MenuEntry* other) {
+        return other->Parent() == parent && other->Checked;
+    });
+    element("role", choice ? "menuitemradio" : "menuitem");
+    element("aria-checked", choice ? entry.Checked ? "true" : "false" : "");
+    element.Put("MenuEntry", IdOf(entry), list);
 }
 
 // What only controls of its kind have. The kind names the element's class.
-const char* Describe(const Visual& visual, Properties& element)
+const char* Describe(const Visual& visual, const Element& element)
 {
     if (const auto* const image = dynamic_cast<const Image*>(&visual)) {
         element("data-picture", image->Picture->File());
@@ -130,7 +140,7 @@ const char* Describe(const Visual& visual, Properties& element)
     if (const auto* const box = dynamic_cast<const TextBox*>(&visual)) {
         element.Words(box->TextFont, box->ForeColor);
         element("--ground", Css(box->BackColor));
-        element("value", box->Text.Get())("maxLength", box->MaxLength);
+        element("value", box->Text.Get());
         element("readOnly", box->Locked.Get())("tabIndex", box->TabStop && !box->Locked ? 0 : -1);
         element("selectionEnd", box->SelStart + box->SelLength)("selectionStart",
                                                                 box->SelStart.Get());
@@ -158,14 +168,14 @@ const char* Describe(const Visual& visual, Properties& element)
 void PutVisual(const Visual& visual)
 {
     const std::vector<Visual*>& all = visual.Owner().FrontToBack();
-    Properties element;
+    const Element element;
     element("--level", std::distance(std::find(all.begin(), all.end(), &visual), all.end()));
     element.Bounds(visual.WindowLeft(), visual.WindowTop(), visual.Width, visual.Height);
     element("hidden", !visual.Seen())("title", visual.ToolTipText.Get());
     element("data-hand", visual.MousePointer == Pointer::Hand);
     element("data-highlight", visual.Owner().Highlighted() == &visual);
     const char* const kind = Describe(visual, element);
-    element.Tell(kind, IdOf(visual), IdOf(visual.Owner()));
+    element.Put(kind, IdOf(visual), IdOf(visual.Owner()));
 }
 
 }  // namespace
@@ -188,7 +198,7 @@ std::string IdOf(const Control& control)
 
 void Put(const Window& window, int level)
 {
-    Properties element;
+    const Element element;
     element("--level", level)("data-bar", Above(window) > 0)("--across", window.Picture->Width());
     element.Bounds(window.Left, window.Top, window.Width, window.Height);
     element("--ground", Css(window.BackColor));
@@ -203,9 +213,9 @@ void Put(const Window& window, int level)
     element("aria-hidden", silent)("aria-modal", modal == &window);
     element("inert", modal != nullptr && modal != &window);
     element("data-title", main || Above(window) == 0 ? std::string() : window.Caption.Get());
-    element.Tell("Window", IdOf(window), "screen");
+    element.Put("Window", IdOf(window), "screen");
     if (main) {
-        Properties()("textContent", window.Caption.Get()).Tell("", "title", "");
+        Element()("textContent", window.Caption.Get()).Put("", "title", "");
     }
 }
 
@@ -222,7 +232,7 @@ void Put(const Spoken& spoken, const std::string& name)
 {
     const bool presses = spoken.Kind == SpokenKind::Button || spoken.Kind == SpokenKind::Cell;
     const bool caption = dynamic_cast<const Label*>(spoken.Where) && spoken.Painted.empty();
-    Properties element;
+    const Element element;
     element("aria-hidden", "")("aria-label", caption ? "" : name);
     if (spoken.Kind != SpokenKind::NameBox && !caption) {
         element("role", presses ? "button" : "img");
@@ -230,7 +240,7 @@ void Put(const Spoken& spoken, const std::string& name)
     if (presses) {
         element("tabIndex", spoken.Kind == SpokenKind::Button ? 0 : -1);
     }
-    element.Tell("", IdOf(*spoken.Where), "");
+    element.Put("", IdOf(*spoken.Where), "");
 }
 
 }  // namespace malvone::web

@@ -70,13 +70,12 @@ void WebBinding::WindowShown(Window& window, ShowMode /*mode*/)
     }
     KeepOnScreen(window);
     Form& form = forms_.emplace_back(Form{&window, {}});
-    Put(window, 0);
     for (const Spoken& spoken : SpokenOn(window)) {
-        Put(*spoken.Where);
+        Touch(*spoken.Where);
         form.Said.emplace_back(spoken, "");
     }
     for (const Control* const control : window.Controls()) {
-        Put(*control);
+        Touch(*control);
     }
 }
 
@@ -98,7 +97,14 @@ void WebBinding::ControlChanged(Control& control, Change what)
     if (const auto* const timer = dynamic_cast<Timer*>(&control)) {
         Ask("timer", IdOf(control), timer->Running() ? timer->Interval.Get() : 0);
     } else if (control.Owner().Shown() && what != Change::Data) {
-        changed_.insert(&control);
+        Touch(control);
+    }
+}
+
+void WebBinding::Touch(const Control& control)
+{
+    if (std::find(changed_.begin(), changed_.end(), &control) == changed_.end()) {
+        changed_.push_back(&control);
     }
 }
 
@@ -112,20 +118,28 @@ void WebBinding::Ended()
     Ask("end");
 }
 
-// Before it waits, the program shows what has become different.
+// Before it waits, the program shows what has become different; where that is much, the browser
+// goes on in between.
 void WebBinding::ShowChanges()
 {
-    for (const Control* const control : changed_) {
-        Put(*control);
+    constexpr std::size_t kStep = 20;
+    int level = 0;
+    for (const Form& form : forms_) {
+        Put(*form.Model, ++level);
+    }
+    for (std::size_t i = 0; i < changed_.size(); ++i) {
+        Put(*changed_[i]);
+        if (i % kStep == kStep - 1) {
+            Ask<val>("pause").await();
+        }
     }
     changed_.clear();
-    int level = 0;
     for (Form& form : forms_) {
-        Put(*form.Model, ++level);
         for (auto& [spoken, told] : form.Said) {
-            if (std::string name = NameOf(spoken); name != told) {
+            const std::string name = NameOf(spoken);
+            if (std::string said = name + '\n' + DescriptionOf(spoken); said != told) {
                 Put(spoken, name);
-                told = std::move(name);
+                told = std::move(said);
             }
         }
     }
@@ -190,7 +204,7 @@ void WebBinding::Typed(TextBox& box, const std::string& text, std::int32_t caret
         box.SelStart = caret - static_cast<std::int32_t>(refused);
         box.SelLength = 0;
     }
-    changed_.insert(&box);  // the page has to forget what was refused
+    Touch(box);  // the page has to forget what was refused
 }
 
 void WebBinding::Pointed(Window& window, const std::string& kind, const val& event)

@@ -4,7 +4,6 @@
 
 #include <emscripten/val.h>
 
-#include <set>
 #include <string>
 #include <utility>
 #include <vector>
@@ -40,11 +39,12 @@ private:
     };
 
     std::vector<Form> forms_;  // from the lowest to the topmost
-    std::set<Control*> changed_;
+    std::vector<const Control*> changed_;
     Reporter reporter_;
     Window* dragged_ = nullptr;
     Mouse grip_;  // where the pressed window was pressed, from its corner
 
+    void Touch(const Control& control);
     void ShowChanges();
     void HandleNext();
     void Used(Control& control, const std::string& kind, const emscripten::val& event);

@@ -14,14 +14,12 @@ const listen = folder => new Promise((resolve, reject) => {
     bar: () => 360,
     storageAllowed: () => true,
     writeEntry: () => 0,
-    put(kind, id, inside, described) {
-      const of = elements.get(id) ?? { kind, id, inside };
-      for (const pair of described.split("\x1e").slice(0, -1)) {
-        const [name, value] = pair.split("\x1f");
-        of[name] = value;
-      }
-      elements.set(id, of);
+    told: {},
+    put(kind, id, inside) {
+      elements.set(id, { kind, id, inside, ...elements.get(id), ...told.told });
+      told.told = {};
     },
+    pause: () => Promise.resolve(),
     nextEvent: () => new Promise(() => resolve(elements)),
   };
   const context = vm.createContext({

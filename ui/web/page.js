@@ -35,20 +35,24 @@ var page = {
     }
     return element;
   },
-  put(kind, id, inside, described) {
+  // What the program tells of an element before it puts it, by name.
+  told: {},
+  put(kind, id, inside) {
     const element = byId(id) ?? this.make(kind, id, byId(inside));
-    element.told ??= {};
-    for (const property of described.split("\x1e").slice(0, -1)) {
-      const [name, value] = property.split("\x1f");
+    const before = element.told;
+    for (const [name, value] of Object.entries(this.told)) {
       // What is typed changes an input behind the program's back.
-      if (element.told[name] === value && element.localName !== "input") continue;
-      element.told[name] = value;
+      if (before?.[name] === value && element.localName !== "input") continue;
       if (name.startsWith("--")) element.style.setProperty(name, value);
       else if (name in element) element[name] = value;
       else if (value) element.setAttribute(name, value);
       else element.removeAttribute(name);
     }
+    element.told = { ...before, ...this.told };
+    this.told = {};
   },
+  // Later nothing is large enough to wait for.
+  pause: () => new Promise(done => (start.plays ? done() : setTimeout(done))),
   remove(id) {
     byId(id)?.remove();
     this.focused = null;
@@ -280,10 +284,14 @@ addEventListener("beforeunload", event => { if (page.gameRuns && !start.over) ev
 // drawn once before a control shows it.
 const build = src.replace(/^[^?]*/, "");
 const load = (tag, properties) => new Promise(onload => Object.assign(make(tag, "", document.head), { onload, ...properties }));
-const stock = ({ target }) => {
+const stock = async ({ target }) => {
   for (const { selectorText } of target.sheet.cssRules) {
     const picture = /data-picture="?([^"\]]+)/.exec(selectorText);
-    if (picture) make("i", "", byId("stock")).dataset.picture = picture[1];
+    if (!picture) continue;
+    const sample = make("i", "", byId("stock"));
+    sample.dataset.picture = picture[1];
+    // Reading its style makes the browser read the picture now, not all of them in one go.
+    if (getComputedStyle(sample).backgroundImage && byId("stock").children.length % 4 === 0) await page.pause();
   }
 };
 const loadGame = async () => {
