@@ -19,7 +19,7 @@ import tarfile
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 sys.path += [str(ROOT / "tests" / name) for name in ("support", "sound")]
 from desktop import YES, Desktop, Game
-from hoeren import Server
+from listening import Server
 from processes import expect, script, until
 
 # What only a real upload can settle: the number of the bug that asks for the package, and a place

@@ -8,11 +8,11 @@ import sys
 import tempfile
 import time
 
-import hoeren
-from hoeren import FILES, Server
+import listening
+from listening import FILES, Server
 from processes import Failed, end, expect, script, start, until
 
-PLAYER = os.path.join(os.environ.get("MALVONE_BUILD", "build/release"), "spieler")
+PLAYER = os.path.join(os.environ.get("MALVONE_BUILD", "build/release"), "sound_player")
 HELD_UP_MS = 1000   # A call returns at once, or within 0.1 s. One that waits for a sound takes longer.
 GIVEN_UP_S = 0.5    # By then a server that does not answer has been given up.
 
@@ -47,7 +47,7 @@ class Player:
         return [self.answer(name) for name in names]
 
     def devices(self):
-        return self.plays("zaehlen")[0][0]
+        return self.plays("count")[0][0]
 
     def leave(self):
         self.process.stdin.close()
@@ -59,7 +59,7 @@ class Player:
 
 
 def the_waves_are_what_their_script_makes():
-    run = subprocess.run([sys.executable, "-B", os.path.join(hoeren.WAVES, "sound.py"),
+    run = subprocess.run([sys.executable, "-B", os.path.join(listening.WAVES, "sound.py"),
                           "--check"], capture_output=True, text=True, timeout=60)
     expect(run.returncode == 0, run.stdout + run.stderr)
 
@@ -97,7 +97,7 @@ def what_is_no_wave_changes_nothing():
     with Server() as server, Player(server) as player:
         player.plays("CHIMES")
         server.hears("CHIMES", whole=False)
-        player.plays("", "/nirgends/TADA.WAV", __file__, "/tmp")
+        player.plays("", "/nowhere/TADA.WAV", __file__, "/tmp")
         server.hears("CHIMES")
 
 
@@ -122,7 +122,7 @@ def where_nothing_sounds_nobody_waits():
 
 def without_the_library_nothing_sounds():
     with Server() as server:
-        with Player(server, "libgibtesnicht.so.0") as player:
+        with Player(server, "libnosuchthing.so.0") as player:
             player.plays("TADA")
             expect(player.devices() == 0, "no device")
         # What has been heard after it was not there before.

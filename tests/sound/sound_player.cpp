@@ -1,6 +1,6 @@
 // A player for trials by ear and by machine: plays wave files as the game does.
-//   spieler [LIBRARY]
-// Each line of the input is the path of a wave, empty for none, or "zaehlen" for the number of
+//   sound_player [LIBRARY]
+// Each line of the input is the path of a wave, empty for none, or "count" for the number of
 // devices. Each is answered by how many milliseconds the game would have been held up, and by the
 // number; so are the beginning and the end.
 #include "ui/sound/Sound.h"
@@ -27,7 +27,7 @@ int main(int argc, char** argv)
     malvone::Sound sound(argc > 1 ? argv[1] : "libpulse.so.0");
     std::cout << Measured([&] { sound.Prepare(); }) << std::endl;
     for (std::string line; std::getline(std::cin, line);) {
-        if (line == "zaehlen") {
+        if (line == "count") {
             std::int32_t devices = 0;
             std::cout << Measured([&] { devices = sound.DeviceCount(); });
             std::cout << ' ' << devices << std::endl;
