@@ -203,6 +203,11 @@ test("messages are answered by pointer, key and touch, and move", async t => {
   await game.mouse("up");
   await game.until(left => document.getElementById("frmMsgJa").getBoundingClientRect().x > left, before.x + 40);
   assert.equal(await game.run(() => getComputedStyle(document.getElementById("frmMsgJa"), "::before").content), "none");
+  await game.point("frmMsgJa.lblName");
+  await game.mouse("down");
+  for (const way of [10, 5000]) await game.mouse("move", way, way);
+  await game.mouse("up");
+  await game.until(() => document.getElementById("frmMsgJa").getBoundingClientRect().bottom <= innerHeight);
   await game.press("Escape");
   await game.gone("frmMsgJa");
   await game.click("frmTessel.lblEnde");
@@ -216,17 +221,43 @@ test("messages are answered by pointer, key and touch, and move", async t => {
   await game.starts();
 });
 
-test("a finger points first and takes then, on a telephone held upright too", async t => {
+test("a finger takes where it is lifted; two zoom, a long one tells, on a telephone held upright too", async t => {
   const game = await open(t, { size: phone });
-  const tap = async id => game.page.touchscreen.tap(...await game.middle(id));
+  const touch = async id => game.page.touchscreen.touchStart(...await game.middle(id));
+  const lift = async (...fingers) => { for (const finger of fingers) await finger.end(); };
+  const tap = async id => lift(await touch(id));
+  const held = await touch("frmTessel.lblNeu");
+  await game.until(() => document.getElementById("tip").textContent === "Neues Spiel beginnen" && !document.getElementById("tip").hidden);
+  await lift(held);
   await tap("frmTessel.lblNeu");
   await game.named("frmTessel.Image4", "Level: 1");
   const stone = await game.group();
+  await lift(await touch(stone), await touch("frmTessel.imgFeld(140)"));
+  const slid = await touch(stone);
+  await slid.move(20, 300);
+  await lift(slid);
+  const [x, y] = await game.middle(stone);
+  await (await game.page.createCDPSession()).send("Input.synthesizePinchGesture", { x, y, scaleFactor: 2 });
+  assert.ok(await game.run(() => visualViewport.scale > 1.5));
+  assert.equal(await game.run(() => document.getElementById("frmTessel.lblSumme").textContent), "");
+  await (await game.page.createCDPSession()).send("Input.synthesizePinchGesture", { x, y, scaleFactor: 0.2 });
   await tap(stone);
   await game.reads("frmTessel.lblSumme", "ergibt");
   assert.equal(await game.name("frmTessel.Image3"), "Punkte: 0");
   await tap(stone);
   await game.until(() => document.getElementById("frmTessel.Image3").ariaLabel !== "Punkte: 0");
+});
+
+test("a pen that does not hover is a finger", async t => {
+  const game = await open(t);
+  await game.begin();
+  const pen = await game.page.createCDPSession();
+  const [x, y] = await game.middle(await game.group());
+  for (const type of ["mousePressed", "mouseReleased"]) {
+    await pen.send("Input.dispatchMouseEvent", { type, x, y, pointerType: "pen", button: "left", buttons: 1, clickCount: 1 });
+  }
+  await game.reads("frmTessel.lblSumme", "ergibt");
+  assert.equal(await game.name("frmTessel.Image3"), "Punkte: 0");
 });
 
 test("the game is played and an entry made by keyboard alone", async t => {
@@ -343,8 +374,11 @@ test("the first picture is the game's, and is seen before the program is there",
   await game.until(() => document.querySelector("#first svg"));
   const before = await boxes("#first .Window", "#first .PictureBox");
   assert.match(await game.run(() => document.querySelector("#first").innerText), /Klicken Sie auf »Neues Spiel«/);
+  // What is clicked there is kept: a new game.
+  await game.page.mouse.click(before[0].x + 0.14 * before[0].width, before[0].y + 0.8 * before[0].height);
   (await held).continue();
   await game.starts();
+  await game.named("frmTessel.Image4", "Level: 1");
   assert.deepEqual(await boxes("#frmTessel", "#frmTessel .PictureBox"), before);
   assert.equal(await game.run(() => document.querySelector("#first")), null);
 });

@@ -2,6 +2,7 @@
 #include "ui/web/WebBinding.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "platform/CodePage.h"
 #include "state/Spielstand.h"
@@ -222,19 +223,19 @@ void WebBinding::Pointed(Window& window, const std::string& kind, const val& eve
     } else if (kind == "move") {
         PointerMoved(window, mouse);
     } else if (kind == "up") {
-        dragged_ = nullptr;
+        if (std::exchange(dragged_, nullptr) == &window) {
+            KeepOnScreen(window);  // beyond the page's edge it could not be reached
+        }
         PointerReleased(window, mouse);
     } else if (window.Role == WindowRole::Backdrop) {
         RaiseActivate(window);
+    } else if (kind == "finger") {
+        FingerPressed(window, mouse);
+        PointerReleased(window, mouse);
     } else {
         grip_ = Mouse{0, 0, x, y};
-        if (mouse.Y < 0 && App.TakesInput(window)) {
-            dragged_ = &window;
-        } else if (event["finger"].as<bool>()) {
-            FingerPressed(window, mouse);
-        } else {
-            PointerPressed(window, mouse);
-        }
+        dragged_ = mouse.Y < 0 && App.TakesInput(window) ? &window : nullptr;
+        PointerPressed(window, mouse);
     }
 }
 

@@ -213,25 +213,63 @@ const shiftAt = ({ clientX, clientY }) => {
   const style = getComputedStyle(document.elementFromPoint(clientX, clientY) ?? screenBox);
   return ["x", "y"].map(axis => Number(style.getPropertyValue(`--shift-${axis}`)));
 };
-for (const type of ["pointerdown", "pointermove", "pointerup", "pointercancel"]) {
-  screenBox.addEventListener(type, event => {
-    const window = event.target.closest(".Window");
+const send = (kind, event, window) => {
+  const lost = kind === "cancel";
+  const [across, down] = shiftAt(event);
+  page.push({
+    kind: lost ? "up" : kind,
+    target: window.id || "frmTessel",  // the first picture has no name
+    x: lost ? -1e6 : event.clientX / start.twip - across,
+    y: event.clientY / start.twip - down,
+    button: kind === "move" ? event.buttons & 7 : [1, 4, 2][event.button] ?? 0,
+    shift: shiftOf(event),
+  });
+};
+
+// A finger acts where it is lifted, if it came down there: until then it may zoom with a second one,
+// drag a message, or stay for the tip. A pen that does not hover is a finger.
+const finger = {
+  from: null,
+  drags: false,
+  penHovers: false,
+  is: ({ pointerType }) => pointerType === "touch" || (pointerType === "pen" && !finger.penHovers),
+  forget() {
+    clearTimeout(finger.held);
+    finger.from = null;
+    byId("tip").hidden = true;
+  },
+  down(event) {
+    finger.from = event;
+    finger.held = setTimeout(() => {
+      byId("tip").textContent = event.target.closest('[title]:not([title=""])')?.title;
+      byId("tip").hidden = !byId("tip").textContent;
+    }, 600);
+  },
+  move(event, window) {
+    if (!finger.from || Math.hypot(event.clientX - finger.from.clientX, event.clientY - finger.from.clientY) < 10) return;
+    finger.drags = !window.matches("[role=main], .first");
+    if (finger.drags) send("down", finger.from, window);
+    finger.forget();
+  },
+  up(event, window) {
+    if (finger.from && byId("tip").hidden) send("finger", event, window);
+    finger.forget();
+  },
+  cancel: () => finger.forget(),
+};
+for (const kind of ["down", "move", "up", "cancel"]) {
+  addEventListener(`pointer${kind}`, event => {
+    if (event.pointerType === "pen" && kind === "move" && !event.buttons) finger.penHovers = true;
+    if (!event.isPrimary) finger.forget();
+    const window = event.target.closest?.(".Window");
     if (!window || event.target.closest("[role=menubar], button, input") || !event.isPrimary) return;
-    if (type === "pointerdown") {
+    if (kind === "down") {
       menu.leave();
       window.setPointerCapture(event.pointerId);
     }
-    const lost = type === "pointercancel";
-    const [across, down] = shiftAt(event);
-    page.push({
-      kind: lost ? "up" : type.slice("pointer".length),
-      target: window.id,
-      x: lost ? -1e6 : event.clientX / start.twip - across,
-      y: event.clientY / start.twip - down,
-      button: type === "pointermove" ? event.buttons & 7 : [1, 4, 2][event.button] ?? 0,
-      shift: shiftOf(event),
-      finger: event.pointerType === "touch",
-    });
+    if (finger.is(event) && !finger.drags) return finger[kind](event, window);
+    finger.drags &&= kind === "move";
+    return send(kind, event, window);
   });
 }
 screenBox.addEventListener("focusin", event => { if (!menu.bar()?.contains(event.target)) menu.go(); });
