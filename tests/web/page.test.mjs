@@ -276,8 +276,10 @@ test("the game is played and an entry made by keyboard alone", async t => {
   const box = "frmBeste.txtSpieler(0)";
   await game.holds(box, "Spieler");
   await game.page.keyboard.sendCharacter("中文");  // as a paste does: it comes at once
+  await game.press("Alt+KeyA");
   await game.holds(box, "Spieler");
-  await game.type("Jörg 中Müßig");
+  await game.press("Escape");  // what is being typed is not thrown away
+  await game.page.keyboard.sendCharacter("Jo\u0308rg 中Mu\u0308ßig");
   await game.holds(box, "Jörg Müßig");
   await game.press("Tab");
   while (await game.run(() => document.activeElement.id !== "frmBeste.cmdEnde")) await game.press("Tab");
@@ -286,22 +288,29 @@ test("the game is played and an entry made by keyboard alone", async t => {
   await game.page.reload();
   await game.starts();
   await game.press("Alt+KeyI");
-  await game.press("ArrowUp");
+  await game.press("End");
   await game.press("Enter");
   await game.sees("frmBeste");
   await game.holds(box, "Jörg Müßig");
+  await game.press("Escape");
+  await game.gone("frmBeste");
 });
 
 test("arrow keys play, and a screen reader hears what is seen", async t => {
-  const game = await open(t);
+  const calm = [{ name: "prefers-reduced-motion", value: "reduce" }];
+  const game = await open(t, { prepare: page => page.emulateMediaFeatures(calm) });
+  assert.equal(await game.run(() => page.timers["frmTessel.Timer1"]), undefined);
   await game.begin();
+  const focus = () => game.run(() => document.activeElement.id);
   const stone = Number(/\d+/.exec(await game.group())) - 1;
   for (let i = 0; i < 1 + Math.floor(stone / 10); ++i) await game.press("ArrowRight");
   for (let i = 9; i > stone % 10; --i) await game.press("ArrowUp");
-  assert.equal(await game.run(() => document.activeElement.id), `frmTessel.imgFeld(${stone + 1})`);
-  await game.press("Delete");
+  assert.equal(await focus(), `frmTessel.imgFeld(${stone + 1})`);
+  assert.match(await game.run(() => document.activeElement.getAttribute("aria-description")), /^Dieser Spielzug ergibt \d+ Punkte!$/);
+  await game.press("Enter");
   await game.reads("news", "Steine entfernt");
-  await game.press("Control+KeyE");
+  while (await focus() !== "frmTessel.lblEnde") await game.press("Tab");
+  await game.press("Enter");
   await game.sees("frmMsgJa");
   const tree = JSON.stringify(await game.page.accessibility.snapshot());
   assert.match(tree, /"alertdialog".*"name":"Malvone Vers.: .*"description":"[^"]*beenden/);
@@ -309,8 +318,31 @@ test("arrow keys play, and a screen reader hears what is seen", async t => {
   assert.doesNotMatch(tree, /Spalte/);
   await game.press("KeyN");
   await game.gone("frmMsgJa");
+  assert.equal(await focus(), "frmTessel.lblEnde");
   const board = JSON.stringify(await game.page.accessibility.snapshot());
   for (const part of ["menubar", '"name":"Punkte: ', '"name":"Neues Spiel"', '"name":"Spalte 14, Reihe 10, ']) assert.ok(board.includes(part), part);
+});
+
+test("the menu opens, switches and closes", async t => {
+  const game = await open(t);
+  const shows = (...ids) => game.until(all => [...document.querySelectorAll("[aria-expanded=true]")].map(e => e.id).join() === all, ids.join());
+  await game.press("Tab");
+  assert.equal(await game.run(() => document.activeElement.id), "frmTessel.mnuTesselMenu");
+  await game.click("frmTessel.mnuTesselMenu");
+  await shows("frmTessel.mnuTesselMenu");
+  await game.point("frmTessel.mnuOptionen");
+  await shows("frmTessel.mnuOptionen");
+  await game.point("frmTessel.mnuSound");
+  await shows("frmTessel.mnuOptionen", "frmTessel.mnuSound");
+  await game.click("frmTessel.mnuSoundaus");
+  await shows();
+  const roles = await game.run(() => [...document.querySelectorAll("[role=menuitemradio]")].map(entry => entry.textContent + entry.ariaChecked));
+  assert.deepEqual(roles, ["anfalse", "austrue"]);
+  await game.click("frmTessel.mnuMenuInfo");
+  await game.press("End");
+  assert.equal(await game.run(() => document.activeElement.textContent), "Beste Spieler...");
+  await game.click("frmTessel.mnuMenuInfo");
+  await shows();
 });
 
 test("a storage that is full, cleared or forbidden gives the game's own messages", async t => {

@@ -234,6 +234,9 @@ void Put(const Spoken& spoken, const std::string& name)
     const bool caption = dynamic_cast<const Label*>(spoken.Where) && spoken.Painted.empty();
     const Element element;
     element("aria-hidden", "")("aria-label", caption ? "" : name);
+    if (spoken.Kind == SpokenKind::Cell) {
+        element("aria-description", DescriptionOf(spoken));
+    }
     if (spoken.Kind != SpokenKind::NameBox && !caption) {
         element("role", presses ? "button" : "img");
     }

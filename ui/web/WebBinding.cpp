@@ -27,6 +27,12 @@ void KeepOnScreen(Window& window)
                 std::max<Twips>(0, std::min<Twips>(window.Top, Screen.Height - window.Height)));
 }
 
+bool IsTypedInto(const Window& window)
+{
+    const auto* const box = dynamic_cast<const TextBox*>(window.Focus());
+    return box != nullptr && !box->Locked;
+}
+
 }  // namespace
 
 void WebBinding::Run()
@@ -246,7 +252,13 @@ void WebBinding::KeyPressed(const val& event)
     if (window == nullptr || (event["held"].as<bool>() && !MayRepeat(key))) {
         return;
     }
-    if (!RouteKey(*window, key) && App.TakesInput(*window)) {
+    if (RouteKey(*window, key) || !App.TakesInput(*window)) {
+        return;
+    }
+    if (key == Key{kKeyEsc, 0} && window->BorderStyle == Border::FixedSingle &&
+        !IsTypedInto(*window)) {
+        RaiseClose(*window);  // as everywhere on pages
+    } else {
         Ask("openMenu", event["text"]);
     }
 }

@@ -20,11 +20,14 @@ var page = {
     const element = make({ MenuEntry: "button", TextBox: "input" }[kind] ?? "div", kind, control ? inside.client : inside, id);
     if (kind === "Window") {
       element.tabIndex = -1;
+      element.opener = document.activeElement;
+      element.client = make("div", "Client", element);
       const close = make("button", "Close", element);
       close.textContent = "×";
       close.setAttribute("aria-label", "Schließen");
       close.onclick = () => page.push({ kind: "close", target: id });
-      element.client = make("div", "Client", element);
+    } else if (kind === "Menu" && inside.client) {
+      inside.prepend(element);  // the first that the Tab key leads to
     } else if (kind === "MenuEntry") {
       element.tabIndex = inside === menu.bar() && !element.previousSibling ? 0 : -1;
       element.onclick = () => menu.choose(element);
@@ -54,13 +57,18 @@ var page = {
   // Later nothing is large enough to wait for.
   pause: () => new Promise(done => (start.plays ? done() : setTimeout(done))),
   remove(id) {
+    this.back = byId(id)?.opener;
     byId(id)?.remove();
     this.focused = null;
   },
-  // The text box that is typed into, the place of the arrow keys, or the topmost window.
+  // The text box that is typed into, what the arrow keys have led to, or the topmost window; in a
+  // window that comes back, what had the focus before.
   focus(id) {
-    if (this.focused !== id) byId(id).focus({ preventScroll: true });
+    if (this.focused === id) return;
+    const goal = byId(id);
+    (goal.contains(this.back) ? this.back : goal).focus({ preventScroll: true });
     this.focused = id;
+    this.back = null;
   },
   say(text) { byId("news").textContent = text; },
 
@@ -97,10 +105,12 @@ var page = {
     byId("news").textContent = "";
     navigator.serviceWorker?.register("worker.js").catch(() => {});
   },
+  // The one timer makes an arrow blink; who wants no motion is spared it.
   timers: {},
   timer(id, interval) {
     clearInterval(this.timers[id]);
-    if (interval) this.timers[id] = setInterval(() => this.push({ kind: "timer", target: id }), interval);
+    const calm = matchMedia("(prefers-reduced-motion: reduce)").matches;
+    if (interval && !calm) this.timers[id] = setInterval(() => this.push({ kind: "timer", target: id }), interval);
   },
 
   // Sounds and manuals are loaded when they are first needed; before the first gesture no browser
@@ -153,16 +163,18 @@ var page = {
   end() { start.tell("Das Spiel ist beendet."); },
 };
 
-// The list behind an entry is open while the focus is on the entry or in the list. The program
-// hears what was chosen.
+// The list behind an entry is open while the focus is in it, or where a pointer or a key has led to
+// the entry. The program hears what was chosen.
 const menu = {
   bar: () => screenBox.querySelector("[role=menubar]"),
+  isOpen: () => menu.bar()?.querySelector("[aria-expanded=true]"),
   entries: list => [...list.children].filter(entry => entry.matches("button:enabled:not([hidden])")),
   below: entry => (entry.hasAttribute("aria-haspopup") ? menu.entries(entry.nextSibling) : []),
-  go(entry) {
-    for (const list of screenBox.querySelectorAll("[role=menu]")) {
-      const owner = list.previousSibling;
-      list.hidden = !list.contains(entry) && owner !== entry;
+  go(entry, open) {
+    for (const owner of screenBox.querySelectorAll("[aria-haspopup]")) {
+      const list = owner.nextSibling;
+      list.hidden = !list.contains(entry) && !(open && owner === entry);
+      owner.setAttribute("aria-expanded", !list.hidden);
       if (list.parentElement === menu.bar()) list.style.left = owner.offsetLeft + "px";
     }
     entry?.focus({ preventScroll: true });
@@ -170,6 +182,7 @@ const menu = {
   leave() { if (menu.bar()?.contains(document.activeElement)) menu.go(menu.bar().parentElement); },
   choose(entry) {
     const first = menu.below(entry)[0];
+    if (first && entry === menu.isOpen()) return menu.go(entry);
     if (first) return menu.go(first);
     menu.leave();
     return page.push({ kind: "menu", target: entry.id });
@@ -190,9 +203,11 @@ const menu = {
       ArrowRight: () => (!inBar && menu.below(here)[0]) || step(menu.entries(bar), top, 1),
       ArrowLeft: () => (inBar || list.previousSibling === top ? step(menu.entries(bar), top, -1)
         : list.previousSibling),
+      Home: () => menu.entries(list)[0],
+      End: () => menu.entries(list).at(-1),
       Escape: () => (inBar ? bar.parentElement : list.previousSibling),
     }[event.key];
-    if (to) menu.go(to());
+    if (to) menu.go(to(), menu.isOpen() && event.key.startsWith("Arrow"));
     else if (letter) menu.choose(letter);
     else return event.key !== "Tab" && event.key.length === 1;
     event.preventDefault();
@@ -272,6 +287,11 @@ for (const kind of ["down", "move", "up", "cancel"]) {
     return send(kind, event, window);
   });
 }
+// While a list is open, pointing is enough.
+screenBox.addEventListener("pointerover", ({ target, pointerType }) => {
+  const entry = target.closest("[role^=menuitem]");
+  if (entry && pointerType === "mouse" && menu.isOpen()) menu.go(entry, true);
+});
 screenBox.addEventListener("focusin", event => { if (!menu.bar()?.contains(event.target)) menu.go(); });
 // A pointer on the board leaves the focus where it is.
 screenBox.addEventListener("mousedown", event => {
@@ -287,29 +307,33 @@ for (const type of ["input", "compositionend", "focusin"]) {
   screenBox.addEventListener(type, event => {
     const box = event.target;
     if (box.localName !== "input" || box.readOnly || event.isComposing) return;
-    page.push({ kind: type === "focusin" ? "focus" : "text", target: box.id, text: box.value,
-      caret: [...box.value.slice(0, box.selectionStart)].length });
+    const upTo = end => box.value.slice(0, end).normalize("NFC");
+    page.push({ kind: type === "focusin" ? "focus" : "text", target: box.id, text: upTo(Infinity),
+      caret: [...upTo(box.selectionStart)].length });
   });
 }
 
 addEventListener("keydown", event => {
   const here = document.activeElement;
-  if (start.over || event.isComposing || event.getModifierState("AltGraph") || menu.key(event)) return;
+  if (start.over || event.isComposing || event.metaKey || event.getModifierState("AltGraph") || menu.key(event)) return;
+  // The codes of the layer are the browser's old numbers for keys. What the arrow keys have led to
+  // is taken as by Delete.
+  let code = event.keyCode;
   if (event.key === "Enter" || event.key === " ") {
     if (here.matches("button")) return;
-    if (here.matches("[role=button][tabindex='0']")) {
+    if (here.dataset.highlight) {
+      code = 46;
+    } else if (here.matches("[role=button]")) {
       event.preventDefault();
       if (!event.repeat) page.push({ kind: "press", target: here.id });
       return;
     }
   }
-  // The codes of the layer are the browser's old numbers for keys.
-  const code = event.keyCode;
   const text = (event.ctrlKey ? "Control+" : event.altKey ? "Alt+" : "") +
     (code >= 65 && code <= 90 ? String.fromCharCode(code) : event.key);
-  // What a key opens, it must not type into.
-  const letter = event.key.length === 1 && !event.ctrlKey && !event.altKey && !event.metaKey;
-  if ((letter && here.localName !== "input") || withKeys(text)) event.preventDefault();
+  // What a key opens, it must not type into; a letter with Alt is no letter.
+  const letter = event.key.length === 1 && !event.ctrlKey && !event.altKey;
+  if ((letter && here.localName !== "input") || withKeys(text) || (event.altKey && /^[a-z]$/i.test(event.key))) event.preventDefault();
   page.push({ kind: "key", code, shift: shiftOf(event), held: event.repeat, text });
 });
 addEventListener("resize", () => {
