@@ -83,7 +83,12 @@ FileFault WebPlatform::WriteTextLines(const std::string& path,
     if (Over) {
         return FileFault::None;
     }
-    return FolderOfExists(path) ? WriteEntry(path, FileContent(lines)) : FileFault::NotFound;
+    if (FolderOfExists(path)) {
+        return WriteEntry(path, FileContent(lines));
+    }
+    // The player has cleared the storage: what follows is kept again.
+    CreateDirectoryA(path.substr(0, path.rfind('\\')));
+    return FileFault::NotFound;
 }
 
 FileFault WebPlatform::ReplaceTextLines(const std::string& path,
