@@ -103,6 +103,7 @@ var page = {
     start.plays = true;
     byId("first").remove();
     byId("news").textContent = "";
+    this.fetchSounds();
     navigator.serviceWorker?.register("worker.js").catch(() => {});
   },
   // The one timer makes an arrow blink; who wants no motion is spared it.
@@ -113,13 +114,28 @@ var page = {
     if (interval && !calm) this.timers[id] = setInterval(() => this.push({ kind: "timer", target: id }), interval);
   },
 
-  // Sounds and manuals are loaded when they are first needed; before the first gesture no browser
-  // would play.
-  sound(name) {
-    this.audio?.pause();
-    if (!name || navigator.userActivation?.hasBeenActive === false) return;
-    this.audio = new Audio(name);
-    this.audio.play().catch(() => {});
+  // Sounds come once the game is there. Browsers play nothing before the first gesture; what the game
+  // says until then is not said later.
+  waves: {},
+  fetchSounds() {
+    for (const name of given.beside.match(/\S+\.wav/gi)) {
+      this.waves[name] = fetch(name).then(answer => answer.arrayBuffer()).catch(() => null);
+    }
+  },
+  unmute() {
+    if (navigator.userActivation?.isActive === false || !globalThis.AudioContext) return;
+    page.speaker ??= new AudioContext();
+    page.speaker.resume();
+  },
+  async sound(name) {
+    this.playing?.disconnect();
+    if (!name || !this.speaker) return;
+    const playing = this.playing = new AudioBufferSourceNode(this.speaker);
+    const bytes = await this.waves[name];
+    playing.buffer = await this.speaker.decodeAudioData(bytes?.slice()).catch(() => null);
+    if (playing !== this.playing) return;
+    playing.connect(this.speaker.destination);
+    playing.start();
   },
   open(name) { window.open(name, "_blank", "noopener"); },
 
@@ -336,6 +352,7 @@ addEventListener("keydown", event => {
   if ((letter && here.localName !== "input") || withKeys(text) || (event.altKey && /^[a-z]$/i.test(event.key))) event.preventDefault();
   page.push({ kind: "key", code, shift: shiftOf(event), held: event.repeat, text });
 });
+for (const gesture of ["mousedown", "pointerup", "keydown"]) addEventListener(gesture, page.unmute, true);
 addEventListener("resize", () => {
   start.fit();
   page.push({ kind: "resize" });
