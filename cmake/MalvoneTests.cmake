@@ -37,7 +37,7 @@ endfunction()
 
 malvone_tests(core_tests malvone_drehbuch SOURCES
     tests/layer/*Test.cpp tests/windows/*Test.cpp tests/board/*Test.cpp
-    tests/storage/*Test.cpp tests/game/*Test.cpp tests/ui/*Test.cpp)
+    tests/storage/*Test.cpp tests/ui/*Test.cpp)
 malvone_tests(drehbuch_tests malvone_drehbuch SOURCES tests/games/*Test.cpp)
 
 if(MALVONE_QT)
