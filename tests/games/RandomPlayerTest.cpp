@@ -88,9 +88,9 @@ private:
         // The end of the program is asked for often, and not always meant.
         const bool leaving = frmMsgJa.Loaded() && frmTessel->Shown() && Throw(4) > 0;
         const std::string& command = known.at(Throw(known.size()));
-        if (command.starts_with("board ")) {  // a click shows what has been set
+        if (command.starts_with("board ")) {  // in a level; a click shows what has been set
             const int stone = static_cast<int>(command.find_first_not_of('0', 6)) - 5;
-            return command + PointAt(stone) + Press(stone);
+            return Stand.RundenZahl == 0 ? "key Enter\n" : command + PointAt(stone) + Press(stone);
         }
         return leaving ? "key N\n" : command;
     }
