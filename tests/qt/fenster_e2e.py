@@ -93,14 +93,6 @@ def drag(game, window, across, down):
           "the message to follow the pointer")
 
 
-def drag_message(game):
-    game.key("ctrl+e")
-    window = game.message()
-    drag(game, window, 90, -60)
-    game.click(NO, window)
-    game.no_message()
-
-
 def move_main_window(game):
     game.desktop.do("windowmove", game.main, 60, 40)
     until(lambda: game.desktop.place(game.main)[0] < 80, "the main window to move")
@@ -116,36 +108,6 @@ def opens_centred(game):
     return right
 
 
-def click_on_backdrop(game, window):
-    """The backdrop takes the click, and gives the front back to a window."""
-    with open(os.path.join(game.desktop.folder, "active"), "w+", encoding="ascii") as log:
-        game.desktop.start("xprop", "-root", "-spy", "_NET_ACTIVE_WINDOW", stdout=log)
-
-        def active():
-            log.seek(0)
-            return [int(line.split()[-1], 16) for line in log.read().split("\n")[:-1]]
-
-        until(active, "the active window")
-        game.desktop.do("mousemove", *(length - 20 for length in game.desktop.size), "click", 1)
-        until(lambda: len(active()) > 2 and active()[-1] == int(window), "the front to come back")
-    stacked = game.desktop.run("xprop", "-root", "_NET_CLIENT_LIST_STACKING").split("#")[-1]
-    order = [int(number, 16) for number in stacked.split(",")]
-    expect(order[-1] == int(window), "the window before the backdrop")
-
-
-def front_comes_back(game):
-    look = game.look(*BOARD)
-    click_on_backdrop(game, game.main)
-    until(lambda: game.look(*BOARD) == look, "the game before its backdrop")
-    game.key("ctrl+e")
-    window = game.message()
-    look = game.look(*BOARD)
-    click_on_backdrop(game, window)
-    until(lambda: game.look(*BOARD) == look, "game and question before the backdrop")
-    game.key("n")
-    game.no_message()
-
-
 def leave(game):
     game.key("alt+F4")
     game.click(YES, game.message())
@@ -157,7 +119,7 @@ def main():
     for scale in (1, 1.5):
         with Desktop(QT_SCALE_FACTOR=str(scale)) as desktop, Game(desktop, scale) as game:
             for step in (new_game, hover_and_move, next_level, message_by_pointer_and_key,
-                         drag_message, move_main_window, front_comes_back, leave):
+                         move_main_window, leave):
                 try:
                     step(game)
                 except Failed as failure:

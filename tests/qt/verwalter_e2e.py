@@ -36,6 +36,13 @@ def front_is_kept(name, desktop, game):
         desktop.do("windowminimize", game.main)
         desktop.do("mousemove", SCREEN[0] - 4, SCREEN[1] // 2, "click", 1)
         until(lambda: game.look(*BOARD) == board, "the game that was minimised")
+    game.click(LEAVE)
+    message = game.message()
+    both = game.look(*BOARD)
+    desktop.do("mousemove", SCREEN[0] - 4, SCREEN[1] // 2, "click", 1)
+    until(lambda: game.look(*BOARD) == both, "game and question before the backdrop")
+    game.click(NO, message)
+    game.no_message()
 
 
 def message_is_torn_away(desktop, game):
