@@ -1,7 +1,7 @@
 // Events.cpp: events and keys by name, delivered as a player would cause them, and who may get
 // them.
 #include <algorithm>
-#include <array>
+#include <map>
 
 #include "tests/drehbuch/Commands.h"
 #include "tests/drehbuch/Objects.h"
@@ -30,12 +30,8 @@ bool Reachable(const Control& control)
 
 Answer ToWindow(Window& window, std::string_view event, const Mouse& mouse)
 {
-    if (event == "Activate") {
-        return Told(RaiseActivate(window));
-    }
-    if (event == "Close") {
-        return Told(RaiseClose(window));
-    }
+    if (event == "Activate") return Told(RaiseActivate(window));
+    if (event == "Close") return Told(RaiseClose(window));
     const bool takes = App.TakesInput(window);
     if (takes) {
         window.Form_MouseMove(mouse);
@@ -82,51 +78,32 @@ constexpr EventRow kEvents[] = {
     {"Close", true, false},
 };
 
-struct NamedKey
-{
-    std::string_view Name;
-    std::int16_t Code;
+using NamedKeys = std::map<std::string_view, std::int16_t>;
+const NamedKeys kKeys = {
+    {"Enter", kKeyEnter}, {"Space", kKeySpace}, {"Esc", kKeyEsc},       {"Tab", kKeyTab},
+    {"F1", kKeyF1},       {"Left", kKeyLeft},   {"Up", kKeyUp},         {"Right", kKeyRight},
+    {"Down", kKeyDown},   {"Back", kKeyBack},   {"Delete", kKeyDelete},
 };
-constexpr std::array<NamedKey, 11> kKeys = {{
-    {"Enter", kKeyEnter},
-    {"Space", kKeySpace},
-    {"Esc", kKeyEsc},
-    {"Tab", kKeyTab},
-    {"F1", kKeyF1},
-    {"Left", kKeyLeft},
-    {"Up", kKeyUp},
-    {"Right", kKeyRight},
-    {"Down", kKeyDown},
-    {"Delete", kKeyDelete},
-    {"Back", kKeyBack},
-}};
-constexpr std::array<NamedKey, 3> kModifiers = {{
-    {"Ctrl+", kCtrlKey},
-    {"Alt+", kAltKey},
-    {"Shift+", kShiftKey},
-}};
+const NamedKeys kModifiers = {{"Ctrl", kCtrlKey}, {"Alt", kAltKey}, {"Shift", kShiftKey}};
 
 }  // namespace
 
 std::optional<Key> KeyFrom(std::string_view name)
 {
     Key key;
-    const auto begun = [&](const NamedKey& known) { return name.starts_with(known.Name); };
-    const auto first = [&] { return std::find_if(kModifiers.begin(), kModifiers.end(), begun); };
-    for (auto m = first(); m != kModifiers.end(); m = first()) {
-        key.Shift = static_cast<std::int16_t>(key.Shift | m->Code);
-        name.remove_prefix(m->Name.size());
+    while (name.find('+') != std::string_view::npos) {
+        const auto modifier = kModifiers.find(CutOff(name, '+'));
+        if (modifier == kModifiers.end()) {
+            return std::nullopt;
+        }
+        key.Shift = static_cast<std::int16_t>(key.Shift | modifier->second);
     }
-    const auto found = std::find_if(kKeys.begin(), kKeys.end(),
-                                    [&](const NamedKey& known) { return known.Name == name; });
-    if (found != kKeys.end()) {
-        key.Code = found->Code;
-    } else if (name.size() == 1 && name[0] >= 'A' && name[0] <= 'Z') {
-        key.Code = static_cast<unsigned char>(name[0]);
-    } else {
-        return std::nullopt;
-    }
-    return key;
+    const bool letter = name.size() == 1 && name[0] >= 'A' && name[0] <= 'Z';
+    const auto found = kKeys.find(name);
+    key.Code = letter                 ? static_cast<unsigned char>(name[0])
+               : found != kKeys.end() ? found->second
+                                      : std::int16_t{0};
+    return key.Code == 0 ? std::nullopt : std::optional(key);
 }
 
 Answer DeliverEvent(std::string_view line)

@@ -1,63 +1,19 @@
 // main.cpp: the script program: standard input in, standard output out.
-#include <getopt.h>
-
 #include <csignal>
-#include <cstdio>
 #include <iostream>
+#include <span>
 
 #include "tests/drehbuch/Script.h"
-#include "tests/drehbuch/Text.h"
+#include "ui/layer/Number.h"
 
 namespace {
 
-using malvone::script::Options;
-
-// What is told beside the lines of every script.
-struct Told
-{
-    bool Changes = false;
-    bool Spoken = false;
-};
-
 template<class Number>
-bool ReadNumber(Number& number)
+bool Read(std::string_view text, Number& number)
 {
-    const auto read = malvone::NumberFrom<Number>(optarg);
+    const auto read = malvone::NumberFrom<Number>(text);
     number = read.value_or(0);
     return read && *read >= 0;
-}
-
-// What the command line says; false, and a message, where it is not in order.
-bool ReadOptions(int argc, char** argv, Options& options, Told& told)
-{
-    constexpr option kOptions[] = {{"daten", required_argument, nullptr, 'd'},
-                                   {"programm", required_argument, nullptr, 'p'},
-                                   {"ohne-windowsordner", no_argument, nullptr, 'o'},
-                                   {"klanggeraete", required_argument, nullptr, 'k'},
-                                   {"clock", required_argument, nullptr, 't'},
-                                   {"changes", no_argument, nullptr, 'c'},
-                                   {"spoken", no_argument, nullptr, 's'},
-                                   {nullptr, 0, nullptr, 0}};
-    opterr = 0;  // one message for all faults, below
-    bool good = true;
-    for (int name = 0; (name = getopt_long(argc, argv, "", kOptions, nullptr)) != -1;) {
-        switch (name) {
-        case 'd': options.Data = optarg; break;
-        case 'p': options.Program = optarg; break;
-        case 'o': options.WithoutWindowsFolder = true; break;
-        case 'k': good = ReadNumber(options.SoundDevices) && good; break;
-        case 't': good = ReadNumber(options.ClockNs.emplace()) && good; break;
-        case 'c': told.Changes = true; break;
-        case 's': told.Spoken = true; break;
-        default: good = false;
-        }
-    }
-    good = good && optind == argc && !options.Data.empty() && !options.Program.empty();
-    if (!good) {
-        std::cerr << "usage: drehbuch --daten DIR --programm DIR [--ohne-windowsordner] "
-                     "[--klanggeraete N] [--changes] [--spoken] [--clock NS]\n";
-    }
-    return good;
 }
 
 }  // namespace
@@ -65,21 +21,38 @@ bool ReadOptions(int argc, char** argv, Options& options, Told& told)
 int main(int argc, char** argv)
 {
     std::signal(SIGXFSZ, SIG_IGN);  // as the game does
-    Options options;
-    Told told;
-    if (!ReadOptions(argc, argv, options, told)) {
+    malvone::script::Options options;
+    malvone::script::Script script(std::cin, std::cout);
+    const std::span arguments(argv, static_cast<std::size_t>(argc));
+    bool good = true;
+    for (std::size_t i = 1; i < arguments.size() && good; ++i) {
+        const std::string_view name = arguments[i];
+        if (name == "--ohne-windowsordner") {
+            options.WithoutWindowsFolder = true;
+        } else if (name == "--changes") {
+            script.TellChanges();
+        } else if (name == "--spoken") {
+            script.TellSpoken();
+        } else if (++i == arguments.size()) {
+            good = false;
+        } else if (name == "--daten") {
+            options.Data = arguments[i];
+        } else if (name == "--programm") {
+            options.Program = arguments[i];
+        } else if (name == "--klanggeraete") {
+            good = Read(arguments[i], options.SoundDevices);
+        } else {
+            good = name == "--clock" && Read(arguments[i], options.ClockNs.emplace());
+        }
+    }
+    if (!good || options.Data.empty() || options.Program.empty()) {
+        std::cerr << "usage: drehbuch --daten DIR --programm DIR [--ohne-windowsordner] "
+                     "[--klanggeraete N] [--changes] [--spoken] [--clock NS]\n";
         return 2;
     }
     std::ios::sync_with_stdio(false);
     std::cin.tie(nullptr);
     malvone::script::ScriptPlatform platform(options, std::cout);
-    malvone::script::Script script(std::cin, std::cout);
-    if (told.Changes) {
-        script.TellChanges();
-    }
-    if (told.Spoken) {
-        script.TellSpoken();
-    }
     script.Play(platform);
     return 0;
 }

@@ -91,22 +91,18 @@ public:
 private:
     static void Listen(Control& control)
     {
-        const auto named = [&control](const char* what, std::int16_t index) {
-            return what + std::string(control.Name()) +
-                   (index < 0 ? "" : "(" + std::to_string(index) + ")");
+        // Elements of an array share their events.
+        const auto tells = [name = std::string(control.Name())](const std::string& what) {
+            return [what = what + name](std::int16_t i, const auto&... mouse) {
+                Heard((what + (i < 0 ? "" : "(" + std::to_string(i) + ")") + ... + At(mouse)));
+            };
         };
-        control.Click = [named](std::int16_t i) { Heard(named("click ", i)); };
-        control.MouseDown = [named](std::int16_t i, const Mouse& mouse) {
-            Heard(named("down ", i) + At(mouse));
-        };
-        control.MouseUp = [named](std::int16_t i, const Mouse& mouse) {
-            Heard(named("up ", i) + At(mouse));
-        };
-        control.MouseMove = [named](std::int16_t i, const Mouse& mouse) {
-            Heard(named("move ", i) + At(mouse));
-        };
+        control.Click = tells("click ");
+        control.MouseDown = tells("down ");
+        control.MouseUp = tells("up ");
+        control.MouseMove = tells("move ");
         if (auto* const timer = dynamic_cast<Timer*>(&control)) {
-            timer->Tick = [named](std::int16_t i) { Heard(named("tick ", i)); };
+            timer->Tick = tells("tick ");
         }
     }
 };

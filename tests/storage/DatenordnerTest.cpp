@@ -13,19 +13,13 @@ TEST(Datenordner, OnlyAFreeNameInAnExistingFolderIsAbsent)
 {
     const Game game("from an earlier run");
     WriteFile(game.Snapshot, "");
-    const std::pair<const char*, bool> cases[] = {
-        {"", false},
-        {"C:\\lindenspiele", true},
-        {"C:\\lindenspiele\\tessel.ini", true},
-        {"C:\\lindenspiele\\fehlt", false},
-        {"C:\\fehlt", false},
-        {"C:\\fehlt\\tessel.ini", true},
-        {"C:\\lindenspiele\\tessel.ini\\x", true},
-        {"P:\\ding.wav", true},
-        {"P:\\fehlt.wav", false},
-    };
-    for (const auto& [path, there] : cases) {
-        EXPECT_EQ(ExistiertDatei(path), there) << path;
+    for (const char* const there :
+         {"C:\\lindenspiele", "C:\\lindenspiele\\tessel.ini", "C:\\fehlt\\tessel.ini",
+          "C:\\lindenspiele\\tessel.ini\\x", "P:\\ding.wav"}) {
+        EXPECT_TRUE(ExistiertDatei(there)) << there;
+    }
+    for (const char* const absent : {"", "C:\\lindenspiele\\fehlt", "C:\\fehlt", "P:\\fehlt.wav"}) {
+        EXPECT_FALSE(ExistiertDatei(absent)) << absent;
     }
     EXPECT_EQ(DatenPfad(), "C:\\lindenspiele\\");
     EXPECT_EQ(MitBackslash("C:") + MitBackslash("C:\\") + MitBackslash(""), "C:\\C:\\\\");
@@ -42,28 +36,18 @@ TEST(Datenordner, WithoutAWindowsFolderOnlyTheProgramsFolderIsLeft)
 
 TEST(Zahlen, OnlyDecimalNumbersInRangeAreNumbers)
 {
-    const std::pair<const char*, std::optional<std::int32_t>> cases[] = {
-        {"0", 0},
-        {" +42\t", 42},
-        {"-7", -7},
-        {"007", 7},
-        {"2147483647", 2147483647},
-        {"-2147483648", -2147483647 - 1},
-        {"2147483648", std::nullopt},
-        {"99999999999999999999", std::nullopt},
-        {"", std::nullopt},
-        {"  ", std::nullopt},
-        {"+", std::nullopt},
-        {"+-1", std::nullopt},
-        {"- 1", std::nullopt},
-        {"1 2", std::nullopt},
-        {"12x", std::nullopt},
-        {"0x10", std::nullopt},
-        {"1e3", std::nullopt},
-        {"٣", std::nullopt},
-    };
-    for (const auto& [text, number] : cases) {
+    const std::pair<const char*, std::int32_t> numbers[] = {{"0", 0},
+                                                            {" +42\t", 42},
+                                                            {"-7", -7},
+                                                            {"007", 7},
+                                                            {"2147483647", 2147483647},
+                                                            {"-2147483648", -2147483647 - 1}};
+    for (const auto& [text, number] : numbers) {
         EXPECT_EQ(Zahl32(text), number) << text;
+    }
+    for (const char* const text : {"2147483648", "99999999999999999999", "", "  ", "+", "+-1",
+                                   "- 1", "1 2", "12x", "0x10", "1e3", "٣"}) {
+        EXPECT_EQ(Zahl32(text), std::nullopt) << text;
     }
     EXPECT_EQ(Zahl16("32767"), 32767);
     EXPECT_EQ(Zahl16("-32768"), -32768);
