@@ -168,6 +168,35 @@ TEST_F(Fenster, TheWholeDesignGrowsAndShrinksWithItsWindowInWholePixels)
     }
 }
 
+// A cell is a rectangle of pixels, so those along its middle show all, and a cell of each column
+// with all rows among them stands for the board.
+TEST_F(Fenster, ThePixelsOfACellAnswerForIt)
+{
+    FormWidget& form = Form(*frmTessel);
+    for (const double ratio : {1.0, 1.25, 1.5, 2.0, 3.0}) {
+        for (double wished = 0.5; wished < 4.31; wished += 0.19) {
+            const QRectF room(0, 23, 755 * wished + 90, 463 * wished);
+            const Scale scale(DesignOf(*frmTessel), room, ratio);
+            const PointerInput pointer(form, *frmTessel, scale);
+            int wrong = 0;
+            for (int cell = 1; cell <= kZellen; cell += cell % kReihen == 0 ? 1 : 11) {
+                const Image& field = frmTessel->imgFeld(cell);
+                const QRect drawn = OnScreen(PlaceOf(field), scale.Factor() * ratio)
+                                        .translated((scale.Corner() * ratio).toPoint());
+                const auto look = [&](QPoint pixel) {
+                    const bool hit = pointer.ControlUnder(QPointF(pixel) / ratio) == &field;
+                    wrong += hit == drawn.contains(pixel) ? 0 : 1;
+                };
+                for (int step = -1; step <= drawn.width(); ++step) {
+                    look({drawn.left() + step, drawn.center().y()});
+                    look({drawn.center().x(), drawn.top() + step});
+                }
+            }
+            EXPECT_EQ(wrong, 0) << "factor " << scale.Factor() << ", ratio " << ratio;
+        }
+    }
+}
+
 TEST_F(Fenster, TheMenuFollowsTheModel)
 {
     const auto* const bar = Form(*frmTessel).findChild<QMenuBar*>();

@@ -29,11 +29,15 @@ inline Twips ToTwips(double pixels)
     return static_cast<Twips>(pixels) * kTwipsPerPixel;
 }
 
+// An edge in the middle of a pixel of the screen is rounded up whatever its last digits are. Edges
+// lie on 32nds of a pixel, since a cell of 32 has a whole number of them.
+inline constexpr double kHalfPixel = 0.5 + 1.0 / 64;
+
 // Edges, not sizes, are rounded to pixels of the screen: what touches in the design touches there.
 inline QRect OnScreen(const QRectF& pixels, double ratio)
 {
     const auto edge = [ratio](double place) {
-        return static_cast<int>(std::lround(place * ratio));
+        return static_cast<int>(std::floor(place * ratio + kHalfPixel));
     };
     const QPoint corner(edge(pixels.left()), edge(pixels.top()));
     return {corner, QSize(edge(pixels.right()) - corner.x(), edge(pixels.bottom()) - corner.y())};

@@ -21,13 +21,15 @@ public:
     {
         return {corner_ + design.topLeft() * factor_, design.size() * factor_};
     }
-    QPointF ToDesign(QPointF window) const { return (window - corner_) / factor_; }
     QRectF ToDesign(const QRectF& window) const
     {
-        return {ToDesign(window.topLeft()), window.size() / factor_};
+        return {(window.topLeft() - corner_) / factor_, window.size() / factor_};
     }
+    // What is painted in the pixel of the screen at a place of the window.
+    QPointF PaintedAt(QPointF window) const;
 
 private:
+    double ratio_ = 1;
     double factor_ = 1;
     QPointF corner_;
 };

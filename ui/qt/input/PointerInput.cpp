@@ -32,13 +32,13 @@ std::int16_t ToButtons(Qt::MouseButtons buttons)
 
 Mouse PointerInput::ToMouse(const QMouseEvent& event, std::int16_t button) const
 {
-    const QPointF place = scale_.ToDesign(event.position());
+    const QPointF place = scale_.PaintedAt(event.position());
     return {button, ToShift(event.modifiers()), ToTwips(place.x()), ToTwips(place.y())};
 }
 
 Visual* PointerInput::ControlUnder(QPointF position) const
 {
-    const QPointF place = scale_.ToDesign(position);
+    const QPointF place = scale_.PaintedAt(position);
     return model_ != nullptr ? ControlAt(*model_, ToTwips(place.x()), ToTwips(place.y())) : nullptr;
 }
 
