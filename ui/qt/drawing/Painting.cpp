@@ -138,17 +138,21 @@ void Painting::Plain(const QRectF& place, const QColor& face, const std::string&
     painter_.drawText(place, Qt::AlignCenter, ToQString(words));
 }
 
-// The place of the arrow keys: white between black, which stands out from every stone to every eye,
-// square outside and round inside, as the stone is.
+// The place of the arrow keys: white between black, which stands out from every stone to every eye.
+// Around a stone it is square outside and round inside, as the stone is; wide buttons have round
+// ends.
 void Painting::Frame(const QRectF& place) const
 {
     constexpr double kHalfLine = 0.5;
     constexpr double kThickness = 3;
-    constexpr double kRounding = 10;
+    const bool button = place.width() > place.height();
+    const double outside = button ? place.height() / 2 : 0;
+    const double inside = button ? outside - kThickness : 10;
     QPainterPath ring;
-    ring.addRect(place.adjusted(kHalfLine, kHalfLine, -kHalfLine, -kHalfLine));
-    ring.addRoundedRect(place.adjusted(kThickness, kThickness, -kThickness, -kThickness), kRounding,
-                        kRounding);
+    ring.addRoundedRect(place.adjusted(kHalfLine, kHalfLine, -kHalfLine, -kHalfLine), outside,
+                        outside);
+    ring.addRoundedRect(place.adjusted(kThickness, kThickness, -kThickness, -kThickness), inside,
+                        inside);
     painter_.save();
     painter_.setRenderHint(QPainter::Antialiasing);
     painter_.setPen(QPen(Qt::black, 1));
