@@ -32,7 +32,7 @@ void StartQt(std::optional<QApplication>& application, int& argc, char** argv)
         RaiseScale(1 / ratio);
         application.emplace(argc, argv);
     }
-    UseMenusWithoutIcons();
+    UseMenuStyle();
 }
 
 int Play(Sound& sound)

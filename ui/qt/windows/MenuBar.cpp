@@ -6,6 +6,7 @@
 #include <QKeySequence>
 #include <QMenu>
 #include <QProxyStyle>
+#include <QStyleOption>
 #include <QToolButton>
 #include <QTranslator>
 #include <algorithm>
@@ -44,11 +45,26 @@ void ShowShortcut(QAction& action, Key key)
     action.setShortcutContext(Qt::WidgetShortcut);
 }
 
-// The desktop's own style but for that icon.
-class WithoutIcon final : public QProxyStyle
+// The desktop's own style but for that icon, and for a gap of a pixel that finer screens show in the
+// line below the menu bar, at the end of each of its entries.
+class MenuStyle final : public QProxyStyle
 {
 public:
     using QProxyStyle::QProxyStyle;
+
+    void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override
+    {
+        const auto* const entry = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
+        if (element != CE_MenuBarItem || entry == nullptr ||
+            entry->state.testFlag(State_Selected)) {
+            QProxyStyle::drawControl(element, option, painter, widget);
+            return;
+        }
+        QStyleOptionMenuItem wider(*entry);
+        wider.rect.adjust(-1, 0, 1, 0);  // on both sides, which leaves the words where they are
+        QProxyStyle::drawControl(element, &wider, painter, widget);
+    }
 
     QIcon standardIcon(StandardPixmap icon, const QStyleOption* option,
                        const QWidget* widget) const override
@@ -61,9 +77,9 @@ public:
 
 }  // namespace
 
-void UseMenusWithoutIcons()
+void UseMenuStyle()
 {
-    QApplication::setStyle(new WithoutIcon(QApplication::style()));
+    QApplication::setStyle(new MenuStyle(QApplication::style()));
 }
 
 MenuBar::MenuBar(const Window& window, QWidget* parent) : QMenuBar(parent), window_(&window)
