@@ -122,9 +122,10 @@ def where_nothing_sounds_nobody_waits():
 
 def without_the_library_nothing_sounds():
     with Server() as server:
-        with Player(server, "libnosuchthing.so.0") as player:
-            player.plays("TADA")
-            expect(player.devices() == 0, "no device")
+        for library in ("libnosuchthing.so.0", "libm.so.6"):    # the other one has other functions
+            with Player(server, library) as player:
+                player.plays("TADA")
+                expect(player.devices() == 0, "no device")
         # What has been heard after it was not there before.
         with Player(server) as player:
             player.plays("DING")
