@@ -394,7 +394,7 @@ test("only the program's own fault ends the game", async t => {
   const game = await open(t);
   await game.run(() => { Promise.reject(new Error("somebody else's")); });
   await game.begin();
-  await game.run(() => page.push({ kind: 5 }));  // no kind of event
+  await game.run(() => page.push(5, ""));  // no kind of event
   await game.says("fehlt oder ist beschädigt");
   assert.equal(game.told.splice(0).length, 2);
 });
@@ -441,7 +441,7 @@ test("the game is as large as the screen allows, and sharp", async t => {
   for (const [width, height, ratio] of screens) {
     await game.resize(width, height, ratio);
     await game.until(wide => document.getElementById("frmHintergrund").offsetWidth === wide, width);
-    const [window, cell, bar] = await Promise.all(["frmTessel", "frmTessel.imgFeld(1)", "frmTessel menu"].map(game.sees));
+    const [window, cell, bar] = await Promise.all(["frmTessel", "frmTessel.imgFeld(1)", "frmTessel.mnuTesselMenu"].map(game.sees));
     const text = `${width} x ${height} at ${ratio}`;
     for (const length of [window.left, window.top, window.width, cell.left, cell.top, cell.width, cell.height]) {
       assert.ok(Math.abs(length * ratio - Math.round(length * ratio)) < 0.05, `${text}: ${length}`);

@@ -16,10 +16,9 @@ Twips Above(const Window& window);
 std::string IdOf(const Window& window);
 std::string IdOf(const Control& control);
 
-// Make an element where there is none yet, and tell it what has changed. The level of a window
-// grows towards the player.
-void Put(const Window& window, int level);
+// Make an element where there is none yet, and tell it what has changed.
+void Put(const Window& window);
 void Put(const Control& control);
-void Put(const Spoken& spoken, const std::string& name);
+void Put(const Spoken& spoken, const std::string& name, const std::string& description);
 
 }  // namespace malvone::web

@@ -4,6 +4,10 @@
 
 #include <emscripten/val.h>
 
+#include <string>
+
+#include "ui/layer/Units.h"
+
 namespace malvone::web {
 
 // Calls a function of the page by its name.
@@ -11,6 +15,12 @@ template<class Result = void, class... Arguments>
 Result Ask(const char* what, const Arguments&... arguments)
 {
     return emscripten::val::global("page").call<Result>(what, arguments...);
+}
+
+// Lengths of the page by name, in twips: screen, main window, and the bar of a title or a menu.
+inline Twips Length(const char* name)
+{
+    return Ask<Twips>("length", std::string(name));
 }
 
 }  // namespace malvone::web

@@ -2,14 +2,14 @@
 // whoever waits, the main loop or the loop of a modal window, takes the next one from it.
 #pragma once
 
-#include <emscripten/val.h>
-
+#include <map>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "ui/layer/Binding.h"
 #include "ui/services/Spoken.h"
+#include "ui/web/Page.h"
 
 namespace malvone::web {
 
@@ -19,39 +19,29 @@ public:
     // Handles events until the program is over.
     void Run();
 
-    Twips ScreenWidth() override;
-    Twips ScreenHeight() override;
+    Twips ScreenWidth() override { return Length("screenWidth"); }
+    Twips ScreenHeight() override { return Length("screenHeight"); }
     void WindowLoaded(Window& window) override;
     void WindowShown(Window& window, ShowMode mode) override;
     void WindowHidden(Window& window) override;
-    void WindowUnloaded(Window& window) override;
+    void WindowUnloaded(Window& window) override { WindowHidden(window); }
     void ControlChanged(Control& control, Change what) override;
     void RunModal(Window& window) override;
-    void DragWindow(Window& window) override;
-    void Ended() override;
+    void DragWindow(Window& window) override { dragged_ = &window; }
+    void Ended() override { Ask("end"); }
 
 private:
-    // A window on the page, and by what name a screen reader knows each of its parts.
-    struct Form
-    {
-        Window* Model;
-        std::vector<std::pair<Spoken, std::string>> Said;
-    };
-
-    std::vector<Form> forms_;  // from the lowest to the topmost
-    std::vector<const Control*> changed_;
+    std::vector<const Control*> changed_;  // since the page was told last
+    // By what name and description a screen reader knows each part of the windows that are shown.
+    std::map<const Visual*, std::pair<std::string, std::string>> said_;
     Reporter reporter_;
     Window* dragged_ = nullptr;
     Mouse grip_;  // where the pressed window was pressed, from its corner
 
-    void Touch(const Control& control);
     void ShowChanges();
     void HandleNext();
     void Used(Control& control, const std::string& kind, const emscripten::val& event);
-    void Typed(TextBox& box, const std::string& text, std::int32_t caret);
     void Pointed(Window& window, const std::string& kind, const emscripten::val& event);
-    void KeyPressed(const emscripten::val& event);
-    void FitScreen();
 };
 
 }  // namespace malvone::web

@@ -4,7 +4,6 @@
 #include <optional>
 
 #include "platform/TextLines.h"
-#include "ui/web/Page.h"
 
 namespace malvone::web {
 namespace {
@@ -29,46 +28,20 @@ FileFault WriteEntry(const std::string& name, const std::string& bytes)
     return static_cast<FileFault>(Ask<std::int32_t>("writeEntry", name, text));
 }
 
-std::string FileName(const std::string& path)
-{
-    return path.substr(path.rfind('\\') + 1);
-}
-
-// A folder is an entry whose name ends with a backslash; a root is always there.
-bool FolderOfExists(const std::string& path)
-{
-    const std::string folder = path.substr(0, path.rfind('\\') + 1);
-    return folder == "C:\\" || folder == "\\" || folder == kProgramFolder || ReadEntry(folder);
-}
-
 }  // namespace
 
-std::string WebPlatform::GetWindowsDirectoryA()
-{
-    return Ask<bool>("storageAllowed") ? "C:\\WINDOWS" : "";
-}
-
+// A folder is an entry whose name ends with a backslash.
 bool WebPlatform::CreateDirectoryA(const std::string& path)
 {
-    return Over || WriteEntry(path + "\\", "") == FileFault::None;
+    return WriteEntry(path + "\\", "") == FileFault::None;
 }
 
 std::int32_t WebPlatform::OpenFileExist(const std::string& path)
 {
-    if (!FolderOfExists(path)) {
+    if (!Ask<bool>("folderExists", path)) {
         return kPathNotFound;
     }
-    if (ReadEntry(path + "\\")) {
-        return kAccessRefused;
-    }
-    return ReadEntry(path) ? kFileExists : kFileNotFound;
-}
-
-void WebPlatform::DeleteFileA(const std::string& path)
-{
-    if (!Over) {
-        Ask("removeEntry", path);
-    }
+    return ReadEntry(path + "\\") ? kAccessRefused : ReadEntry(path) ? kFileExists : kFileNotFound;
 }
 
 ReadLines WebPlatform::ReadTextLines(const std::string& path, std::size_t count)
@@ -80,10 +53,7 @@ ReadLines WebPlatform::ReadTextLines(const std::string& path, std::size_t count)
 FileFault WebPlatform::WriteTextLines(const std::string& path,
                                       const std::vector<std::string>& lines)
 {
-    if (Over) {
-        return FileFault::None;
-    }
-    if (FolderOfExists(path)) {
+    if (Ask<bool>("folderExists", path)) {
         return WriteEntry(path, FileContent(lines));
     }
     // The player has cleared the storage: what follows is kept again.
@@ -94,7 +64,7 @@ FileFault WebPlatform::WriteTextLines(const std::string& path,
 FileFault WebPlatform::ReplaceTextLines(const std::string& path,
                                         const std::vector<std::string>& lines, OldFile old)
 {
-    const std::optional<std::string> there = Over ? std::nullopt : ReadEntry(path);
+    const std::optional<std::string> there = ReadEntry(path);
     if (!there || old == OldFile::Goes) {
         return WriteTextLines(path, lines);
     }
@@ -107,23 +77,11 @@ FileFault WebPlatform::ReplaceTextLines(const std::string& path,
     }
     const std::string kept = KeptName(path, number);
     FileFault fault = WriteEntry(kept, *there);
-    if (fault == FileFault::None) {
-        fault = WriteTextLines(path, lines);
-    }
+    fault = fault == FileFault::None ? WriteTextLines(path, lines) : fault;
     if (fault != FileFault::None) {
-        Ask("removeEntry", kept);
+        DeleteFileA(kept);
     }
     return fault;
-}
-
-void WebPlatform::sndPlaySoundA(const std::string& path)
-{
-    Ask("sound", FileName(path));
-}
-
-void WebPlatform::ShellExecuteA(const std::string& path)
-{
-    Ask("open", FileName(path));
 }
 
 }  // namespace malvone::web

@@ -30,7 +30,7 @@ write("pictures.css", pictures.map(file => {
     .replaceAll('"', "'").replaceAll("\n", " ").replace("<svg ", "<svg preserveAspectRatio='none' ");
   const url = `url("data:image/svg+xml,${svg}")`;
   return name === "hand" ? `[data-hand] { cursor: ${url} 5 0, pointer; }\n`
-    : `[data-picture=${name}] { background-image: ${url}; }\n`;
+    : `[data-picture=${name}] { background-image: ${url}; --across: ${/ width='(\d+)'/.exec(svg)[1]}; }\n`;
 }).join(""));
 
 // What is asked for carries the mark of its build, so that files of two builds never meet.

@@ -7,15 +7,12 @@ import vm from "node:vm";
 const listen = folder => new Promise((resolve, reject) => {
   const elements = new Map();
   const told = {
-    width: () => 19200,
-    height: () => 10800,
-    mainWidth: () => 11325,
-    mainHeight: () => 7305,
-    bar: () => 360,
+    length: name => ({ screenWidth: 19200, screenHeight: 10800, mainWidth: 11325, mainHeight: 7305, bar: 360 })[name],
+    folderExists: () => true,
     storageAllowed: () => true,
     writeEntry: () => 0,
     told: {},
-    put(kind, id, inside) {
+    put(id, kind, inside) {
       elements.set(id, { kind, id, inside, ...elements.get(id), ...told.told });
       told.told = {};
     },
@@ -92,7 +89,7 @@ export const firstPicture = async (folder, pictures) => {
   const drawn = shown.map(element => element["data-picture"] ? paint.picture(element["data-picture"], element)
     : `<div class="${element.kind} first${element.number}">${escape(element.textContent ?? "")}</div>`);
 
-  const bar = [...elements.values()].filter(({ kind, inside }) => inside === `${main.id} menu` && kind === "MenuEntry");
+  const bar = [...elements.values()].filter(({ kind, inside }) => inside === main.id && kind === "MenuEntry");
   // Until its picture is there, the backdrop is as plain as the colour that lies under all of it.
   const backdrop = readFileSync(`${pictures}/${elements.get("frmHintergrund.Image1")["data-picture"]}.svg`, "utf8");
   const rules = element => Object.keys(element).filter(name => name.startsWith("--")).map(name => `${name}: ${element[name]};`).join(" ");

@@ -15,15 +15,15 @@ const start = {
       Math.min(clientWidth / width, (clientHeight - leastBar) / height, clientHeight / (height + 360))));
     const [wide, upright] = this.layouts;
     const layout = cell(upright) > 1.4 * cell(wide) ? upright : wide;
-    this.twip = cell(layout) / 480;
-    this.bar = Math.max(leastBar, whole(360 * this.twip)) / this.twip;
-    this.screen = { width: clientWidth / this.twip, height: clientHeight / this.twip };
-    this.main = { width: layout[0], height: layout[1] + this.bar };
+    const twip = this.twip = cell(layout) / 480;
+    const bar = Math.max(leastBar, whole(360 * twip)) / twip;
+    const [screenWidth, screenHeight] = [clientWidth / twip, clientHeight / twip];
+    const [mainWidth, mainHeight] = [layout[0], layout[1] + bar];
+    this.lengths = { screenWidth, screenHeight, mainWidth, mainHeight, bar };
     classList.toggle("upright", layout === upright);
     const told = {
-      u: `${this.twip}px`, pixel: `${1 / devicePixelRatio}px`, bar: `${this.bar * this.twip}px`,
-      "main-width": this.main.width, "main-left": (this.screen.width - this.main.width) / 2,
-      "main-height": this.main.height, "main-top": (this.screen.height - this.main.height) / 2,
+      u: `${twip}px`, pixel: `${1 / devicePixelRatio}px`, bar: `${bar * twip}px`, "main-width": mainWidth,
+      "main-height": mainHeight, "main-left": (screenWidth - mainWidth) / 2, "main-top": (screenHeight - mainHeight) / 2,
     };
     for (const [name, value] of Object.entries(told)) style.setProperty(`--${name}`, value);
   },
