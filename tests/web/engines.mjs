@@ -82,10 +82,15 @@ export const webkit = async () => {
           : { type: kind === "down" ? "pointerDown" : "pointerUp", button: 0 }),
         type: text => act("key", ...[...text].flatMap(key)),
         press: name => act("key", ...key(keyCodes[name] ?? name.replace("Key", "").toLowerCase())),
+        // The window gets its size in its own time, and has a bar of its own above the page.
         async resize(width, height) {
-          await tell("POST", "window/rect", { width, height });
-          const frame = height - await tab.run(() => innerHeight);
-          await tell("POST", "window/rect", { width, height: height + frame });
+          const settled = () => tab.run((...size) => String(size) === String([innerWidth, innerHeight]), width, height);
+          for (const last = Date.now() + 30_000; !await settled();) {
+            if (Date.now() > last) throw new Error(`The window does not become ${width} x ${height}.`);
+            const bar = await tab.run(() => outerHeight - innerHeight);
+            await tell("POST", "window/rect", { width, height: height + bar });
+            for (let i = 0; i < 20 && !await settled(); ++i) await new Promise(done => setTimeout(done, 50));
+          }
         },
         picture: async () => Buffer.from(await tell("GET", "screenshot"), "base64"),
         close: () => ask("DELETE", `/session/${sessionId}`),

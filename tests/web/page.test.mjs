@@ -68,6 +68,24 @@ const actions = tab => {
       await tab.mouse("down");
       await tab.mouse("up");
     },
+    // It fills the page, as far as its shape can, and its edges lie on whole device pixels.
+    fits: async (width, height, ratio = 1) => {
+      await tab.resize(width, height, ratio);
+      await until((...size) => {
+        const { offsetWidth, offsetHeight } = document.getElementById("frmHintergrund");
+        return String(size) === String([offsetWidth, offsetHeight]);
+      }, width, height);
+      const [window, cell, bar] = await Promise.all(["frmTessel", "frmTessel.imgFeld(1)", "frmTessel.mnuTesselMenu"].map(game.sees));
+      const text = `${width} x ${height} at ${ratio}`;
+      for (const length of [window.left, window.top, window.width, cell.left, cell.top, cell.width, cell.height]) {
+        assert.ok(Math.abs(length * ratio - Math.round(length * ratio)) < 0.05, `${text}: ${length}`);
+      }
+      assert.ok(window.left >= 0 && window.top >= 0 && window.right <= width && window.bottom <= height, text);
+      const upright = 3 * height > 4 * width;
+      const possible = upright ? height : Math.min(width * 487 / 755, height);
+      assert.ok(window.height >= 0.95 * possible || (upright && window.width >= 0.95 * width), `${text}: ${window.width} x ${window.height}`);
+      assert.ok(cell.width >= 20 && bar.height >= 24, text);
+    },
     board: () => tab.run(() => [...document.querySelectorAll('[id^="frmTessel.imgFeld("]')].slice(0, 140).map(cell => cell.ariaLabel.split(", ")[2])),
     // A stone with a neighbour of its colour below or to the right, or nothing.
     group: async () => {
@@ -173,13 +191,7 @@ for (const [name, engine] of Object.entries({ chromium: async () => shared, fire
     await game.sees("frmMsgJa");
     assert.match(await game.entry(list), /^J\xf6rg M\xfc\xdfig, \x80\r\nNiemand\r\n/);
     await game.go(server.address);
-    for (const [width, height] of [[1000, 700], [1500, 800], [480, 760]]) {
-      await game.resize(width, height);
-      await game.until(wide => document.getElementById("frmHintergrund")?.offsetWidth === wide, width);
-      const [window, cell] = [await game.sees("frmTessel"), await game.sees("frmTessel.imgFeld(1)")];
-      for (const length of [window.x, window.y, cell.x, cell.width, cell.height]) assert.equal(length, Math.round(length));
-      assert.ok(window.width >= 0.95 * width || window.height >= 0.95 * height);
-    }
+    for (const size of [[1000, 700], [1500, 800], [600, 950]]) await game.fits(...size);
     const { address } = await serve(copies);
     for (const [i, copy] of readdirSync(copies).entries()) {
       if (name !== "chromium" && i % 5 !== 0) continue;  // each file once, and each kind of damage
@@ -438,20 +450,7 @@ const screens = [
 ];
 test("the game is as large as the screen allows, and sharp", async t => {
   const game = await open(t);
-  for (const [width, height, ratio] of screens) {
-    await game.resize(width, height, ratio);
-    await game.until(wide => document.getElementById("frmHintergrund").offsetWidth === wide, width);
-    const [window, cell, bar] = await Promise.all(["frmTessel", "frmTessel.imgFeld(1)", "frmTessel.mnuTesselMenu"].map(game.sees));
-    const text = `${width} x ${height} at ${ratio}`;
-    for (const length of [window.left, window.top, window.width, cell.left, cell.top, cell.width, cell.height]) {
-      assert.ok(Math.abs(length * ratio - Math.round(length * ratio)) < 0.05, `${text}: ${length}`);
-    }
-    assert.ok(window.left >= 0 && window.top >= 0 && window.right <= width && window.bottom <= height, text);
-    const upright = 3 * height > 4 * width;
-    const fits = upright ? 0.95 * height : 0.95 * Math.min(width * 487 / 755, height);
-    assert.ok(window.height >= fits || (upright && window.width >= 0.95 * width), text);
-    assert.ok(cell.width >= 20 && bar.height >= 24, text);
-  }
+  for (const screen of screens) await game.fits(...screen);
 });
 
 test("after one visit the game needs no network", async t => {
