@@ -1,6 +1,7 @@
 // build-page.mjs: puts the files of the page together. Run by Node when the page is built:
 //   build-page.mjs SOURCE BINARY OUT
 // SOURCE is the repository, BINARY holds program, sounds and manuals, OUT becomes the page.
+import { execFileSync } from "node:child_process";
 import { createHash } from "node:crypto";
 import { copyFileSync, mkdirSync, readdirSync, readFileSync, rmSync, writeFileSync } from "node:fs";
 import { basename, join } from "node:path";
@@ -16,7 +17,16 @@ mkdirSync(out, { recursive: true });
 const beside = readdirSync(binary).filter(name => /\.(wav|pdf)$/i.test(name)).sort();
 for (const name of ["malvone.js", "malvone.wasm", ...beside]) copyFileSync(join(binary, name), join(out, name));
 for (const name of ["page.js", "malvone.webmanifest"]) copyFileSync(part(name), join(out, name));
-copyFileSync(join(source, "assets/pictures/icon-tessel.svg"), join(out, "malvone.svg"));
+
+// Where a telephone cuts icons to a shape of its own, the face lies on a ground that may be cut.
+const icon = text(join(source, "assets/pictures/icon-tessel.svg"));
+const onGround = icon.replace(/<svg [^>]*>/, '<svg xmlns="http://www.w3.org/2000/svg" viewBox="-6 -6 44 44">' +
+  '<path fill="#BDBDBD" d="M-6-6h44v44h-44z"/>');
+const icons = {
+  "malvone.svg": icon, "malvone-maskable.svg": onGround,
+  "malvone-touch.png": execFileSync("rsvg-convert", ["--width=180", "--height=180"], { input: onGround }),
+};
+for (const [name, content] of Object.entries(icons)) write(name, content);
 
 const first = await firstPicture(out, join(source, "assets/pictures"));
 write("malvone.css", text(part("page.css")) + first.style);
@@ -45,7 +55,7 @@ const build = sum.digest("hex").slice(0, 12);
 const marked = ["page.js", "malvone.css", "pictures.css", "malvone.js", "malvone.wasm"].map(name => `${name}?${build}`);
 const values = {
   BUILD: build, FIRST: first.markup, START: start, BESIDE: beside.join(" "),
-  FILES: [...marked, "malvone.svg", "malvone.webmanifest", ...beside].join(" "),
+  FILES: [...marked, ...Object.keys(icons), "malvone.webmanifest", ...beside].join(" "),
   START_SUM: `'sha256-${sha256(start).digest("base64")}'`, STYLE_SUM: integrity("malvone.css"),
   PAGE_SUM: integrity("page.js"), PICTURES_SUM: integrity("pictures.css"), PROGRAM_SUM: integrity("malvone.js"),
 };
