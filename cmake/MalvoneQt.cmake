@@ -4,7 +4,7 @@ find_package(Qt6 6.4 REQUIRED COMPONENTS Widgets Svg)
 find_package(PkgConfig REQUIRED)
 pkg_check_modules(LIBPULSE REQUIRED libpulse)
 if(MALVONE_XCB)
-    pkg_check_modules(XCB REQUIRED IMPORTED_TARGET xcb xcb-render)
+    pkg_check_modules(XCB REQUIRED IMPORTED_TARGET xcb)
 endif()
 
 # libpulse is loaded at run time, beside the start; only its headers are needed here.
@@ -39,20 +39,23 @@ string(APPEND qrc "</qresource>\n</RCC>\n")
 file(CONFIGURE OUTPUT generated/pictures.qrc CONTENT "${qrc}" @ONLY)
 qt_add_resources(picture_sources "${PROJECT_BINARY_DIR}/generated/pictures.qrc"
     OPTIONS --no-compress --no-zstd --format-version 1)
-add_library(malvone_pictures OBJECT ${picture_sources})
-target_link_libraries(malvone_pictures PRIVATE Qt6::Core)
 
 # What the first frame shows at scale 1 is rendered by a program of the build.
-add_executable(vorab assets/pictures/vorab.cpp ui/qt/drawing/Look.cpp ui/qt/drawing/Resources.cpp)
-malvone_target(vorab)
-target_compile_definitions(vorab PRIVATE QT_NO_CAST_FROM_ASCII)
-target_link_libraries(vorab PRIVATE malvone_core malvone_pictures Qt6::Svg)
-set(ready_pictures "${PROJECT_BINARY_DIR}/generated/ReadyPictures.cpp")
-add_custom_command(OUTPUT "${ready_pictures}"
-    COMMAND "${CMAKE_COMMAND}" -E env ASAN_OPTIONS=detect_leaks=0 $<TARGET_FILE:vorab>
-            "${ready_pictures}"
-    DEPENDS vorab COMMENT "Rendering the pictures of the first frame" VERBATIM)
-target_sources(malvone_qt PRIVATE "${ready_pictures}")
+add_executable(prerender assets/pictures/prerender.cpp ui/qt/drawing/Look.cpp
+    ui/qt/drawing/Resources.cpp ${picture_sources})
+malvone_target(prerender)
+target_compile_definitions(prerender PRIVATE QT_NO_CAST_FROM_ASCII)
+target_link_libraries(prerender PRIVATE malvone_core Qt6::Svg)
+set(ready "${PROJECT_BINARY_DIR}/generated/ready")
+file(MAKE_DIRECTORY "${ready}")
+add_custom_command(OUTPUT "${ready}/ready.cpp"
+    COMMAND "${CMAKE_COMMAND}" -E env ASAN_OPTIONS=detect_leaks=0 $<TARGET_FILE:prerender> "${ready}"
+    COMMAND Qt6::rcc --name ready --no-compress --no-zstd --format-version 1 "${ready}/ready.qrc"
+            -o "${ready}/ready.cpp"
+    DEPENDS prerender COMMENT "Rendering the pictures of the first frame" VERBATIM)
+
+add_library(malvone_pictures OBJECT ${picture_sources} "${ready}/ready.cpp")
+target_link_libraries(malvone_pictures PRIVATE Qt6::Core)
 
 # Links a program with the Qt binding and its pictures.
 function(malvone_qt_program NAME)

@@ -7,12 +7,10 @@
 
 #include "ui/layer/App.h"
 #include "ui/qt/drawing/Conversions.h"
-#include "ui/qt/drawing/Icon.h"
 #include "ui/qt/platform/Display.h"
 #include "ui/qt/windows/BackdropWindow.h"
 #include "ui/qt/windows/FormWidget.h"
 #include "ui/qt/windows/WindowManager.h"
-#include "ui/windows/Pictures.h"
 
 namespace malvone::qt {
 namespace {
@@ -128,19 +126,21 @@ void QtBinding::Rescaled(const FormWidget& form)
     }
 }
 
-// What can wait until the player sees the window. A window without an icon of its own has the
-// game's, and so has the backdrop.
+// What can wait until the player sees the window. The main window's icon is that of all windows
+// without one of their own.
 void QtBinding::Painted(FormWidget& form)
 {
     if (form.Model() == nullptr || !form.isVisible()) {
         return;
     }
-    const Picture& own = form.Model()->Icon;
-    const Icon icon(own.Empty() ? PictureNamed("frmTessel.Icon") : own);
-    icon.Give(*form.windowHandle());
-    if (&form == MainForm() && backdrop_ != nullptr) {
-        backdrop_->ShowPicture();
-        icon.Give(*backdrop_);
+    const Picture& icon = form.Model()->Icon;
+    if (&form == MainForm()) {
+        QApplication::setWindowIcon(pictures_.Icon(icon));
+        if (backdrop_ != nullptr) {
+            backdrop_->ShowPicture();
+        }
+    } else if (!icon.Empty()) {
+        form.setWindowIcon(pictures_.Icon(icon));
     }
 }
 

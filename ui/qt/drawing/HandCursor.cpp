@@ -1,12 +1,10 @@
 // HandCursor.cpp: renders the hand.
 #include "ui/qt/drawing/HandCursor.h"
 
-#include <QPainter>
 #include <QPixmap>
-#include <QSvgRenderer>
 #include <map>
 
-#include "ui/qt/drawing/Resources.h"
+#include "ui/qt/drawing/Look.h"
 
 namespace malvone::qt {
 namespace {
@@ -14,13 +12,10 @@ namespace {
 constexpr QSize kSize(32, 32);
 constexpr QPoint kHotSpot(5, 0);
 
-QCursor Rendered(double ratio)
+QCursor CursorAt(double ratio)
 {
-    QPixmap pixmap((QSizeF(kSize) * ratio).toSize());
-    pixmap.fill(Qt::transparent);
-    QPainter painter(&pixmap);
-    QSvgRenderer(ResourcePath("hand")).render(&painter);
-    painter.end();
+    const QSize size = (QSizeF(kSize) * ratio).toSize();
+    QPixmap pixmap = QPixmap::fromImage(qt::Rendered(LookOf("hand", size, size)));
     pixmap.setDevicePixelRatio(ratio);
     const QPoint hotSpot = (QPointF(kHotSpot) * ratio).toPoint();
     return QCursor(pixmap, hotSpot.x(), hotSpot.y());
@@ -33,7 +28,7 @@ QCursor HandCursor(double ratio)
     static std::map<double, QCursor> cursors;
     auto found = cursors.find(ratio);
     if (found == cursors.end()) {
-        found = cursors.emplace(ratio, Rendered(ratio)).first;
+        found = cursors.emplace(ratio, CursorAt(ratio)).first;
     }
     return found->second;
 }

@@ -1,7 +1,8 @@
-// Look.cpp: renders pictures.
+// Look.cpp: renders pictures, or finds them rendered.
 #include "ui/qt/drawing/Look.h"
 
 #include <QPainter>
+#include <QResource>
 #include <QSvgRenderer>
 
 #include "ui/qt/drawing/Resources.h"
@@ -20,6 +21,11 @@ Look CoarseLook(const Picture& picture)
     return LookOf(picture.File(), size, size);
 }
 
+Look IconLook(const Picture& picture, int edge)
+{
+    return LookOf(picture.File(), {edge, edge}, {edge, edge});
+}
+
 QImage Rendered(const Look& look)
 {
     const auto& [file, width, height, seenWidth, seenHeight] = look;
@@ -31,18 +37,25 @@ QImage Rendered(const Look& look)
     return image;
 }
 
-QImage WithoutGround(const QImage& image, QRgb under)
+QString ReadyPath(const Look& look)
 {
-    int used = 0;
-    for (int y = 0; y < image.height(); ++y) {
-        const auto* const line = reinterpret_cast<const QRgb*>(image.constScanLine(y));
-        int last = image.width();
-        while (last > used && line[last - 1] == under) {
-            --last;
-        }
-        used = last;
-    }
-    return image.copy(0, 0, used, image.height());
+    const auto& [file, width, height, seenWidth, seenHeight] = look;
+    return QStringLiteral(":/%1-%2x%3-%4x%5")
+        .arg(QLatin1StringView(file.data(), static_cast<qsizetype>(file.size())))
+        .arg(width)
+        .arg(height)
+        .arg(seenWidth)
+        .arg(seenHeight);
+}
+
+QImage Ready(const Look& look)
+{
+    const QResource pixels(ReadyPath(look));
+    const int width = std::get<3>(look);
+    const int height = std::get<4>(look);
+    return pixels.isValid()
+               ? QImage(pixels.data(), width, height, QImage::Format_ARGB32_Premultiplied)
+               : QImage();
 }
 
 }  // namespace malvone::qt

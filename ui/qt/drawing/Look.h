@@ -3,6 +3,7 @@
 
 #include <QImage>
 #include <QSize>
+#include <QString>
 #include <string_view>
 #include <tuple>
 
@@ -20,11 +21,20 @@ Look LookOf(std::string_view file, QSize size, QSize seen);
 // whatever scale, and stretched.
 Look CoarseLook(const Picture& picture);
 
+// A picture as an icon: a square with edges of one of these lengths, as title bars, task bars and
+// switchers need them.
+constexpr int kIconEdges[] = {16, 32, 64};
+Look IconLook(const Picture& picture, int edge);
+
 QImage Rendered(const Look& look);
 
-// A rendered ground without the columns at its right end that look like the plain colour under it:
-// most of a large picture is just that. A movement of the pointer is painted in 0.13 instead of
-// 0.18 ms, the whole window in 0.42 instead of 0.53, and the program is 0.7 MB smaller (medians).
-QImage WithoutGround(const QImage& image, QRgb under);
+// Where the pixels of a picture lie in the program if the build has rendered it, as it has all
+// that the first frame shows at scale 1: assets/pictures/prerender.cpp.
+QString ReadyPath(const Look& look);
+
+// Such a picture, read where the program's file lies in memory: nothing is unpacked or copied. Null
+// where there is none. Against rendering at each start this saves 7 of 44 ms to the first frame and
+// as much CPU time, and 2.8 of 6.6 MB of memory (medians of 15), for 3 MB of program.
+QImage Ready(const Look& look);
 
 }  // namespace malvone::qt

@@ -82,9 +82,7 @@ void Painting::Ground(const Window& window, const QSizeF& client) const
     const QSizeF own(window.Picture->Width(), window.Picture->Height());
     const QSize whole = OnThisScreen(QRectF(QPointF(), own)).size();
     const QSize seen = OnThisScreen(QRectF(QPointF(), enlarged ? own : designed)).size();
-    Put(pictures_.GetGround(window.Picture, whole, seen.boundedTo(whole),
-                            ToQColor(window.BackColor).rgb()),
-        QPoint());
+    Put(pictures_.Get(window.Picture, whole, seen.boundedTo(whole)), QPoint());
 }
 
 void Painting::Paint(const Image& image, const QRectF& place) const

@@ -1,43 +1,40 @@
 // PictureStore.cpp: finds pictures ready, or renders them, and keeps them.
 #include "ui/qt/drawing/PictureStore.h"
 
-#include "ui/qt/drawing/ReadyPictures.h"
-
 namespace malvone::qt {
-
-const QImage& PictureStore::GetGround(const Picture& picture, QSize size, QSize seen, QRgb under)
-{
-    return Kept(LookOf(picture.File(), size, seen),
-                [under](const Look& look) { return WithoutGround(qt::Rendered(look), under); });
-}
 
 const QImage& PictureStore::Get(const Picture& picture, QSize size, QSize seen)
 {
-    return Kept(LookOf(picture.File(), size, seen), qt::Rendered);
+    const Look look = LookOf(picture.File(), size, seen);
+    auto found = images_.find(look);
+    if (found == images_.end()) {
+        found = images_.emplace(look, Made(look)).first;
+    }
+    return found->second;
 }
 
 QImage PictureStore::Coarse(const Picture& picture)
 {
-    return Made(CoarseLook(picture), qt::Rendered);
+    return Made(CoarseLook(picture));
 }
 
-QImage PictureStore::Made(const Look& look, const Render& render)
+QIcon PictureStore::Icon(const Picture& picture)
+{
+    QIcon icon;
+    for (const int edge : kIconEdges) {
+        icon.addPixmap(QPixmap::fromImage(Made(IconLook(picture, edge))));
+    }
+    return icon;
+}
+
+QImage PictureStore::Made(const Look& look)
 {
     const QImage ready = Ready(look);
     if (!ready.isNull()) {
         return ready;
     }
     ++rendered_;
-    return render(look);
-}
-
-const QImage& PictureStore::Kept(const Look& look, const Render& render)
-{
-    auto found = images_.find(look);
-    if (found == images_.end()) {
-        found = images_.emplace(look, Made(look, render)).first;
-    }
-    return found->second;
+    return qt::Rendered(look);
 }
 
 }  // namespace malvone::qt

@@ -2,9 +2,9 @@
 // in, on its first use.
 #pragma once
 
+#include <QIcon>
 #include <QImage>
 #include <QSize>
-#include <functional>
 #include <map>
 
 #include "ui/layer/Picture.h"
@@ -19,25 +19,21 @@ public:
     // a part can be seen. The reference holds until the next call.
     const QImage& Get(const Picture& picture, QSize size, QSize seen);
     const QImage& Get(const Picture& picture, QSize size) { return Get(picture, size, size); }
-    // The ground of a window, without the part at its right end that looks like the plain colour
-    // under it: most of a large picture is just that.
-    const QImage& GetGround(const Picture& picture, QSize size, QSize seen, QRgb under);
 
     // A picture rendered coarsely, to be stretched, and not kept: for a cloudy ground as large as
     // the screen, which is painted once and would take a quarter of the start if it were fine.
     QImage Coarse(const Picture& picture);
 
+    QIcon Icon(const Picture& picture);
+
     // How many pictures were not ready and had to be rendered.
     int Rendered() const { return rendered_; }
 
 private:
-    using Render = std::function<QImage(const Look&)>;
-
     std::map<Look, QImage> images_;
     int rendered_ = 0;
 
-    QImage Made(const Look& look, const Render& render);
-    const QImage& Kept(const Look& look, const Render& render);
+    QImage Made(const Look& look);
 };
 
 }  // namespace malvone::qt

@@ -1,4 +1,4 @@
-// BackdropWindow.cpp: shows the backdrop, and paints it where the display server does not.
+// BackdropWindow.cpp: shows and paints the backdrop.
 #include "ui/qt/windows/BackdropWindow.h"
 
 #include <QGuiApplication>
@@ -7,10 +7,9 @@
 #include <QScreen>
 
 #include "ui/layer/App.h"
+#include "ui/qt/drawing/Conversions.h"
 #include "ui/qt/drawing/Painting.h"
-#include "ui/qt/drawing/PictureStore.h"
-#include "ui/qt/drawing/ServerGround.h"
-#include "ui/qt/windows/Backdrop.h"
+#include "ui/qt/platform/Display.h"
 #include "ui/qt/windows/WindowManager.h"
 #include "ui/windows/FrmHintergrund.h"
 
@@ -43,8 +42,6 @@ void BackdropWindow::Present()
     CoverScreen();
     create();
     KeepOffTaskBar(winId());
-    const QImage picture = Coarse();
-    onServer_ = ColourOnServer(*this, picture.pixel(picture.rect().center()));
     pictured_ = false;
     if (MannerOfBackdrop() == BackdropManner::FullScreen) {
         setWindowStates(Qt::WindowFullScreen);
@@ -52,48 +49,45 @@ void BackdropWindow::Present()
     setVisible(true);
 }
 
-QImage BackdropWindow::Coarse() const
-{
-    return pictures_.Coarse(static_cast<FrmHintergrund&>(model_).Image1.Picture);
-}
-
 void BackdropWindow::ShowPicture()
 {
-    if (onServer_) {
-        PaintOnServer(*this, Coarse());
-        pictured_ = true;
-    }
+    pictured_ = true;
+    Paint(QRect(QPoint(), size()));
 }
 
 void BackdropWindow::paintEvent(QPaintEvent* event)
 {
-    if (!onServer_) {
-        PaintHere(event->region());
+    if (pictured_) {
+        Paint(event->region());
     }
 }
 
-void BackdropWindow::PaintHere(const QRegion& region)
+void BackdropWindow::Paint(const QRegion& region)
 {
     if (store_ == nullptr) {
         store_ = std::make_unique<QBackingStore>(this);
     }
-    const bool fresh = store_->size() != size();
-    const QRegion dirty = fresh ? QRegion(QRect(QPoint(), size())) : region;
     store_->resize(size());
-    store_->beginPaint(dirty);
+    store_->beginPaint(region);
     {
         QPainter painter(store_->paintDevice());
-        painter.setClipRegion(dirty);
-        PaintWindow(painter, model_, pictures_, dirty, size());
+        painter.setClipRegion(region);
+        PaintWindow(painter, model_, pictures_, region, size());
     }
     store_->endPaint();
-    store_->flush(dirty);
+    store_->flush(region);
+    // A Wayland compositor goes on reading the pixels. All others have a copy of their own.
+    if (WindowsCanBePlaced()) {
+        store_.reset();
+    }
 }
 
+// The model and its picture follow.
 void BackdropWindow::resizeEvent(QResizeEvent* event)
 {
     QWindow::resizeEvent(event);
-    FitBackdrop(model_, width(), height());
+    model_.Move(0, 0, ToTwips(width()), ToTwips(height()));
+    static_cast<FrmHintergrund&>(model_).Image1.Move(0, 0, model_.Width, model_.Height);
     if (pictured_) {
         ShowPicture();
     }

@@ -1,6 +1,5 @@
-// BackdropWindow.h: the window behind the game. It covers the screen with one picture, takes no
-// input, and is no widget: the first widget that is shown makes Qt look for a screen reader on the
-// session bus, which can wait until the main window is on its way.
+// BackdropWindow.h: the window behind the game. It covers the screen with one picture and takes no
+// input.
 #pragma once
 
 #include <QBackingStore>
@@ -13,6 +12,7 @@ namespace malvone::qt {
 
 class PictureStore;
 
+// No widget: it would keep all pixels of the screen in memory.
 class BackdropWindow final : public QWindow
 {
     Q_OBJECT
@@ -21,12 +21,9 @@ public:
     // The model and the pictures have to outlive the window.
     BackdropWindow(malvone::Window& model, PictureStore& pictures);
 
-    // Puts the window on the screen, as the window manager needs it. Where the display server
-    // paints it, it is plain at first.
+    // Puts the window on the screen, as the window manager needs it, without its picture.
     void Present();
-    // To be called when the main window has been painted: to stretch a picture over the whole
-    // screen keeps the server busy while that window waits for it, for 12 to 16 of 68 to 78 ms to
-    // the first frame (medians of 9).
+    // To be called when the main window has been painted, which would wait for this.
     void ShowPicture();
     // Takes the size of the primary screen: where no window manager does it, nobody else will.
     void CoverScreen();
@@ -44,13 +41,10 @@ protected:
 private:
     malvone::Window& model_;
     PictureStore& pictures_;
-    bool onServer_ = false;  // the display server paints the window, in one colour at first,
-    bool pictured_ = false;  // then with the picture
-    // Only where the server cannot.
+    bool pictured_ = false;
     std::unique_ptr<QBackingStore> store_;
 
-    QImage Coarse() const;
-    void PaintHere(const QRegion& region);
+    void Paint(const QRegion& region);
 };
 
 }  // namespace malvone::qt

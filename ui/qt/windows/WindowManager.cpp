@@ -1,12 +1,17 @@
 // WindowManager.cpp: asks the X server who manages windows, and sets hints.
 #include "ui/qt/windows/WindowManager.h"
 
+#include <QGuiApplication>
 #include <algorithm>
+#include <cstdlib>
 #include <iterator>
+#include <memory>
 #include <string>
 #include <string_view>
 
-#include "ui/qt/platform/X11.h"
+#ifdef MALVONE_XCB
+#include <xcb/xcb.h>
+#endif
 
 namespace malvone::qt {
 namespace {
@@ -38,6 +43,33 @@ constexpr Manager kManagers[] = {
 
 #ifdef MALVONE_XCB
 
+struct Freed
+{
+    void operator()(void* memory) const { std::free(memory); }
+};
+// A reply of the server; null where there was an error instead.
+template<typename Reply>
+using Answer = std::unique_ptr<Reply, Freed>;
+
+// Qt's own connection; null on another platform.
+xcb_connection_t* Connection()
+{
+    const auto* const x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
+    // Other platforms answer too, without a connection.
+    return x11 != nullptr && QGuiApplication::platformName() == QLatin1String("xcb")
+               ? x11->connection()
+               : nullptr;
+}
+
+xcb_atom_t Atom(xcb_connection_t* connection, std::string_view name)
+{
+    const Answer<xcb_intern_atom_reply_t> reply(xcb_intern_atom_reply(
+        connection,
+        xcb_intern_atom(connection, 0, static_cast<std::uint16_t>(name.size()), name.data()),
+        nullptr));
+    return reply ? reply->atom : xcb_atom_t{XCB_ATOM_NONE};
+}
+
 // The bytes of a property, empty where there is none.
 std::string Property(xcb_connection_t* connection, xcb_window_t window, xcb_atom_t name)
 {
@@ -55,17 +87,15 @@ std::string Property(xcb_connection_t* connection, xcb_window_t window, xcb_atom
 
 std::string ManagerName(xcb_connection_t* connection)
 {
-    const auto check = AskForAtom(connection, "_NET_SUPPORTING_WM_CHECK");
-    const auto name = AskForAtom(connection, "_NET_WM_NAME");
     const xcb_window_t root = xcb_setup_roots_iterator(xcb_get_setup(connection)).data->root;
-    const std::string window = Property(connection, root, TakeAtom(connection, check));
-    const xcb_atom_t nameAtom = TakeAtom(connection, name);
+    const std::string window =
+        Property(connection, root, Atom(connection, "_NET_SUPPORTING_WM_CHECK"));
     if (window.size() < sizeof(xcb_window_t)) {
         return {};
     }
     xcb_window_t id = 0;
     std::copy_n(window.begin(), sizeof id, reinterpret_cast<char*>(&id));
-    return Property(connection, id, nameAtom);
+    return Property(connection, id, Atom(connection, "_NET_WM_NAME"));
 }
 
 #endif
@@ -73,7 +103,7 @@ std::string ManagerName(xcb_connection_t* connection)
 BackdropManner AskedFor()
 {
 #ifdef MALVONE_XCB
-    xcb_connection_t* const connection = X11Connection();
+    xcb_connection_t* const connection = Connection();
     if (connection == nullptr) {
         return BackdropManner::FullScreen;
     }
@@ -99,16 +129,14 @@ BackdropManner MannerOfBackdrop()
 void KeepOffTaskBar(WId window)
 {
 #ifdef MALVONE_XCB
-    xcb_connection_t* const connection = X11Connection();
+    xcb_connection_t* const connection = Connection();
     if (connection == nullptr) {
         return;
     }
-    const auto state = AskForAtom(connection, "_NET_WM_STATE");
-    const auto taskBar = AskForAtom(connection, "_NET_WM_STATE_SKIP_TASKBAR");
-    const auto pager = AskForAtom(connection, "_NET_WM_STATE_SKIP_PAGER");
-    const xcb_atom_t hints[] = {TakeAtom(connection, taskBar), TakeAtom(connection, pager)};
+    const xcb_atom_t hints[] = {Atom(connection, "_NET_WM_STATE_SKIP_TASKBAR"),
+                                Atom(connection, "_NET_WM_STATE_SKIP_PAGER")};
     xcb_change_property(connection, XCB_PROP_MODE_APPEND, static_cast<xcb_window_t>(window),
-                        TakeAtom(connection, state), XCB_ATOM_ATOM, 32, 2, hints);
+                        Atom(connection, "_NET_WM_STATE"), XCB_ATOM_ATOM, 32, 2, hints);
 #else
     static_cast<void>(window);
 #endif
