@@ -5,9 +5,11 @@ import subprocess
 import sys
 
 sys.path.append(os.path.join(os.path.dirname(os.path.abspath(__file__)), os.pardir, "support"))
-from desktop import (ARROW, BOARD, BUILD, LEAVE, LEVEL, MARGIN, NEW_GAME, NO, POINTS, YES, Desktop,
-                     Game, cell)
-from processes import Failed, expect, script, until
+from desktop import (ARROW, BOARD, BUILD, LEAVE, LEVEL, MARGIN, MENU, NEW_GAME, NO, POINTS, YES,
+                     Desktop, Game, cell)
+from processes import Failed, expect, script, sleeps, until
+
+MENU_BAR = (30, -10)
 
 
 def refuses_without_display():
@@ -26,6 +28,7 @@ def new_game(game):
     game.click(NEW_GAME)
     until(lambda: game.look(*BOARD) != empty, "stones on the board")
     until(lambda: game.look(*LEVEL) != level, "the level to be counted")
+    until(lambda: sleeps(game.process), "a game that sleeps once the arrow has gone")
 
 
 def hover_and_move(game):
@@ -71,7 +74,9 @@ def message_by_pointer_and_key(game):
     # Enter and Space alone, and the main window was deaf: a new game would have a question, too.
     game.key("Return", "space")
     game.click(NEW_GAME)
+    game.click(MENU_BAR)
     drag(game, window, -40, 30)
+    expect(not game.desktop.windows(MENU), "the menu stays closed")
     expect(game.open_messages() == [window], "Enter and Space leave the question open")
     game.click(NO, window)
     game.no_message()

@@ -1,7 +1,6 @@
 #!/usr/bin/env python3
 """Plays through real sound servers of every condition and checks what is heard and counted, and that
 no call is held up."""
-import glob
 import os
 import subprocess
 import sys
@@ -10,7 +9,7 @@ import time
 
 import listening
 from listening import FILES, Server
-from processes import Failed, end, expect, script, start, until
+from processes import Failed, end, expect, script, sleeps, start, until
 
 PLAYER = os.path.join(os.environ.get("MALVONE_BUILD", "build/release"), "sound_player")
 HELD_UP_MS = 1000   # A call returns at once, or within 0.1 s. One that waits for a sound takes longer.
@@ -166,25 +165,12 @@ def a_server_that_comes_later_is_found():
 
 
 def nothing_wakes_up_in_silence():
-    def woken(process):
-        """How often the threads of a process have gone to sleep and come back."""
-        total = 0
-        for file in glob.glob(f"/proc/{process.pid}/task/*/status"):
-            with open(file, encoding="ascii") as lines:
-                total += sum(int(line.split()[1]) for line in lines if "ctxt_switches" in line)
-        return total
-
-    def asleep(process):
-        before = woken(process)
-        time.sleep(2.5)
-        return woken(process) == before
-
     for kind in ("null", "none", "hung"):
         with Server(kind) as server, Player(server) as player:
             player.plays("BLIP")
             if kind == "null":
                 server.hears("BLIP")
-            until(lambda: asleep(player.process), f"sleep, with the server: {kind}")
+            until(lambda: sleeps(player.process), f"sleep, with the server: {kind}")
 
 
 CASES = (the_waves_are_what_their_script_makes, every_wave_is_played_whole,

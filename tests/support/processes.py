@@ -12,6 +12,7 @@ for what it wants to observe, with a limit that fails.
     if __name__ == "__main__":
         script(main)                            # exit status, time limit, SIGTERM as an exception
 """
+import glob
 import signal
 import subprocess
 import sys
@@ -62,6 +63,19 @@ def end(process):
     except subprocess.TimeoutExpired:
         process.kill()
         process.wait()
+
+
+def sleeps(process, seconds=2.5):
+    """Whether no thread of a process wakes up for a while."""
+    def woken():
+        total = 0
+        for file in glob.glob(f"/proc/{process.pid}/task/*/status"):
+            with open(file, encoding="ascii") as lines:
+                total += sum(int(line.split()[1]) for line in lines if "ctxt_switches" in line)
+        return total
+    before = woken()
+    time.sleep(seconds)
+    return woken() == before
 
 
 def _ended(number, frame):
