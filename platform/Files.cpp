@@ -105,9 +105,6 @@ FileFault ReadLinesFrom(int file, std::size_t count, std::vector<std::string>& l
             return collector.Complete() ? FileFault::None : FileFault::PastEnd;
         }
         collector.Take({block.data(), static_cast<std::size_t>(got)});
-        if (collector.TooLong()) {
-            return FileFault::OtherDevice;
-        }
     }
     return FileFault::None;
 }

@@ -36,9 +36,8 @@ public:
     // A link stays, and leads nowhere until the file is written again.
     void DeleteFileA(const std::string& path) override;
 
-    // A line of more than 64 KiB ends the reading with OtherDevice: no file of the game has one,
-    // and a file of any size takes no more memory than the lines that are wanted. Only a regular
-    // file is read; anything else is PathAccess, and a pipe holds nobody up.
+    // Lines have any length. Only a regular file is read, so that the reading comes to an end;
+    // anything else is PathAccess, and a pipe holds nobody up.
     ReadLines ReadTextLines(const std::string& path, std::size_t count) override;
     // What is written this way is not worth waiting for the disk.
     FileFault WriteTextLines(const std::string& path,

@@ -6,21 +6,11 @@
 #include "platform/CodePage.h"
 
 namespace malvone {
-namespace {
-
-constexpr std::size_t kLongestLine = 64 * 1024;
-
-}  // namespace
-
-bool LineCollector::TooLong() const
-{
-    return line_.size() > kLongestLine;
-}
 
 void LineCollector::Take(std::string_view block)
 {
     for (const char c : block) {
-        if (Complete() || TooLong()) {
+        if (Complete()) {
             return;
         }
         const bool secondOfCrLf = c == '\n' && afterCr_;

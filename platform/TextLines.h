@@ -20,8 +20,6 @@ public:
     {}
 
     bool Complete() const { return lines_.size() >= wanted_; }
-    // No file of the game has such a line.
-    bool TooLong() const;
 
     void Take(std::string_view block);
     // The last line needs no end.

@@ -353,6 +353,9 @@ TEST_F(Namen, ANameIsLockedAgainInTheViewAfterItsEntry)
 TEST_F(Namen, TheModelWritesIntoTheBoxToo)
 {
     TypeAtThirdPlace([](QLineEdit& box) {
+        const std::string longName(200'000, 'x');
+        frmBeste->txtSpieler(2).Text = longName;
+        EXPECT_EQ(box.text().toStdString(), longName);
         frmBeste->txtSpieler(2).Text = "Anna";
         frmBeste->txtSpieler(2).SelStart = 1;
         frmBeste->txtSpieler(2).SelLength = 2;

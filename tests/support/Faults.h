@@ -1,7 +1,6 @@
 // Faults.h: real files, whose calls to the system fail where a test wants it.
 #pragma once
 
-#include <algorithm>
 #include <cerrno>
 #include <functional>
 #include <string_view>
@@ -34,7 +33,7 @@ protected:
     }
     ssize_t Write(int file, const char* bytes, std::size_t count) override
     {
-        return Fails("write") ? -1 : Base::Write(file, bytes, std::min<std::size_t>(count, 3));
+        return Fails("write") ? -1 : Base::Write(file, bytes, (count + 1) / 2);
     }
     int Sync(int file) override { return Fails("sync") ? -1 : Base::Sync(file); }
     int Close(int file) override

@@ -52,15 +52,13 @@ void TextBox::Type(std::string_view text)
     const std::int32_t end = start + std::clamp(SelLength.Get(), 0, length - start);
     const auto head = Characters(old, 0, static_cast<std::size_t>(start));
     const auto tail = Characters(old, static_cast<std::size_t>(end), old.size());
-    const std::size_t kept = CharacterCount(head) + CharacterCount(tail);
-    const std::string typable = KeepTypable(text);
-    const std::string_view typed = Characters(typable, 0, MaxLength - std::min(MaxLength, kept));
+    const std::string typed = KeepTypable(text);
     if (typed.empty() && !text.empty()) {
         return;
     }
 
     SelLength = 0;
-    Text = std::string(head) + std::string(typed) + std::string(tail);
+    Text = std::string(head) + typed + std::string(tail);
     SelStart = start + static_cast<std::int32_t>(CharacterCount(typed));
 }
 

@@ -1,7 +1,6 @@
 // Controls.h: the kinds of control that the windows are made of.
 #pragma once
 
-#include <cstddef>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -84,7 +83,6 @@ public:
 
     TextProperty Text{*this, Change::Text};
     Property<bool> Locked{*this, Change::State, false};
-    std::size_t MaxLength = 255;  // characters that typing makes at most
     Property<std::int32_t> SelStart{*this, Change::Select, 0};
     Property<std::int32_t> SelLength{*this, Change::Select, 0};
     Property<Font> TextFont{*this, Change::Look};

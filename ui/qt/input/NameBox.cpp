@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 #include <QScopedValueRollback>
 #include <QValidator>
+#include <limits>
 
 #include "platform/CodePage.h"
 #include "ui/layer/App.h"
@@ -87,7 +88,7 @@ NameBox::NameBox(TextBox& model, KeyRoute route, QWidget* parent)
     : QLineEdit(parent), model_(&model), route_(std::move(route))
 {
     setValidator(new Sieve(model, this));
-    setMaxLength(static_cast<int>(model.MaxLength));
+    setMaxLength(std::numeric_limits<int>::max());
     setContextMenuPolicy(Qt::PreventContextMenu);
     setAccessibleName(QStringLiteral("Name, Platz %1").arg(model.Index() + 1));
     connect(this, &QLineEdit::textChanged, this, &NameBox::TellModel);
