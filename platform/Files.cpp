@@ -3,14 +3,11 @@
 
 #include <fcntl.h>
 #include <pwd.h>
-#include <sys/file.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
 #include <array>
 #include <cerrno>
 #include <chrono>
-#include <cstdio>
 #include <cstdlib>
 #include <system_error>
 #include <thread>
@@ -26,12 +23,11 @@ namespace {
 
 constexpr std::size_t kBlock = 4096;
 constexpr mode_t kNewFile = 0666;    // less what the user's mask takes away
-constexpr mode_t kNewFolder = 0700;  // what belongs to the player alone, as on every desktop
+constexpr mode_t kNewFolder = 0700;  // for the player alone, as on every desktop
 constexpr int kMostLinks = 40;
 constexpr int kMostKept = 999;
-constexpr int kAttempts = 100;  // of a call that signals keep interrupting
 
-// Two runs that replace a file at the same time wait for each other, but not for one that hangs.
+// Runs that replace a file at the same time wait for each other, but not for one that hangs.
 constexpr int kLockAttempts = 400;
 constexpr std::chrono::milliseconds kLockWait(5);
 
@@ -51,111 +47,6 @@ FileFault FaultOf(int error)
     case ENAMETOOLONG: return FileFault::PathAccess;
     default: return FileFault::OtherDevice;
     }
-}
-
-// A call of the system, made again where a signal came before its answer.
-template<class Call>
-auto Again(Call call)
-{
-    auto result = call();
-    for (int i = 1; i < kAttempts && result < 0 && errno == EINTR; ++i) {
-        result = call();
-    }
-    return result;
-}
-
-int Look(const fs::path& path, struct stat& found)
-{
-    return Again([&] { return ::stat(path.c_str(), &found); });
-}
-
-bool IsFolder(const fs::path& path)
-{
-    struct stat found
-    {};
-    return Look(path, found) == 0 && S_ISDIR(found.st_mode);
-}
-
-bool MakeFolder(const fs::path& path)
-{
-    return Again([&] { return ::mkdir(path.c_str(), kNewFolder); }) == 0;
-}
-
-// What cannot be made is missed when a file in it is opened.
-void MakeFoldersAbove(const fs::path& path)
-{
-    const fs::path folder = path.parent_path();
-    if (folder != path && !IsFolder(folder)) {
-        MakeFoldersAbove(folder);
-        MakeFolder(folder);
-    }
-}
-
-FileFault ReadLinesFrom(int file, std::size_t count, std::vector<std::string>& lines)
-{
-    LineCollector collector(count, lines);
-    std::array<char, kBlock> block{};
-    while (!collector.Complete()) {
-        const ssize_t got = Again([&] { return ::read(file, block.data(), block.size()); });
-        if (got < 0) {
-            return FaultOf(errno);
-        }
-        if (got == 0) {
-            collector.EndOfFile();
-            return collector.Complete() ? FileFault::None : FileFault::PastEnd;
-        }
-        collector.Take({block.data(), static_cast<std::size_t>(got)});
-    }
-    return FileFault::None;
-}
-
-// Leads on to the file behind a link, which may be missing. That the last one is no link is looked
-// at twice, since the new file will take its place.
-FileFault FollowLinks(fs::path& path)
-{
-    std::array<char, kBlock> next{};
-    for (int i = 0; i < kMostLinks; ++i) {
-        const ssize_t length =
-            Again([&] { return ::readlink(path.c_str(), next.data(), next.size()); });
-        if (length < 0) {
-            const int error = errno;
-            std::error_code none;
-            const bool file = (error == EINVAL || error == ENOENT) && !fs::is_symlink(path, none);
-            return file ? FileFault::None : FaultOf(error);
-        }
-        path = path.parent_path() / std::string(next.data(), static_cast<std::size_t>(length));
-    }
-    return FileFault::PathAccess;
-}
-
-// False where another run has held the lock for too long. A folder that knows no locks, on a
-// network say, holds nobody up.
-bool Locked(int folder)
-{
-    for (int i = 0; i < kLockAttempts; ++i) {
-        const int refused = Again([&] { return ::flock(folder, LOCK_EX | LOCK_NB); });
-        if (refused == 0 || errno != EWOULDBLOCK) {
-            return true;
-        }
-        std::this_thread::sleep_for(kLockWait);
-    }
-    return false;
-}
-
-// Gives the file a second name that no file has yet: at no moment it is without one.
-FileFault KeepBeside(const fs::path& file, fs::path& kept)
-{
-    for (int i = 1; i <= kMostKept; ++i) {
-        kept = file.parent_path() / KeptName(file.filename().string(), i);
-        if (Again([&] { return ::link(file.c_str(), kept.c_str()); }) == 0) {
-            return FileFault::None;
-        }
-        if (errno != EEXIST) {
-            break;
-        }
-    }
-    kept.clear();
-    return FaultOf(errno);
 }
 
 fs::path HomeFolder()
@@ -184,7 +75,8 @@ std::optional<fs::path> DefaultDataRoot()
         return data;
     }
     const fs::path home = HomeFolder();
-    if (!home.is_absolute() || !IsFolder(home)) {
+    std::error_code none;
+    if (!home.is_absolute() || !fs::is_directory(home, none)) {
         return std::nullopt;
     }
     return home / ".local" / "share";
@@ -202,11 +94,11 @@ public:
 
     bool Valid() const { return file_ >= 0; }
     int Get() const { return file_; }
-    // False where the system tells only now that something was not written.
+    // False where the system says only now that something was not written.
     bool Close()
     {
         const int file = std::exchange(file_, -1);
-        return file < 0 || system_->Close(file) == 0 || errno == EINTR;
+        return file < 0 || system_->SystemCalls::Close(file) == 0;
     }
 
 private:
@@ -243,7 +135,24 @@ std::optional<fs::path> FilePlatform::Translate(std::string_view path) const
     return std::nullopt;
 }
 
-std::optional<fs::path> FilePlatform::PlaceToWrite(const std::string& path) const
+bool FilePlatform::IsFolder(const fs::path& path)
+{
+    struct stat found
+    {};
+    return Stat(path, found) == 0 && S_ISDIR(found.st_mode);
+}
+
+// What cannot be made is noticed when a file in it is opened.
+void FilePlatform::MakeFoldersAbove(const fs::path& path)
+{
+    const fs::path folder = path.parent_path();
+    if (folder != path && !IsFolder(folder)) {
+        MakeFoldersAbove(folder);
+        MakeFolder(folder, kNewFolder);
+    }
+}
+
+std::optional<fs::path> FilePlatform::PlaceToWrite(const std::string& path)
 {
     std::optional<fs::path> place = Translate(path);
     if (place && root_ && place->parent_path() == *root_) {
@@ -263,7 +172,8 @@ bool FilePlatform::CreateDirectoryA(const std::string& path)
         return true;
     }
     const std::optional<fs::path> place = PlaceToWrite(path);
-    return place && MakeFolder(*place);
+    // Another run may have made it in the meantime.
+    return place && (MakeFolder(*place, kNewFolder) == 0 || (errno == EEXIST && IsFolder(*place)));
 }
 
 std::int32_t FilePlatform::OpenFileExist(const std::string& path)
@@ -274,8 +184,8 @@ std::int32_t FilePlatform::OpenFileExist(const std::string& path)
     }
     struct stat found
     {};
-    if (Look(*place, found) == 0) {
-        const bool readable = S_ISREG(found.st_mode) && ::access(place->c_str(), R_OK) == 0;
+    if (Stat(*place, found) == 0) {
+        const bool readable = S_ISREG(found.st_mode) && Access(*place, R_OK) == 0;
         return readable ? kFileExists : kAccessRefused;
     }
     const int error = errno;
@@ -289,8 +199,11 @@ std::int32_t FilePlatform::OpenFileExist(const std::string& path)
 void FilePlatform::DeleteFileA(const std::string& path)
 {
     std::optional<fs::path> place = Translate(path);
-    if (place && !Over && FollowLinks(*place) == FileFault::None) {
-        static_cast<void>(Again([&] { return ::unlink(place->c_str()); }));
+    struct stat found
+    {};
+    if (place && !Over && FollowLinks(*place) == FileFault::None && Stat(*place, found) == 0 &&
+        S_ISREG(found.st_mode)) {
+        Remove(*place);
     }
 }
 
@@ -304,13 +217,25 @@ ReadLines FilePlatform::ReadTextLines(const std::string& path, std::size_t count
     if (!file.Valid()) {
         return {FaultOf(errno), {}};
     }
-    struct stat found
-    {};
-    if (::fstat(file.Get(), &found) != 0 || !S_ISREG(found.st_mode)) {
+    if (!IsRegular(file)) {
         return {FileFault::PathAccess, {}};
     }
     ReadLines result;
-    result.Fault = ReadLinesFrom(file.Get(), count, result.Lines);
+    LineCollector collector(count, result.Lines);
+    std::array<char, kBlock> block{};
+    while (!collector.Complete()) {
+        const ssize_t got = Read(file.Get(), block);
+        if (got < 0) {
+            result.Fault = FaultOf(errno);
+            return result;
+        }
+        if (got == 0) {
+            collector.EndOfFile();
+            result.Fault = collector.Complete() ? FileFault::None : FileFault::PastEnd;
+            return result;
+        }
+        collector.Take({block.data(), static_cast<std::size_t>(got)});
+    }
     return result;
 }
 
@@ -328,9 +253,7 @@ FileFault FilePlatform::WriteTextLines(const std::string& path,
     if (!file.Valid()) {
         return FaultOf(errno);
     }
-    struct stat found
-    {};
-    if (::fstat(file.Get(), &found) != 0 || !S_ISREG(found.st_mode)) {
+    if (!IsRegular(file)) {
         return FileFault::PathAccess;
     }
     const FileFault fault = WriteAll(file.Get(), FileContent(lines));
@@ -340,8 +263,8 @@ FileFault FilePlatform::WriteTextLines(const std::string& path,
     return file.Close() ? FileFault::None : FaultOf(errno);
 }
 
-FileFault FilePlatform::ReplaceTextLines(const std::string& path,
-                                         const std::vector<std::string>& lines, OldFile old)
+FileFault FilePlatform::RenewTextLines(const std::string& path, std::size_t count,
+                                       const Renewal& renewal)
 {
     if (Over) {
         return FileFault::None;
@@ -359,31 +282,44 @@ FileFault FilePlatform::ReplaceTextLines(const std::string& path,
     if (!Locked(folder.Get())) {
         return FileFault::OtherDevice;
     }
+    const std::optional<NewFile> next =
+        renewal(count == 0 ? ReadLines() : ReadTextLines(path, count));
+    if (!next) {
+        return FileFault::None;
+    }
+    fault = Replace(target, *next);
+    if (fault == FileFault::None) {
+        // The new name is to survive a power cut. Should this fail, the file is replaced all the
+        // same, and after a power cut it would be the old one, whole.
+        Sync(folder.Get());
+    }
+    return fault;
+}
+
+FileFault FilePlatform::Replace(const fs::path& target, const NewFile& next)
+{
     const fs::path name = target.string() + ".neu";
-    std::remove(name.c_str());  // what a run that was killed has left there
+    Remove(name);  // a run that was killed may have left it
     std::optional<mode_t> mode;
-    fault = LookAtOld(target, old, mode);
+    FileFault fault = LookAtOld(target, next.Old, mode);
     if (fault != FileFault::None) {
         return fault;
     }
-    fault = WriteNew(name, FileContent(lines), mode);
+    fault = WriteNew(name, FileContent(next.Lines), mode);
     fs::path kept;
-    if (fault == FileFault::None && mode && old == OldFile::Kept) {
+    if (fault == FileFault::None && mode && next.Old == OldFile::Kept) {
         fault = KeepBeside(target, kept);
     }
-    if (fault == FileFault::None &&
-        Again([&] { return Rename(name.c_str(), target.c_str()); }) != 0) {
+    if (fault == FileFault::None && Rename(name, target) != 0) {
         fault = FaultOf(errno);
     }
     if (fault != FileFault::None) {
-        std::remove(name.c_str());
-        std::remove(kept.c_str());
-        return fault;
+        Remove(name);
+        if (!kept.empty()) {
+            Remove(kept);
+        }
     }
-    // The new name is to outlive a power cut. Where that fails, the file is replaced all the same,
-    // and after a power cut it would be the old one, whole.
-    static_cast<void>(Sync(folder.Get()));
-    return FileFault::None;
+    return fault;
 }
 
 // Gives the permissions that the new file takes over; none where there is no old file, which two
@@ -394,7 +330,7 @@ FileFault FilePlatform::LookAtOld(const fs::path& target, OldFile old, std::opti
     const int refused = writable ? 0 : errno;
     struct stat found
     {};
-    if (Look(target, found) != 0) {
+    if (Stat(target, found) != 0) {
         const bool missing = errno == ENOENT;
         return missing && refused == ENOENT ? FileFault::None : FaultOf(missing ? refused : errno);
     }
@@ -419,56 +355,117 @@ FileFault FilePlatform::WriteNew(const fs::path& name, std::string_view content,
         return FaultOf(errno);
     }
     if (mode) {  // not every file system has permissions
-        static_cast<void>(::fchmod(file.Get(), *mode) == 0);
+        ChangeMode(file.Get(), *mode);
     }
     const FileFault fault = WriteAll(file.Get(), content);
     if (fault != FileFault::None) {
         return fault;
     }
-    const bool safe = Again([&] { return Sync(file.Get()); }) == 0;
-    return safe && file.Close() ? FileFault::None : FaultOf(errno);
+    return Sync(file.Get()) == 0 && file.Close() ? FileFault::None : FaultOf(errno);
 }
 
 FileFault FilePlatform::WriteAll(int file, std::string_view content)
 {
     while (!content.empty()) {
-        const ssize_t written = Again([&] { return Write(file, content.data(), content.size()); });
+        const ssize_t written = Write(file, content);
         if (written <= 0) {
-            return written < 0 ? FaultOf(errno) : FileFault::OtherDevice;
+            errno = written < 0 ? errno : EIO;
+            return FaultOf(errno);
         }
         content.remove_prefix(static_cast<std::size_t>(written));
     }
     return FileFault::None;
 }
 
+// Gives the file a second name that no file has yet: at no moment is it without one. A file system
+// that knows no second names gets a copy.
+FileFault FilePlatform::KeepBeside(const fs::path& file, fs::path& kept)
+{
+    for (int i = 1; i <= kMostKept; ++i) {
+        const fs::path name = file.parent_path() / KeptName(file.filename().string(), i);
+        int error = Link(file, name) == 0 ? 0 : errno;
+        if (error != 0 && error != EEXIST) {
+            error = Copy(file, name);
+        }
+        if (error == 0) {
+            kept = name;
+        }
+        if (error != EEXIST) {
+            return error == 0 ? FileFault::None : FaultOf(error);
+        }
+    }
+    return FileFault::PathAccess;
+}
+
+// A whole copy, on the disk, or none. Gives the error number, 0 for success.
+int FilePlatform::Copy(const fs::path& from, const fs::path& to)
+{
+    const Handle source = OpenFile(from, O_RDONLY);
+    struct stat found
+    {};
+    if (!source.Valid() || FileStat(source.Get(), found) != 0) {
+        return errno;
+    }
+    Handle copy = OpenFile(to, O_WRONLY | O_CREAT | O_EXCL, found.st_mode & 0777U);
+    if (!copy.Valid()) {
+        return errno;
+    }
+    std::array<char, kBlock> block{};
+    bool good = true;
+    ssize_t got = 0;
+    while (good && (got = Read(source.Get(), block)) > 0) {
+        good =
+            WriteAll(copy.Get(), {block.data(), static_cast<std::size_t>(got)}) == FileFault::None;
+    }
+    good = good && got == 0 && Sync(copy.Get()) == 0 && copy.Close();
+    const int error = good ? 0 : errno;
+    if (!good) {
+        Remove(to);
+    }
+    return error;
+}
+
+// Leads on to the file behind a link, which may be missing. That the last one is no link is looked
+// at twice, since the new file will take its place.
+FileFault FilePlatform::FollowLinks(fs::path& path)
+{
+    std::array<char, kBlock> next{};
+    for (int i = 0; i < kMostLinks; ++i) {
+        const ssize_t length = ReadLink(path, next);
+        if (length < 0) {
+            const int error = errno;
+            std::error_code none;
+            const bool file = (error == EINVAL || error == ENOENT) && !fs::is_symlink(path, none);
+            return file ? FileFault::None : FaultOf(error);
+        }
+        path = path.parent_path() / std::string(next.data(), static_cast<std::size_t>(length));
+    }
+    return FileFault::PathAccess;
+}
+
+// False where another run has held the lock for too long. A folder that knows no locks, on a
+// network say, holds nobody up.
+bool FilePlatform::Locked(int folder)
+{
+    for (int i = 0; i < kLockAttempts; ++i) {
+        if (Lock(folder) == 0 || errno != EWOULDBLOCK) {
+            return true;
+        }
+        std::this_thread::sleep_for(kLockWait);
+    }
+    return false;
+}
+
+bool FilePlatform::IsRegular(const Handle& file)
+{
+    struct stat found
+    {};
+    return FileStat(file.Get(), found) == 0 && S_ISREG(found.st_mode);
+}
+
 FilePlatform::Handle FilePlatform::OpenFile(const fs::path& path, int flags, mode_t mode)
 {
-    return {*this, Again([&] { return Open(path.c_str(), flags | kOpenFlags, mode); })};
-}
-
-int FilePlatform::Open(const char* path, int flags, mode_t mode)
-{
-    return ::open(path, flags, mode);
-}
-
-ssize_t FilePlatform::Write(int file, const char* bytes, std::size_t count)
-{
-    return ::write(file, bytes, count);
-}
-
-int FilePlatform::Sync(int file)
-{
-    return ::fsync(file);
-}
-
-int FilePlatform::Close(int file)
-{
-    return ::close(file);
-}
-
-int FilePlatform::Rename(const char* from, const char* to)
-{
-    return std::rename(from, to);
+    return {*this, Open(path, flags | kOpenFlags, mode)};
 }
 
 }  // namespace malvone

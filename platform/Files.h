@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "platform/Platform.h"
+#include "platform/SystemCalls.h"
 
 namespace malvone {
 
@@ -19,7 +20,7 @@ namespace malvone {
 // the user's account. Nothing where the home folder does not exist.
 std::optional<std::filesystem::path> DefaultDataRoot();
 
-class FilePlatform : public Platform
+class FilePlatform : public Platform, protected SystemCalls
 {
 public:
     // Without a root there is no Windows folder, and no file can be kept.
@@ -29,35 +30,26 @@ public:
     std::optional<std::filesystem::path> Translate(std::string_view path) const;
 
     std::string GetWindowsDirectoryA() override;
-    // A root that is missing is made on the way, with all folders above it.
+    // Makes a missing root on the way, with all folders above it.
     bool CreateDirectoryA(const std::string& path) override;
-    // A root that is missing counts as an empty folder, as the root of a drive is always there.
+    // A missing root counts as an empty folder, as the root of a drive is always there.
     std::int32_t OpenFileExist(const std::string& path) override;
-    // A link stays, and leads nowhere until the file is written again.
+    // Follows links, which stay, and leaves alone whatever is no regular file.
     void DeleteFileA(const std::string& path) override;
 
     // Lines have any length. Only a regular file is read, so that the reading comes to an end;
     // anything else is PathAccess, and a pipe holds nobody up.
     ReadLines ReadTextLines(const std::string& path, std::size_t count) override;
-    // What is written this way is not worth waiting for the disk.
+    // Does not wait for the disk.
     FileFault WriteTextLines(const std::string& path,
                              const std::vector<std::string>& lines) override;
     // The new file is complete on the disk before it gets the name of the old one, whose
-    // permissions it takes over. A link is followed, and a file that may not be written stays as it
-    // is unless it is kept. The new file is written under the name of the old one and ".neu" behind
-    // it; what a run that was killed has left there goes, and two runs wait for each other. A kept
-    // file lies beside the new one, with "-nicht-gelesen-" and a number behind its name.
-    FileFault ReplaceTextLines(const std::string& path, const std::vector<std::string>& lines,
-                               OldFile old) override;
-
-protected:
-    // The system's calls that can fail half-way, to be put out of order by tests. They answer as
-    // the system does: a negative number and errno.
-    virtual int Open(const char* path, int flags, mode_t mode);
-    virtual ssize_t Write(int file, const char* bytes, std::size_t count);
-    virtual int Sync(int file);
-    virtual int Close(int file);
-    virtual int Rename(const char* from, const char* to);
+    // permissions it takes over. Links are followed, and a file that may not be written stays as it
+    // is unless it is kept. The new file is written under the name of the old one and ".neu"; what
+    // a killed run has left there goes. Two runs wait for each other, at most two seconds. A kept
+    // file lies beside the new one, with "-nicht-gelesen-" and a number in its name.
+    FileFault RenewTextLines(const std::string& path, std::size_t count,
+                             const Renewal& renewal) override;
 
 private:
     class Handle;
@@ -65,14 +57,22 @@ private:
     std::optional<std::filesystem::path> root_;
     std::filesystem::path programFolder_;
 
+    bool IsFolder(const std::filesystem::path& path);
+    void MakeFoldersAbove(const std::filesystem::path& path);
     // Where a file is to be written; the root is made if the file lies directly in it.
-    std::optional<std::filesystem::path> PlaceToWrite(const std::string& path) const;
+    std::optional<std::filesystem::path> PlaceToWrite(const std::string& path);
+    FileFault FollowLinks(std::filesystem::path& path);
+    bool Locked(int folder);
     Handle OpenFile(const std::filesystem::path& path, int flags, mode_t mode = 0);
+    bool IsRegular(const Handle& file);
+    FileFault Replace(const std::filesystem::path& target, const NewFile& next);
     FileFault LookAtOld(const std::filesystem::path& target, OldFile old,
                         std::optional<mode_t>& mode);
     FileFault WriteNew(const std::filesystem::path& name, std::string_view content,
                        std::optional<mode_t> mode);
     FileFault WriteAll(int file, std::string_view content);
+    FileFault KeepBeside(const std::filesystem::path& file, std::filesystem::path& kept);
+    int Copy(const std::filesystem::path& from, const std::filesystem::path& to);
 };
 
 }  // namespace malvone

@@ -4,6 +4,8 @@
 #include <chrono>
 #include <cstddef>
 #include <cstdint>
+#include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -23,6 +25,8 @@ struct ReadLines
 {
     FileFault Fault = FileFault::None;
     std::vector<std::string> Lines;  // UTF-8, without line ends; what was read up to the fault
+
+    friend bool operator==(const ReadLines&, const ReadLines&) = default;
 };
 
 // What becomes of a file in the place of which a new one is written.
@@ -31,6 +35,15 @@ enum class OldFile {
     Kept,   // the same, and the old one is kept beside it, over no other file
     Stays,  // the new one is not written
 };
+
+struct NewFile
+{
+    std::vector<std::string> Lines;
+    OldFile Old = OldFile::Goes;
+};
+
+// Works out a new file from what the old one holds now; nothing leaves the old one alone.
+using Renewal = std::function<std::optional<NewFile>(const ReadLines& now)>;
 
 // Answers of OpenFile with OF_EXIST.
 inline constexpr std::int32_t kFileExists = 0;
@@ -68,9 +81,15 @@ public:
     virtual FileFault WriteTextLines(const std::string& path,
                                      const std::vector<std::string>& lines) = 0;
     // The same in one step: a complete new file takes the place of the old one, or the old one
-    // stays as it was, which is a fault.
-    virtual FileFault ReplaceTextLines(const std::string& path,
-                                       const std::vector<std::string>& lines, OldFile old) = 0;
+    // stays as it was, which is a fault. What goes there is decided from the first `count` lines of
+    // the old file, and no other run changes it in between. A count of 0 reads nothing.
+    virtual FileFault RenewTextLines(const std::string& path, std::size_t count,
+                                     const Renewal& renewal) = 0;
+    FileFault ReplaceTextLines(const std::string& path, const std::vector<std::string>& lines,
+                               OldFile old)
+    {
+        return RenewTextLines(path, 0, [&](const ReadLines&) { return NewFile{lines, old}; });
+    }
 
     // Hands a wave file to the player and returns at once; the empty path is silence.
     virtual void sndPlaySoundA(const std::string& path) = 0;

@@ -61,14 +61,20 @@ FileFault WebPlatform::WriteTextLines(const std::string& path,
     return FileFault::NotFound;
 }
 
-FileFault WebPlatform::ReplaceTextLines(const std::string& path,
-                                        const std::vector<std::string>& lines, OldFile old)
+// Two tabs never play at once, so nothing changes the entry in between.
+FileFault WebPlatform::RenewTextLines(const std::string& path, std::size_t count,
+                                      const Renewal& renewal)
 {
     const std::optional<std::string> there = ReadEntry(path);
-    if (!there || old == OldFile::Goes) {
-        return WriteTextLines(path, lines);
+    const ReadLines now = count == 0 ? ReadLines() : ReadTextLines(path, count);
+    const std::optional<NewFile> next = renewal(now);
+    if (!next) {
+        return FileFault::None;
     }
-    if (old == OldFile::Stays) {
+    if (!there || next->Old == OldFile::Goes) {
+        return WriteTextLines(path, next->Lines);
+    }
+    if (next->Old == OldFile::Stays) {
         return FileFault::NoPermission;
     }
     int number = 1;
@@ -77,7 +83,7 @@ FileFault WebPlatform::ReplaceTextLines(const std::string& path,
     }
     const std::string kept = KeptName(path, number);
     FileFault fault = WriteEntry(kept, *there);
-    fault = fault == FileFault::None ? WriteTextLines(path, lines) : fault;
+    fault = fault == FileFault::None ? WriteTextLines(path, next->Lines) : fault;
     if (fault != FileFault::None) {
         DeleteFileA(kept);
     }

@@ -21,8 +21,8 @@ public:
     ReadLines ReadTextLines(const std::string& path, std::size_t count) override;
     FileFault WriteTextLines(const std::string& path,
                              const std::vector<std::string>& lines) override;
-    FileFault ReplaceTextLines(const std::string& path, const std::vector<std::string>& lines,
-                               OldFile old) override;
+    FileFault RenewTextLines(const std::string& path, std::size_t count,
+                             const Renewal& renewal) override;
     void sndPlaySoundA(const std::string& path) override { Ask("sound", path); }
     void ShellExecuteA(const std::string& path) override { Ask("open", path); }
 };
