@@ -90,6 +90,9 @@ function(malvone_script_tests LABEL)
     endforeach()
 endfunction()
 
+# Scripts that play with several programs at once.
+malvone_script_tests(games SOURCES tests/storage/*.py)
+
 # Scripts that drive real windows or a real sound server; each starts what it needs by itself.
 # They measure times and so have the machine for themselves.
 if(MALVONE_QT)

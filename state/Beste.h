@@ -3,6 +3,7 @@
 
 #include <cstdint>
 
+#include "platform/Platform.h"
 #include "ui/layer/Units.h"
 
 namespace malvone {
@@ -12,7 +13,7 @@ struct Bestenstand
     Flag EintragModus = False;      // True: the window opens, or is open, for entering a name
     std::int16_t EintragPlatz = 0;  // place 0 to 4 of the new entry; -1 while there is none
     std::int32_t EndPunkte = 0;     // points of the finished game
-    bool Gelesen = false;           // the whole file was read into the lists, or written from them
+    ReadLines Datei;                // the file as this run has last read or written it
 };
 
 extern Bestenstand Beste;

@@ -3,8 +3,10 @@
 #include "storage/modBeste.h"
 
 #include <algorithm>
+#include <optional>
 #include <vector>
 
+#include "platform/TextLines.h"
 #include "state/Beste.h"
 #include "state/Pfade.h"
 #include "state/Spielstand.h"
@@ -44,11 +46,46 @@ struct Eintrag
     std::string Name;
     std::string Punkte;
 };
+using Liste = std::vector<Eintrag>;
 
-void ListenLeeren()
+// What is missing in a list is empty.
+Liste AusZeilen(const std::vector<std::string>& zeilen)
+{
+    const auto zeile = [&](std::size_t i) { return i < zeilen.size() ? zeilen[i] : std::string(); };
+    Liste liste;
+    for (std::size_t platz = 0; platz < kPlaetze; ++platz) {
+        liste.push_back({zeile(platz), zeile(platz + kPlaetze)});
+    }
+    return liste;
+}
+
+std::vector<std::string> InZeilen(const Liste& liste)
+{
+    std::vector<std::string> zeilen(kZeilen);
+    for (std::size_t platz = 0; platz < kPlaetze; ++platz) {
+        zeilen[platz] = liste[platz].Name;
+        zeilen[platz + kPlaetze] = liste[platz].Punkte;
+    }
+    return zeilen;
+}
+
+Liste ImFenster()
+{
+    Liste liste;
+    for (int platz = 0; platz < kPlaetze; ++platz) {
+        liste.push_back({frmBeste->lstName.List(platz), frmBeste->lstPunkte.List(platz)});
+    }
+    return liste;
+}
+
+void InsFenster(const Liste& liste)
 {
     frmBeste->lstName.Clear();
     frmBeste->lstPunkte.Clear();
+    for (const Eintrag& eintrag : liste) {
+        frmBeste->lstName.AddItem(eintrag.Name);
+        frmBeste->lstPunkte.AddItem(eintrag.Punkte);
+    }
 }
 
 std::int32_t Punktzahl(const Eintrag& eintrag)
@@ -58,17 +95,30 @@ std::int32_t Punktzahl(const Eintrag& eintrag)
 
 // The list as a new result meets it: places without a number stand behind all others, so that they
 // are the first to go.
-std::vector<Eintrag> Rangliste()
+Liste Rangliste(Liste liste)
 {
-    std::vector<Eintrag> eintraege;
-    eintraege.reserve(kPlaetze + 1);
-    for (int platz = 0; platz < kPlaetze; ++platz) {
-        eintraege.push_back({frmBeste->lstName.List(platz), frmBeste->lstPunkte.List(platz)});
-    }
-    std::stable_partition(eintraege.begin(), eintraege.end(), [](const Eintrag& eintrag) {
+    std::stable_partition(liste.begin(), liste.end(), [](const Eintrag& eintrag) {
         return Zahl32(eintrag.Punkte).has_value();
     });
-    return eintraege;
+    return liste;
+}
+
+// The place 0 to 4 that a result takes, -1 for none.
+// By design (der-aeltere-zuerst): one would expect the newer of two equal results to take the
+// place. Only a greater one does. Test: games.entry
+std::int16_t PlatzFuer(std::int32_t punkte, const Liste& rangliste)
+{
+    const auto geschlagen =
+        std::find_if(rangliste.begin(), rangliste.end(),
+                     [&](const Eintrag& eintrag) { return punkte > Punktzahl(eintrag); });
+    const bool keiner = geschlagen == rangliste.end();
+    return static_cast<std::int16_t>(keiner ? -1 : geschlagen - rangliste.begin());
+}
+
+void Einfuegen(const Eintrag& eintrag, std::int16_t platz, Liste& rangliste)
+{
+    rangliste.insert(rangliste.begin() + platz, eintrag);
+    rangliste.pop_back();
 }
 
 std::vector<std::string> Vorgabe()
@@ -78,6 +128,47 @@ std::vector<std::string> Vorgabe()
         zeilen.push_back(std::to_string(kErsterVorgabewert - platz * kVorgabeschritt));
     }
     return zeilen;
+}
+
+// What a save makes of the file that it finds.
+struct Speicherung
+{
+    Liste Inhalt;  // of the file afterwards
+    OldFile Alte = OldFile::Goes;
+    bool Eingetragen = true;                 // else the file stays as it is
+    FileFault Lesefehler = FileFault::None;  // to be told
+};
+
+// A file that this run has not read or written last is somebody else's: the new entry goes into
+// that list, by the same rule. A file that is gone was wiped; two calls have to agree on that.
+Speicherung WasZuSpeichernIst(const ReadLines& jetzt)
+{
+    const bool ganz = jetzt.Fault == FileFault::None;
+    if (jetzt == Beste.Datei) {
+        return {ImFenster(), ganz ? OldFile::Goes : OldFile::Kept};
+    }
+    const bool geloescht = jetzt.Fault == FileFault::NotFound && !ExistiertDatei(BesteDatei());
+    if (!ganz && !geloescht) {
+        return {ImFenster(), OldFile::Kept, true, jetzt.Fault};
+    }
+    const Eintrag eintrag = ImFenster()[static_cast<std::size_t>(Beste.EintragPlatz)];
+    const Liste andere = AusZeilen(geloescht ? Vorgabe() : jetzt.Lines);
+    Liste rangliste = Rangliste(andere);
+    const std::int16_t platz = PlatzFuer(Punktzahl(eintrag), rangliste);
+    if (platz < 0) {
+        return {andere, OldFile::Goes, false};
+    }
+    Einfuegen(eintrag, platz, rangliste);
+    return {rangliste};
+}
+
+void LesefehlerMelden(FileFault fehler)
+{
+    if (fehler != FileFault::None) {
+        const auto nummer = static_cast<std::int32_t>(fehler);
+        MeldungZeigen(kNichtLesbar.Meldung,
+                      std::string(kNichtLesbar.Titel) + std::to_string(nummer));
+    }
 }
 
 }  // namespace
@@ -100,62 +191,62 @@ void BesteVorgabe()
 
 void BesteLoeschen()
 {
-    // In one step, or else in place: either leaves a link and the permissions as they are. Only a
-    // file that refuses both is deleted.
     const std::string datei = BesteDatei();
-    if (App.System().ReplaceTextLines(datei, Vorgabe(), OldFile::Goes) == FileFault::None ||
-        App.System().WriteTextLines(datei, Vorgabe()) == FileFault::None) {
-        return;
-    }
-    if (ExistiertDatei(datei)) {
+    FileFault fehler = App.System().ReplaceTextLines(datei, Vorgabe(), OldFile::Goes);
+    // A file that may not be written can still be deleted. Emptying it in place is no way: a fault
+    // in between would leave half a list.
+    if (fehler == FileFault::NoPermission && ExistiertDatei(datei)) {
         App.System().DeleteFileA(datei);
+        fehler = App.System().ReplaceTextLines(datei, Vorgabe(), OldFile::Stays);
     }
-    BesteVorgabe();
+    if (fehler != FileFault::None) {
+        MeldungZeigen(kNichtGespeichert);
+    }
 }
 
 void BesteLesen()
 {
-    ListenLeeren();
-    const ReadLines gelesen = App.System().ReadTextLines(BesteDatei(), kZeilen);
-    for (std::size_t zeile = 0; zeile < gelesen.Lines.size(); ++zeile) {
+    frmBeste->lstName.Clear();
+    frmBeste->lstPunkte.Clear();
+    Beste.Datei = App.System().ReadTextLines(BesteDatei(), kZeilen);
+    for (std::size_t zeile = 0; zeile < Beste.Datei.Lines.size(); ++zeile) {
         ListBox& liste = zeile < kPlaetze ? frmBeste->lstName : frmBeste->lstPunkte;
-        liste.AddItem(gelesen.Lines[zeile]);
+        liste.AddItem(Beste.Datei.Lines[zeile]);
     }
-    Beste.Gelesen = gelesen.Fault == FileFault::None;
-    if (!Beste.Gelesen) {
-        const auto nummer = static_cast<std::int32_t>(gelesen.Fault);
-        MeldungZeigen(kNichtLesbar.Meldung,
-                      std::string(kNichtLesbar.Titel) + std::to_string(nummer));
-    }
+    LesefehlerMelden(Beste.Datei.Fault);
 }
 
 void BesteSpeichern()
 {
-    std::vector<std::string> zeilen;
-    zeilen.reserve(kZeilen);
-    for (const ListBox* const liste : {&frmBeste->lstName, &frmBeste->lstPunkte}) {
-        for (int platz = 0; platz < kPlaetze; ++platz) {
-            zeilen.push_back(liste->List(platz));  // a missing item is an empty line
-        }
-    }
-    const OldFile alte = Beste.Gelesen ? OldFile::Goes : OldFile::Kept;
-    if (App.System().ReplaceTextLines(BesteDatei(), zeilen, alte) != FileFault::None) {
+    std::optional<Speicherung> neu;  // nothing is saved any more when the program is over
+    const FileFault fehler = App.System().RenewTextLines(
+        BesteDatei(), kZeilen, [&neu](const ReadLines& jetzt) -> std::optional<NewFile> {
+            neu = WasZuSpeichernIst(jetzt);
+            if (!neu->Eingetragen) {
+                return std::nullopt;
+            }
+            return NewFile{InZeilen(neu->Inhalt), neu->Alte};
+        });
+    if (fehler != FileFault::None) {
         MeldungZeigen(kNichtGespeichert);
         return;
     }
-    Beste.Gelesen = true;
+    if (!neu) {
+        return;
+    }
+    InsFenster(neu->Inhalt);
+    Beste.Datei = FirstLines(FileContent(InZeilen(neu->Inhalt)), kZeilen);
+    LesefehlerMelden(neu->Lesefehler);
+    if (!neu->Eingetragen) {
+        MeldungZeigen(kKeinEintrag);
+    }
 }
 
 void BesteEintragen(std::int16_t platz)
 {
-    std::vector<Eintrag> eintraege = Rangliste();
-    eintraege.insert(eintraege.begin() + platz, {kNeuerName, std::to_string(Beste.EndPunkte)});
-    eintraege.pop_back();
-    ListenLeeren();
-    for (const Eintrag& eintrag : eintraege) {
-        frmBeste->lstPunkte.AddItem(eintrag.Punkte);
-        frmBeste->lstName.AddItem(eintrag.Name);
-    }
+    Liste liste = Rangliste(ImFenster());
+    Einfuegen({kNeuerName, std::to_string(Beste.EndPunkte)}, platz, liste);
+    InsFenster(liste);
     frmBeste->Move(frmTessel->Left - kVersatz, frmTessel->Top - kVersatz);
     frmBeste->Show(ShowMode::Modal);
 }
@@ -168,20 +259,11 @@ std::int32_t PunkteDesPlatzes(int platz)
 void BestePruefen()
 {
     Beste.EintragModus = False;
-    Beste.EintragPlatz = -1;
     Beste.EndPunkte = Stand.PunkteGesamt;
     // By design (keine-zahl-ist-null): one would expect a damaged list to be refused. A place whose
     // points are missing or no number counts as 0 and as the last one, so that it goes first.
     // Test: BestePruefen.APlaceWithoutANumberCountsAsNothing
-    const std::vector<Eintrag> rangliste = Rangliste();
-    // By design (der-aeltere-zuerst): one would expect the newer of two equal results to take the
-    // place. Only a greater one does. Test: games.entry
-    const auto geschlagen =
-        std::find_if(rangliste.begin(), rangliste.end(),
-                     [](const Eintrag& eintrag) { return Beste.EndPunkte > Punktzahl(eintrag); });
-    if (geschlagen != rangliste.end()) {
-        Beste.EintragPlatz = static_cast<std::int16_t>(geschlagen - rangliste.begin());
-    }
+    Beste.EintragPlatz = PlatzFuer(Beste.EndPunkte, Rangliste(ImFenster()));
     if (Beste.EintragPlatz == -1) {
         MeldungZeigen(kKeinEintrag);
     } else if (FrageStellen(kNeueBestmarke)) {

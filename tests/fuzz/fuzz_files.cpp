@@ -104,7 +104,7 @@ void LoadList(Player& player)
     BesteLesen();
     const int items = frmBeste->lstName.ListCount() + frmBeste->lstPunkte.ListCount();
     Require(player.Messages == (items == 2 * kPlaetze ? 0 : 1));
-    Require(Beste.Gelesen == (player.Messages == 0));
+    Require((Beste.Datei.Fault == FileFault::None) == (player.Messages == 0));
 }
 
 }  // namespace

@@ -168,6 +168,69 @@ TEST(BesteSpeichern, AFailureIsToldAndLeavesTheFile)
     EXPECT_EQ(frmBeste->lstName.List(0), "neu");
 }
 
+// What this run knows of the file is old: somebody else has written it before the save.
+TEST(BesteSpeichern, AnEntryGoesIntoTheListThatIsThereNow)
+{
+    const auto list = [](const std::string& names, const std::string& points) {
+        std::string lines = names + " " + points + " ";
+        for (std::size_t at = 0; (at = lines.find(' ', at)) != std::string::npos; at += 2) {
+            lines.replace(at, 1, "\r\n");
+        }
+        return lines;
+    };
+    const std::string five = list("A B C D E", "500 400 300 200 100");
+    const std::string wiped = list("x Niemand Niemand Niemand Niemand", "5200 5000 4700 4400 4100");
+    const struct
+    {
+        const char* What;
+        std::int32_t Points;
+        std::string Now;  // "-": deleted
+        std::string After;
+        const char* Told = "";
+    } cases[] = {
+        {"another entry", 250, list("A Z B C D", "500 450 400 300 200"),
+         list("A Z B C x", "500 450 400 300 250")},
+        {"the same points", 250, list("A B C Z D", "500 400 300 250 200"),
+         list("A B C Z x", "500 400 300 250 250")},
+        {"no room", 250, list("V W X Y Z", "900 800 700 600 250"),
+         list("V W X Y Z", "900 800 700 600 250"), "ist leider nicht möglich!"},
+        {"wiped", 5200, kDefault, wiped},
+        {"deleted", 5200, "-", wiped},
+        {"damaged", 250, "A\r\n", list("A B C x D", "500 400 300 250 200"), "Fehlernummer: 62"},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.What);
+        Game game(five);
+        frmBeste.Touch();
+        Stand.PunkteGesamt = c.Points;
+        std::filesystem::remove(game.BestList);
+        if (c.Now != "-") {
+            WriteFile(game.BestList, c.Now);
+        }
+        const std::string told =
+            game("key J\ntype x\ndo frmBeste.cmdEnde Click\nkey J\nkey Esc\n", &EndOfGame);
+        EXPECT_NE(told.find(c.Told), std::string::npos) << told;
+        EXPECT_EQ(told.find("leider") == std::string::npos, c.After != c.Now) << told;
+        EXPECT_EQ(Contents(game.BestList), c.After);
+        EXPECT_EQ(Contents(game.DataFolder / "malvone-nicht-gelesen-1.txt"),
+                  c.What == std::string("damaged") ? std::optional(c.Now) : std::nullopt);
+        std::string names;
+        for (int place = 0; place < kPlaetze; ++place) {
+            names += frmBeste->lstName.List(place) + "\r\n";
+        }
+        EXPECT_TRUE(c.After.starts_with(names)) << names;
+    }
+    // A fault that passes between reading and saving hides no name.
+    Game game(five);
+    game.Platform.Fault = Fails("read", EIO);
+    game("key Esc\n", [] { frmBeste.Touch(); });
+    game.Platform.Fault = nullptr;
+    Stand.PunkteGesamt = 250;
+    game("key J\ntype x\ndo frmBeste.cmdEnde Click\nkey J\n", &EndOfGame);
+    EXPECT_EQ(Contents(game.BestList), list("A B C x D", "500 400 300 250 200"));
+    EXPECT_EQ(Names(game.DataFolder).size(), 2U);
+}
+
 TEST(BesteVorgabe, ADefaultListThatCannotBeWrittenIsSilent)
 {
     Game game("old");
