@@ -25,6 +25,9 @@ browser_packages=(
     python3 weasyprint librsvg2-bin fonts-liberation2\|fonts-liberation
 )
 
+# A Node that does not come from Debian brings npm along.
+command -v npm >/dev/null || check_packages+=(npm)
+
 is_installed() {
     [ "$(dpkg-query -W -f '${db:Status-Status}' "$1" 2>/dev/null)" = installed ]
 }
@@ -59,7 +62,7 @@ install_missing() {
         return 0
     fi
     local missing names=() entry as_root=() options=()
-    mapfile -t missing < <(missing_packages "$@")
+    mapfile -t missing < <(missing_packages "$@" | sort -u)
     [ ${#missing[@]} -gt 0 ] || return 0
     if [ "$(id -u)" -ne 0 ]; then
         if ! command -v sudo >/dev/null; then
