@@ -235,10 +235,10 @@ class Game:
         without = self.look(*OFFER)
 
         def over():
-            # A click may have hit the message's own button. And who clicks that fast on the main
-            # window may have kept the focus there.
+            # A click may have hit the message's own button, so that one on it now would go through
+            # to what lies below. And clicks this fast may have kept the focus on the main window.
             for window in self.open_messages():
-                self.click(OK, window)
+                self.desktop.do("windowfocus", window, "key", "Escape")
             return self.look(*OFFER) != without
 
         spots = [self.spot(cell(number)) for number in range(140, 0, -1)]
