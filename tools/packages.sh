@@ -16,7 +16,7 @@ check_packages=(
     pulseaudio pulseaudio-utils chromium firefox-esr webkit2gtk-driver
     at-spi2-core dbus python3-pyatspi
     python3-fonttools poppler-utils
-    desktop-file-utils appstream man-db mandoc debhelper lintian
+    desktop-file-utils appstream man-db mandoc debhelper apache2-dev lintian
 )
 
 # A Node that does not come from Debian lacks the library node-acorn, which Emscripten needs.
