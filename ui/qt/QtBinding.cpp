@@ -3,6 +3,7 @@
 
 #include <QApplication>
 #include <QScreen>
+#include <QTimer>
 #include <algorithm>
 
 #include "ui/layer/App.h"
@@ -77,9 +78,7 @@ FormWidget& QtBinding::Make(Window& window, ShowMode mode)
 {
     auto* const form = new FormWidget(window, mode, pictures_, Factor());
     forms_.push_back(form);
-    QObject::connect(
-        form, &FormWidget::Minimized, form, [this, form] { Minimized(*form); },
-        Qt::QueuedConnection);
+    QObject::connect(form, &FormWidget::StateChanged, form, [this, form] { FollowManager(*form); });
     QObject::connect(form, &FormWidget::Rescaled, [this, form] { Rescaled(*form); });
     QObject::connect(form, &FormWidget::Painted, [this, form] { Painted(*form); });
     QObject::connect(form, &FormWidget::Activated, [this, form] { Activated(*form); });
@@ -103,14 +102,22 @@ double QtBinding::Factor() const
 }
 
 // A window of the game that is minimised alone would leave the backdrop, and no way back: it has no
-// such button, and not every desktop shows what is minimised.
-void QtBinding::Minimized(FormWidget& form)
+// such button, and not every desktop shows what is minimised. Where the desktop is shown, the
+// windows leave and come back together; some managers forget the backdrop, which is in no task bar.
+void QtBinding::FollowManager(FormWidget& form)
 {
-    const bool behind = backdrop_ != nullptr && backdrop_->isVisible() &&
-                        !backdrop_->windowStates().testFlag(Qt::WindowMinimized);
-    if (behind && form.isMinimized()) {
-        form.ToFront();
-    }
+    constexpr int kManagerMs = 100;  // it has more windows to minimise or restore, and to tell of
+    QTimer::singleShot(kManagerMs, &form, [this, &form] {
+        if (backdrop_ == nullptr || !backdrop_->Model().Shown() || !form.isVisible()) {
+            return;
+        }
+        if (!form.isMinimized() && !backdrop_->isVisible()) {
+            ShowBackdrop(backdrop_->Model());
+            BringToFront(nullptr);
+        } else if (form.isMinimized() && !backdrop_->Minimized()) {
+            ManagerShowsDesktop() ? backdrop_->hide() : form.ToFront();
+        }
+    });
 }
 
 // All windows are drawn as large as the main window.
@@ -326,10 +333,13 @@ void QtBinding::Activated(const FormWidget& form)
 }
 
 // A backdrop that has come to the front gives it back: without a modal window the game does that
-// itself.
+// itself. But it may have come there because all windows before it are leaving.
 void QtBinding::BackdropActivated()
 {
-    if (App.TopModal() == nullptr) {
+    FormWidget* const main = MainForm();
+    if (main != nullptr && (ManagerShowsDesktop() || ManagerHides(main->winId()))) {
+        FollowManager(*main);
+    } else if (App.TopModal() == nullptr) {
         RaiseActivate(backdrop_->Model());
     } else {
         BringToFront(nullptr);

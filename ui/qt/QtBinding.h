@@ -58,7 +58,7 @@ private:
     FormWidget* MainForm() const;
     // How large windows are drawn.
     double Factor() const;
-    void Minimized(FormWidget& form);
+    void FollowManager(FormWidget& form);
     void Rescaled(const FormWidget& form);
     void Painted(FormWidget& form);
     void ScreensChanged();

@@ -27,6 +27,7 @@ public:
     void ShowPicture();
     // Takes the size of the primary screen: where no window manager does it, nobody else will.
     void CoverScreen();
+    bool Minimized() const { return windowStates().testFlag(Qt::WindowMinimized); }
     malvone::Window& Model() const { return model_; }
 
 Q_SIGNALS:

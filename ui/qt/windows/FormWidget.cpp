@@ -318,8 +318,8 @@ void FormWidget::changeEvent(QEvent* event)
     }
     if (event->type() == QEvent::ActivationChange && isActiveWindow()) {
         Q_EMIT Activated();
-    } else if (event->type() == QEvent::WindowStateChange && isMinimized()) {
-        Q_EMIT Minimized();
+    } else if (event->type() == QEvent::WindowStateChange) {
+        Q_EMIT StateChanged();
     }
 }
 

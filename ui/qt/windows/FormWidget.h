@@ -57,7 +57,8 @@ Q_SIGNALS:
     void Activated();
     void CloseWished();
     void Rescaled();
-    void Minimized();
+    // The window has been minimised or restored.
+    void StateChanged();
     // The window has been painted for the first time since it was shown.
     void Painted();
 

@@ -45,8 +45,8 @@ void ShowShortcut(QAction& action, Key key)
     action.setShortcutContext(Qt::WidgetShortcut);
 }
 
-// The desktop's own style but for that icon, and for a gap of a pixel that finer screens show in the
-// line below the menu bar, at the end of each of its entries.
+// The desktop's own style but for that icon, and for a gap of a pixel that finer screens show in
+// the line below the menu bar, at the end of each of its entries.
 class MenuStyle final : public QProxyStyle
 {
 public:

@@ -85,11 +85,15 @@ std::string Property(xcb_connection_t* connection, xcb_window_t window, xcb_atom
             static_cast<std::size_t>(xcb_get_property_value_length(reply.get()))};
 }
 
+xcb_window_t Root(xcb_connection_t* connection)
+{
+    return xcb_setup_roots_iterator(xcb_get_setup(connection)).data->root;
+}
+
 std::string ManagerName(xcb_connection_t* connection)
 {
-    const xcb_window_t root = xcb_setup_roots_iterator(xcb_get_setup(connection)).data->root;
     const std::string window =
-        Property(connection, root, Atom(connection, "_NET_SUPPORTING_WM_CHECK"));
+        Property(connection, Root(connection), Atom(connection, "_NET_SUPPORTING_WM_CHECK"));
     if (window.size() < sizeof(xcb_window_t)) {
         return {};
     }
@@ -124,6 +128,33 @@ BackdropManner MannerOfBackdrop()
 {
     static const BackdropManner manner = AskedFor();
     return manner;
+}
+
+bool ManagerShowsDesktop()
+{
+#ifdef MALVONE_XCB
+    if (xcb_connection_t* const connection = Connection()) {
+        const std::string shown =
+            Property(connection, Root(connection), Atom(connection, "_NET_SHOWING_DESKTOP"));
+        return !shown.empty() && shown.front() != 0;
+    }
+#endif
+    return false;
+}
+
+bool ManagerHides(WId window)
+{
+#ifdef MALVONE_XCB
+    if (xcb_connection_t* const connection = Connection()) {
+        const Answer<xcb_get_window_attributes_reply_t> reply(xcb_get_window_attributes_reply(
+            connection, xcb_get_window_attributes(connection, static_cast<xcb_window_t>(window)),
+            nullptr));
+        return reply && reply->map_state != XCB_MAP_STATE_VIEWABLE;
+    }
+#else
+    static_cast<void>(window);
+#endif
+    return false;
 }
 
 void KeepOffTaskBar(WId window)

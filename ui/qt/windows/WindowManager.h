@@ -14,6 +14,11 @@ enum class BackdropManner {
 
 BackdropManner MannerOfBackdrop();
 
+// Whether the player has all windows out of the way at present.
+bool ManagerShowsDesktop();
+// Whether a window that was shown is off the screen. Known before the window itself is told.
+bool ManagerHides(WId window);
+
 // Keeps a window off the task bar and out of the overview of workspaces; call before each show.
 // A window type that does so by itself would put it above the game, or below other programs, on
 // some window manager.
