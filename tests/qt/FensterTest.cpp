@@ -117,13 +117,11 @@ TEST_F(Fenster, TheWholeDesignGrowsAndShrinksWithItsWindowInWholePixels)
         const QRectF last = form.PlaceOnForm(frmTessel->imgFeld(140));
         EXPECT_NEAR(last.left() - first.left(), 13 * cell, 0.001);
         EXPECT_EQ(frmTessel->imgFeld(140).Left, left);
-        // The room that is left over lies at both sides, and is ground.
+        // The room that is left over lies at both sides, and the ornament goes on there.
         const QRectF design(form.DesignScale().Corner(), DesignOf(*frmTessel) * cell / 32);
         EXPECT_NEAR(design.center().x(), client.width() / 2.0, 1);
         EXPECT_NEAR(design.center().y(), menu + client.height() / 2.0, 1);
-        if (design.left() > 1) {
-            EXPECT_EQ(Painted(form).pixelColor(0, form.height() - 1), QColor(Qt::white));
-        }
+        EXPECT_NE(Painted(form).pixelColor(0, form.height() - 1), QColor(Qt::white));
 
         const Image& stone = frmTessel->imgFeld(CellWithPartner());
         PointAt(stone);
@@ -266,7 +264,7 @@ TEST_F(Fenster, TheFirstFrameRendersNothing)
                        ToWholePixels(frmTessel->ClientHeight));
     QImage frame(client, QImage::Format_RGB32);
     QPainter painter(&frame);
-    PaintWindow(painter, *frmTessel, pictures_, QRect(QPoint(), client), client);
+    PaintWindow(painter, *frmTessel, pictures_, QRect(QPoint(), client), QRect(QPoint(), client));
     pictures_.Coarse(frmHintergrund->Image1.Picture);
     EXPECT_EQ(pictures_.Rendered(), 0);
 }

@@ -9,9 +9,9 @@
 
 namespace malvone::qt {
 
-Look LookOf(std::string_view file, QSize size, QSize seen)
+Look LookOf(std::string_view file, QSize size, QSize seen, QPoint corner)
 {
-    return {file, size.width(), size.height(), seen.width(), seen.height()};
+    return {file, size.width(), size.height(), seen.width(), seen.height(), corner.x(), corner.y()};
 }
 
 Look CoarseLook(const Picture& picture)
@@ -26,35 +26,34 @@ Look IconLook(const Picture& picture, int edge)
     return LookOf(picture.File(), {edge, edge}, {edge, edge});
 }
 
+// A ground goes on beyond the edges of its picture.
 QImage Rendered(const Look& look)
 {
-    const auto& [file, width, height, seenWidth, seenHeight] = look;
-    QImage image(seenWidth, seenHeight, QImage::Format_ARGB32_Premultiplied);
+    QImage image(look.SeenWidth, look.SeenHeight, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
     QPainter painter(&image);
-    QSvgRenderer(ResourcePath(file)).render(&painter, QRectF(0, 0, width, height));
+    QSvgRenderer(ResourcePath(look.File))
+        .render(&painter, QRectF(look.Left, look.Top, look.Width, look.Height));
     painter.end();
     return image;
 }
 
 QString ReadyPath(const Look& look)
 {
-    const auto& [file, width, height, seenWidth, seenHeight] = look;
     return QStringLiteral(":/%1-%2x%3-%4x%5")
-        .arg(QLatin1StringView(file.data(), static_cast<qsizetype>(file.size())))
-        .arg(width)
-        .arg(height)
-        .arg(seenWidth)
-        .arg(seenHeight);
+        .arg(QLatin1StringView(look.File.data(), static_cast<qsizetype>(look.File.size())))
+        .arg(look.Width)
+        .arg(look.Height)
+        .arg(look.SeenWidth)
+        .arg(look.SeenHeight);
 }
 
 QImage Ready(const Look& look)
 {
     const QResource pixels(ReadyPath(look));
-    const int width = std::get<3>(look);
-    const int height = std::get<4>(look);
-    return pixels.isValid()
-               ? QImage(pixels.data(), width, height, QImage::Format_ARGB32_Premultiplied)
+    return pixels.isValid() && look.Left == 0 && look.Top == 0
+               ? QImage(pixels.data(), look.SeenWidth, look.SeenHeight,
+                        QImage::Format_ARGB32_Premultiplied)
                : QImage();
 }
 

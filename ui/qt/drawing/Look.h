@@ -2,20 +2,32 @@
 #pragma once
 
 #include <QImage>
+#include <QPoint>
 #include <QSize>
 #include <QString>
+#include <compare>
 #include <string_view>
-#include <tuple>
 
 #include "ui/layer/Picture.h"
 
 namespace malvone::qt {
 
-// File, size of the whole picture, size of the part of it that is rendered, in pixels of the
-// screen.
-using Look = std::tuple<std::string_view, int, int, int, int>;
+// In pixels of the screen: how large the whole picture is, how large the part is that is rendered,
+// and where the picture's corner lies in that part.
+struct Look
+{
+    std::string_view File;
+    int Width = 0;
+    int Height = 0;
+    int SeenWidth = 0;
+    int SeenHeight = 0;
+    int Left = 0;
+    int Top = 0;
 
-Look LookOf(std::string_view file, QSize size, QSize seen);
+    friend auto operator<=>(const Look&, const Look&) = default;
+};
+
+Look LookOf(std::string_view file, QSize size, QSize seen, QPoint corner = {});
 
 // The backdrop is as large as the screen and painted once: its picture is rendered coarsely, at
 // whatever scale, and stretched.

@@ -28,7 +28,7 @@ public:
         : painter_(painter), pictures_(pictures), ratio_(painter.deviceTransform().m11())
     {}
 
-    void Ground(const Window& window, const QSizeF& client) const;
+    void Ground(const Window& window, const QRectF& room) const;
     void Paint(const Visual& visual, const QRectF& place) const;
     void Frame(const QRectF& place) const;
 
@@ -69,20 +69,17 @@ void Painting::Unscaled(const Picture& picture, const QRectF& place) const
     Put(pictures_.Get(picture, whole.size(), seen.size()), whole.topLeft());
 }
 
-// The picture of the ground is cut at the designed client area, which is all that is seen of it
-// until the player enlarges the window.
-void Painting::Ground(const Window& window, const QSizeF& client) const
+// In a window that is wider or higher than its design the ground goes on to the edges.
+void Painting::Ground(const Window& window, const QRectF& room) const
 {
-    painter_.fillRect(QRectF(QPointF(), client), ToQColor(window.BackColor));
+    painter_.fillRect(room, ToQColor(window.BackColor));
     if (window.Picture->Empty()) {
         return;
     }
-    const QSizeF designed(ToPixels(window.ClientWidth), ToPixels(window.ClientHeight));
-    const bool enlarged = client.width() > designed.width() || client.height() > designed.height();
+    const QRect seen = OnThisScreen(room);
     const QSizeF own(window.Picture->Width(), window.Picture->Height());
     const QSize whole = OnThisScreen(QRectF(QPointF(), own)).size();
-    const QSize seen = OnThisScreen(QRectF(QPointF(), enlarged ? own : designed)).size();
-    Put(pictures_.Get(window.Picture, whole, seen.boundedTo(whole)), QPoint());
+    Put(pictures_.GetGround(window.Picture, whole, seen.size(), -seen.topLeft()), seen.topLeft());
 }
 
 void Painting::Paint(const Image& image, const QRectF& place) const
@@ -194,10 +191,10 @@ QRectF PlaceOf(const Visual& visual)
 }
 
 void PaintWindow(QPainter& painter, const Window& window, PictureStore& pictures,
-                 const QRegion& dirty, const QSizeF& client)
+                 const QRegion& dirty, const QRectF& room)
 {
     const Painting painting(painter, pictures);
-    painting.Ground(window, client);
+    painting.Ground(window, room);
     const std::vector<Visual*>& frontToBack = window.FrontToBack();
     std::for_each(frontToBack.rbegin(), frontToBack.rend(), [&](const Visual* visual) {
         const QRectF place = PlaceOf(*visual);

@@ -20,8 +20,8 @@ class PictureStore;
 QRectF PlaceOf(const Visual& visual);
 
 // Paints what lies in `dirty`, given in pixels of the design from the corner of the client area,
-// where the painter has its origin. `client` is the size of the client area.
+// where the painter has its origin. `room` is all that can be seen, which may be more than that.
 void PaintWindow(QPainter& painter, const Window& window, PictureStore& pictures,
-                 const QRegion& dirty, const QSizeF& client);
+                 const QRegion& dirty, const QRectF& room);
 
 }  // namespace malvone::qt

@@ -13,6 +13,17 @@ const QImage& PictureStore::Get(const Picture& picture, QSize size, QSize seen)
     return found->second;
 }
 
+const QImage& PictureStore::GetGround(const Picture& picture, QSize size, QSize seen, QPoint corner)
+{
+    const Look look = LookOf(picture.File(), size, seen, corner);
+    auto& [kept, image] = grounds_[picture.File()];
+    if (kept != look) {
+        kept = look;
+        image = Made(look);
+    }
+    return image;
+}
+
 QImage PictureStore::Coarse(const Picture& picture)
 {
     return Made(CoarseLook(picture));

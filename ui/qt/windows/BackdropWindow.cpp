@@ -72,7 +72,7 @@ void BackdropWindow::Paint(const QRegion& region)
     {
         QPainter painter(store_->paintDevice());
         painter.setClipRegion(region);
-        PaintWindow(painter, model_, pictures_, region, size());
+        PaintWindow(painter, model_, pictures_, region, QRect(QPoint(), size()));
     }
     store_->endPaint();
     store_->flush(region);

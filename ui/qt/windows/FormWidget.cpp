@@ -78,9 +78,9 @@ void FormWidget::SetFactor(double factor)
     Rescale();
 }
 
-int FormWidget::MenuHeight() const
+QRectF FormWidget::Room() const
 {
-    return menu_ != nullptr ? menu_->height() : 0;
+    return rect().adjusted(0, menu_ != nullptr ? menu_->height() : 0, 0, 0);
 }
 
 // Whatever size the window has, the whole design is drawn in it.
@@ -91,7 +91,7 @@ void FormWidget::Rescale()
     }
     const double before = scale_.Factor();
     ratio_ = devicePixelRatioF();
-    scale_ = Scale(DesignOf(*window_), rect().adjusted(0, MenuHeight(), 0, 0), ratio_);
+    scale_ = Scale(DesignOf(*window_), Room(), ratio_);
     boxes_.Follow(scale_);
     update();
     if (scale_.Factor() != before) {
@@ -180,19 +180,14 @@ void FormWidget::paintEvent(QPaintEvent* event)
     if (ratio_ != devicePixelRatioF()) {
         Rescale();  // another screen
     }
-    const QSizeF client = DesignOf(*window_);
-    QPainter painter(this);
-    const QRectF design = scale_.ToWindow(QRectF(QPointF(), client));
-    if (!design.contains(event->rect())) {
-        painter.fillRect(event->rect(), ToQColor(window_->BackColor));
-    }
     QRegion dirty;
     for (const QRect& part : event->region()) {
         dirty += scale_.ToDesign(QRectF(part)).toAlignedRect();
     }
+    QPainter painter(this);
     painter.translate(scale_.Corner());
     painter.scale(scale_.Factor(), scale_.Factor());
-    PaintWindow(painter, *window_, pictures_, dirty, client);
+    PaintWindow(painter, *window_, pictures_, dirty, scale_.ToDesign(Room()));
     if (!painted_) {
         painted_ = true;
         QMetaObject::invokeMethod(this, &FormWidget::Painted, Qt::QueuedConnection);

@@ -86,7 +86,7 @@ private:
     bool painted_ = false;
 
     QSize SizeAt(double factor) const;
-    int MenuHeight() const;
+    QRectF Room() const;  // for the design: all below the menu
     void Rescale();
     void ShowMenuLast();
     bool RouteKey(const QKeyEvent& event);

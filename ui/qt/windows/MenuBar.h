@@ -8,10 +8,10 @@
 
 namespace malvone::qt {
 
-// For every menu bar of the application that is made from now on. Each has a button for entries that
-// find no room, and fetches that button's icon as soon as it is made: Qt then loads all its plugins
-// for icons and image formats, 3 of 47 ms of CPU time of a start (medians of 9). Such a button shows
-// an arrow here. And the line below the bar has no gaps.
+// For every menu bar of the application that is made from now on. Each has a button for entries
+// that find no room, and fetches that button's icon as soon as it is made: Qt then loads all its
+// plugins for icons and image formats, 3 of 47 ms of CPU time of a start (medians of 9). Such a
+// button shows an arrow here. And the line below the bar has no gaps.
 void UseMenuStyle();
 
 class MenuBar final : public QMenuBar
