@@ -48,8 +48,7 @@ public:
     {
         return FileFault::None;
     }
-    FileFault ReplaceTextLines(const std::string&, const std::vector<std::string>&,
-                               OldFile) override
+    FileFault RenewTextLines(const std::string&, std::size_t, const Renewal&) override
     {
         return FileFault::None;
     }

@@ -40,25 +40,21 @@ public:
         Require(::pwrite(file_, data, size, 0) == static_cast<ssize_t>(size));
     }
     std::int32_t OpenFileExist(const std::string&) override { return kFileExists; }
+    ReadLines ReadTextLines(const std::string&, std::size_t count) override
+    {
+        return FilePlatform::ReadTextLines("\\proc\\self\\fd\\" + std::to_string(file_), count);
+    }
     void DeleteFileA(const std::string&) override { std::abort(); }
     FileFault WriteTextLines(const std::string&, const std::vector<std::string>&) override
     {
         std::abort();
     }
-    FileFault ReplaceTextLines(const std::string&, const std::vector<std::string>&,
-                               OldFile) override
+    FileFault RenewTextLines(const std::string&, std::size_t, const Renewal&) override
     {
         std::abort();
     }
     void sndPlaySoundA(const std::string&) override {}
     void ShellExecuteA(const std::string&) override {}
-
-protected:
-    int Open(const char*, int, mode_t) override
-    {
-        ::lseek(file_, 0, SEEK_SET);
-        return ::dup(file_);
-    }
 
 private:
     int file_ = ::memfd_create("input", 0);
