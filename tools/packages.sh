@@ -10,7 +10,7 @@ play_packages=(
 )
 
 check_packages=(
-    clang clang-format clang-tidy "libclang-rt-dev|libclang-rt-14-dev"
+    git clang clang-format clang-tidy "libclang-rt-dev|libclang-rt-14-dev"
     libgtest-dev libbenchmark-dev
     xvfb xauth openbox fluxbox i3-wm xdotool x11-utils imagemagick
     pulseaudio pulseaudio-utils chromium firefox-esr webkit2gtk-driver
