@@ -47,9 +47,9 @@ if(NOT EMSCRIPTEN)
     add_link_options(-Wl,--as-needed)
 endif()
 
-# What players run is hardened: addresses drawn at every start, a symbol table that is bound and
-# locked before main(), guarded stacks and copies, jumps only to where one may land. And it is the
-# same wherever it is built: no path of the building machine gets in. A browser guards by itself.
+# What players run is hardened: random addresses at every start, a symbol table that is bound and
+# locked before main(), guarded stacks and copies, jumps only to valid targets. And it is the same
+# wherever it is built: no path of the build machine gets in. Browsers do their own guarding.
 if(NOT EMSCRIPTEN AND NOT MALVONE_SANITIZE AND NOT CMAKE_BUILD_TYPE STREQUAL "Debug")
     add_compile_options(-fPIE -fstack-protector-strong -U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=2
         "-ffile-prefix-map=${PROJECT_SOURCE_DIR}=." "-ffile-prefix-map=${PROJECT_BINARY_DIR}=build")

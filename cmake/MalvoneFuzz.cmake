@@ -1,4 +1,4 @@
-# Damaged data files: what reads them is fed with arbitrary bytes.
+# Feeds arbitrary bytes to the code that reads the data files.
 if(NOT CMAKE_CXX_COMPILER_ID MATCHES "Clang")
     message(FATAL_ERROR "MALVONE_FUZZ needs clang, which brings libFuzzer")
 endif()

@@ -1,6 +1,6 @@
-# Where an installed game lies: the executable among the games, its sounds and manuals beside other
-# games' data with a link to the manuals among the documents, and what a desktop wants to know of it.
-# The target "uninstall" takes all of it away again. The page is a folder that a web server can hold.
+# Installs the game: the executable among the games, sounds and manuals beside other games' data, with
+# links to the manuals among the documents, and what a desktop needs to know. The target "uninstall"
+# removes all of it. The page is a folder that any web server can serve.
 set(desktop_files "${PROJECT_BINARY_DIR}/packaging")
 file(MAKE_DIRECTORY "${desktop_files}")
 if(MALVONE_QT)

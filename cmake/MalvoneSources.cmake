@@ -20,8 +20,8 @@ function(malvone_library NAME)
     list(FILTER sources EXCLUDE REGEX "/main\\.cpp$")
     add_library(${NAME} STATIC ${sources})
     malvone_target(${NAME})
-    # Under the sanitizers GCC sees null pointers in the checks that it has put in itself, and in
-    # tests that read files it sees them in the streams of its own library.
+    # Under the sanitizers GCC finds null pointers in the checks that it has inserted itself, and in
+    # tests that read files it finds them in its own stream library.
     if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND NOT MALVONE_SANITIZE)
         target_compile_options(${NAME} PRIVATE -Wnull-dereference)
     endif()

@@ -3,7 +3,7 @@ find_package(GTest REQUIRED)
 find_package(Python3 REQUIRED COMPONENTS Interpreter)
 include(GoogleTest)
 
-# Every test gets this environment, and so does the listing of the tests at build time.
+# Every test gets this environment, and so does listing the tests at build time.
 set(test_environment LC_ALL=C.UTF-8 PYTHONDONTWRITEBYTECODE=1
     "MALVONE_BUILD=${PROJECT_BINARY_DIR}" "MALVONE_SOURCE=${PROJECT_SOURCE_DIR}")
 if(MALVONE_SANITIZE)
@@ -94,12 +94,12 @@ endfunction()
 malvone_script_tests(games SOURCES tests/storage/*.py)
 
 # Scripts that drive real windows or a real sound server; each starts what it needs by itself.
-# They measure times and so have the machine for themselves.
+# They depend on timing, so they run alone.
 if(MALVONE_QT)
     malvone_script_tests(display SOURCES tests/qt/*.py tests/sound/*_e2e.py)
 endif()
 
-# What is the same in every build is looked at in the one that players run.
+# What is the same in every build is checked once, in the one that players run.
 if(MALVONE_QT AND MALVONE_DATA)
     # Scripts that look at what lies in the repository or in the build folder.
     malvone_script_tests(files SOURCES tests/manuals/*.py tests/docs/*.py

@@ -1,4 +1,4 @@
-# Takes away the files in MANIFEST, and the two folders if they are empty then. The target "uninstall".
+# The target "uninstall": removes the files in MANIFEST, and the two folders once they are empty.
 if(NOT EXISTS "${MANIFEST}")
     message(FATAL_ERROR "Nothing was installed from this build folder: there is no ${MANIFEST}")
 endif()

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Installs a build into an empty folder, looks at what lies there as a desktop would, and takes it away.
+"""Installs a build into an empty folder, looks at it as a desktop would, and uninstalls it.
 
     check_install.py CMAKE BUILDDIR PREFIX
 """
@@ -59,7 +59,7 @@ def main():
 
 
 def look_at(root, prefix):
-    """The tools end with 0 on mere remarks too, so that any word of theirs is a fault."""
+    """The tools exit with 0 on mere remarks too, so anything they print is a fault."""
     entry = run_tool("desktop-file-validate", root / "share/applications/malvone.desktop")
     faults.extend((entry.stdout + entry.stderr).splitlines())
     metainfo = run_tool("appstreamcli", "validate", "--pedantic", "--no-net", "--no-color",
@@ -85,7 +85,7 @@ def look_at(root, prefix):
 
 
 def harden(program):
-    """What the compiler and the linker have put into the executable that players run."""
+    """What compiler and linker have put into the executable to harden it."""
     look = run_tool("readelf", "--wide", "--dynamic", "--segments", "--dyn-syms", program).stdout
     wanted = {"immediate binding at drawn addresses": r"Flags:.*\bNOW\b.*\bPIE\b",
               "locked tables": "GNU_RELRO", "stack for data alone": r"GNU_STACK.* RW +0x",

@@ -1,7 +1,7 @@
 #!/usr/bin/python3
-"""Releases the sources as they are, without a tag, and builds the packages a second time in a place
-and in conditions that differ: the same bytes, nothing that lintian has to say, a game that plays where
-it is installed, and no trace of it after its removal.
+"""Releases the sources as they are, without a tag, and builds the packages a second time elsewhere and
+under other conditions: the bytes are the same, lintian finds nothing, the installed game can be played,
+and nothing stays behind when it is removed.
 
     check_package.py FOLDER     an empty or missing folder to work in, which is left for a look
 """
@@ -27,7 +27,7 @@ ELSEWHERE = {"LC_ALL": "C", "LANGUAGE": "de", "TZ": "<+14>-14", "DEB_BUILD_OPTIO
 
 
 def run(*command, **options):
-    """The output of a command; a command that fails is a fault, and its last lines tell which."""
+    """The output of a command; if it fails, its last lines are the failure."""
     process = subprocess.Popen(list(map(str, command)), stdout=subprocess.PIPE, text=True,
                                stderr=subprocess.STDOUT, errors="replace", start_new_session=True,
                                **options)
@@ -53,7 +53,7 @@ def build_elsewhere(release, folder):
     run("dpkg-source", "--extract", described, tree)
     offline = first_that_runs(["unshare", "-n"], ["unshare", "-cn"])
     if offline is None:
-        print("The system lets nobody do without a network: it may have been used.")
+        print("The network cannot be cut off here, so the build may have used it.")
     conditions = {"umask": 0o077, "env": {**os.environ, **ELSEWHERE}}
     run("tools/release", "--tarball", tree.parent, cwd=tree, **conditions)
     run(*offline or [], "dpkg-buildpackage", "--no-sign", "--build=binary", "--jobs=auto", cwd=tree, **conditions)
@@ -61,7 +61,7 @@ def build_elsewhere(release, folder):
 
 
 def same_needs():
-    """What ./play installs to build and play, the package asks for too."""
+    """The package depends on everything that ./play installs to build and play."""
     listed = run("bash", "-c", '. tools/packages.sh; printf "%s\\n" "${play_packages[@]}"', cwd=ROOT).split()
     asked = set(re.findall(r"[a-z0-9.+-]+", (ROOT / "debian/control").read_text()))
     missing = [entry for entry in listed if asked.isdisjoint(entry.split("|"))]
@@ -87,13 +87,13 @@ def judge(release):
 
 @contextlib.contextmanager
 def installed(packages, root):
-    """An empty root that knows what the machine has, so that dpkg holds the dependencies against it."""
+    """An empty root that lists the packages of this machine, so that dpkg can check dependencies."""
     state = root / "var/lib/dpkg"
     for name in ("info", "updates", "triggers"):
         (state / name).mkdir(parents=True)
     shutil.copy("/var/lib/dpkg/status", state)
     as_root = [] if os.geteuid() == 0 else first_that_runs(["unshare", "-r"])
-    expect(as_root is not None, "only root can install, and the system lets nobody else act as root")
+    expect(as_root is not None, "only root can install, and nobody else may act as root here")
     dpkg = [*as_root, "dpkg", f"--root={root}", "--force-bad-path", "--no-triggers"]
     run(*dpkg, "--install", *packages)
     yield

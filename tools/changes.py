@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Turns CHANGELOG.md into what others want to have of it.
+"""Turns CHANGELOG.md into what packages and software centres read.
 
     changes.py version     the version of the latest release
     changes.py debian      debian/changelog

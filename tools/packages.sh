@@ -19,13 +19,13 @@ check_packages=(
     desktop-file-utils appstream man-db mandoc debhelper apache2-dev lintian
 )
 
-# A Node that does not come from Debian lacks the library node-acorn, which Emscripten needs.
+# Emscripten needs the library node-acorn, which only Debian's Node brings along.
 browser_packages=(
     cmake ninja-build ccache emscripten node-acorn
     python3 weasyprint librsvg2-bin fonts-liberation2\|fonts-liberation
 )
 
-# A Node that does not come from Debian brings npm along.
+# Any other Node brings npm along.
 command -v npm >/dev/null || check_packages+=(npm)
 
 is_installed() {
@@ -55,7 +55,7 @@ choose_package() {
     printf '%s\n' "${1%%|*}"
 }
 
-# Installs the packages that are missing, and says nothing if there are none.
+# Installs missing packages; prints nothing if there are none.
 install_missing() {
     if ! command -v apt-get >/dev/null; then
         echo "There is no apt-get here, so these packages have to be installed already (Debian's names): $*" >&2
@@ -76,7 +76,7 @@ install_missing() {
     for entry in "${missing[@]}"; do
         names+=("$(choose_package "$entry")")
     done
-    # A machine for continuous integration is thrown away, so dpkg need not wait for its disk.
+    # A build server is thrown away afterwards, so dpkg need not wait for its disk.
     [ -z "${CI:-}" ] || options=(-o Dpkg::Options::=--force-unsafe-io)
     local log
     log=$(mktemp)

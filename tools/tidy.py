@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
-"""Runs clang-tidy over all our sources in a build folder; tells only of files with findings.
+"""Runs clang-tidy over all our sources in a build folder, and prints only findings.
 
-A file is not looked at again while it, the headers it includes and the checks stay as they were.
+A file is not checked again as long as it, the headers it includes and the checks stay the same.
 """
 import argparse
 import concurrent.futures
