@@ -36,8 +36,8 @@ void Click(FormWidget& form, const Visual& target)
 struct Table
 {
     QTemporaryDir folder;
-    Sound klang;
-    QtPlatform platform{folder.path().toStdString(), folder.path().toStdString(), klang};
+    Sound sound;
+    QtPlatform platform{folder.path().toStdString(), folder.path().toStdString(), sound};
     QtBinding binding;
 
     Table()
