@@ -13,6 +13,11 @@
 namespace malvone::qt {
 namespace {
 
+// A level gives 140 cells new names. Screen readers throw away a queue of more than 50 events, and
+// with it what has happened.
+constexpr int kNamesAtOnce = 20;
+constexpr int kRestMs = 500;
+
 QAccessibleInterface* Make(const QString&, QObject* object)
 {
     auto* const form = qobject_cast<FormWidget*>(object);
@@ -31,13 +36,19 @@ void InstallAccessibility()
     QAccessible::installFactory(Make);
 }
 
+ScreenReader::ScreenReader()
+{
+    rest_.setSingleShot(true);
+    connect(&rest_, &QTimer::timeout, this, &ScreenReader::Tell);
+}
+
 void ScreenReader::Follow(FormWidget& form, Change what)
 {
     const bool heard = what != Change::Geometry && what != Change::Tip && what != Change::Select;
     if (!heard || !form.isVisible()) {
         return;
     }
-    if (changed_.empty()) {
+    if (!std::exchange(queued_, true)) {
         QMetaObject::invokeMethod(this, &ScreenReader::Tell, Qt::QueuedConnection);
     }
     if (std::find(changed_.begin(), changed_.end(), &form) == changed_.end()) {
@@ -45,11 +56,13 @@ void ScreenReader::Follow(FormWidget& form, Change what)
     }
 }
 
-// The news are asked for even where nobody listens, so that they are new when somebody does. The
+// The news is asked for even where nobody listens, so that it is new when somebody does. The
 // question for a listener calls the session bus: it is asked after a window has been shown.
 void ScreenReader::Tell()
 {
+    queued_ = false;
     const QString news = ToQString(reporter_.News());
+    const int names = rest_.isActive() ? 0 : kNamesAtOnce;
     const std::vector<QPointer<FormWidget>> changed = std::exchange(changed_, {});
     if (!QAccessible::isActive()) {
         return;
@@ -64,7 +77,12 @@ void ScreenReader::Tell()
         if (!news.isEmpty() && window->Name() == frmTessel.Name()) {
             tree->Announce(news);
         }
-        tree->TellChanges();
+        if (tree->TellChanges(names)) {
+            changed_.push_back(form);
+        }
+    }
+    if (!changed_.empty() && !rest_.isActive()) {
+        rest_.start(kRestMs);
     }
 }
 

@@ -4,6 +4,7 @@
 
 #include <QObject>
 #include <QPointer>
+#include <QTimer>
 #include <vector>
 
 #include "ui/layer/Control.h"
@@ -22,11 +23,15 @@ class ScreenReader final : public QObject
     Q_OBJECT
 
 public:
+    ScreenReader();
+
     void Follow(FormWidget& form, Change what);
 
 private:
     Reporter reporter_;
     std::vector<QPointer<FormWidget>> changed_;
+    bool queued_ = false;
+    QTimer rest_;  // runs between two portions of names
 
     void Tell();
 };

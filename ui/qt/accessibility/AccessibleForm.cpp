@@ -264,26 +264,31 @@ void AccessibleForm::Announce(const QString& words)
     Tell(news, QAccessible::ObjectShow);
 }
 
-void AccessibleForm::TellChanges()
+bool AccessibleForm::TellChanges(int names)
 {
+    bool more = false;
+    const Visual* const place = Form()->Model()->Highlighted();
     for (Node& node : Nodes()) {
         if (node.Id == 0) {
             continue;
         }
         const QString name = ToQString(NameOf(node.Part));
         const bool seen = IsSpokenNow(node.Part);
-        if (std::exchange(node.Name, name) != name) {
+        if (node.Name != name && (names > 0 || node.Part.Where == place)) {
+            node.Name = name;
             Tell(InterfaceOf(node), QAccessible::NameChanged);
+            --names;
         }
+        more = more || node.Name != name;
         if (std::exchange(node.Seen, seen) != seen) {
             Tell(InterfaceOf(node), seen ? QAccessible::ObjectShow : QAccessible::ObjectHide);
         }
     }
-    const Visual* const place = Form()->Model()->Highlighted();
     if (std::exchange(place_, place) != place) {
         QAccessibleInterface* const part = InterfaceOf(place);
         Tell(part != nullptr ? part : this, QAccessible::Focus);
     }
+    return more;
 }
 
 }  // namespace malvone::qt

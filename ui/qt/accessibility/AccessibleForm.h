@@ -84,8 +84,9 @@ public:
 
     void Announce(const QString& words);
     // Tells what is called otherwise, has come or gone since it was told last, and where the place
-    // of the arrow keys is.
-    void TellChanges();
+    // of the arrow keys is. Beside the name of that place it tells so many names at most; returns
+    // whether more are left for the next time.
+    bool TellChanges(int names);
 
 private:
     // A leaf and what a screen reader was told of it last.
