@@ -1,13 +1,14 @@
 #!/usr/bin/env python3
 """Plays the game in real windows: real pointer and keys, at two scales."""
 import os
+import signal
 import subprocess
 import sys
 
 sys.path.append(os.path.join(os.path.dirname(os.path.abspath(__file__)), os.pardir, "support"))
-from desktop import (ARROW, BOARD, BUILD, LEAVE, LEVEL, MARGIN, MENU, NEW_GAME, NO, POINTS, YES,
-                     Desktop, Game, cell)
-from processes import Failed, expect, script, sleeps, until
+from desktop import (ARROW, BOARD, BUILD, LEAVE, LEVEL, MAIN, MARGIN, MENU, NEW_GAME, NO, POINTS,
+                     YES, Desktop, Game, cell)
+from processes import Failed, end, expect, script, sleeps, until
 
 MENU_BAR = (30, -10)
 
@@ -113,6 +114,25 @@ def opens_centred(game):
     return right
 
 
+def started_again(game):
+    """A second start brings this game back, question and all; beside one that hangs it plays."""
+    desktop, program = game.desktop, os.path.join(BUILD, "malvone")
+    game.key("ctrl+e")
+    question = game.message()
+    desktop.do("search", "--onlyvisible", "--class", ".", "windowminimize", "%@")
+    until(lambda: not desktop.windows(MAIN), "the game to be minimised")
+    status = subprocess.run([program], env=desktop.env, timeout=60).returncode
+    expect(status == 0, f"exit status {status} of a second start")
+    until(lambda: desktop.windows(MAIN) and desktop.focused() == question, "the game to come back")
+    game.key("Escape")
+    game.no_message()
+    game.process.send_signal(signal.SIGSTOP)
+    other = desktop.start(program)
+    until(lambda: len(desktop.windows(MAIN)) == 2, "a game beside one that hangs")
+    end(other)
+    game.process.send_signal(signal.SIGCONT)
+
+
 def leave(game):
     game.key("alt+F4")
     game.click(YES, game.message())
@@ -121,10 +141,10 @@ def leave(game):
 
 def main():
     refuses_without_display()
-    for scale in (1, 1.5):
+    for scale, more in ((1, (started_again,)), (1.5, ())):
         with Desktop(QT_SCALE_FACTOR=str(scale)) as desktop, Game(desktop, scale) as game:
             for step in (new_game, hover_and_move, next_level, message_by_pointer_and_key,
-                         move_main_window, leave):
+                         move_main_window, *more, leave):
                 try:
                     step(game)
                 except Failed as failure:

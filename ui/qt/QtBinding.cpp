@@ -357,6 +357,20 @@ void QtBinding::BringToFront(const Window* only)
     }
 }
 
+void QtBinding::ComeForward()
+{
+    if (backdrop_ != nullptr && backdrop_->isVisible()) {
+        backdrop_->setWindowStates(backdrop_->windowStates() & ~Qt::WindowMinimized);
+        backdrop_->raise();
+    }
+    BringToFront(nullptr);
+    for (const FormWidget* const form : forms_) {
+        if (form->isVisible()) {
+            ActivateForPlayer(form->winId());
+        }
+    }
+}
+
 // The backdrop goes with the game: whoever closes it closes the game.
 void QtBinding::CloseMainWindow()
 {

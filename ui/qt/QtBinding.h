@@ -36,6 +36,9 @@ public:
     void DragWindow(Window& window) override;
     void Ended() override;
 
+    // The player wishes to see the game: all of it comes to the front, minimised windows too.
+    void ComeForward();
+
     // What shows a window on the screen; null while nothing does, and for the backdrop.
     FormWidget* FormOf(const Window& window) const;
 

@@ -5,12 +5,15 @@
 #include <cerrno>
 #include <csignal>
 #include <cstdio>
+#include <filesystem>
 #include <optional>
 
+#include "storage/Datenordner.h"
 #include "ui/layer/App.h"
 #include "ui/qt/QtBinding.h"
 #include "ui/qt/platform/Display.h"
 #include "ui/qt/platform/QtPlatform.h"
+#include "ui/qt/platform/SingleGame.h"
 #include "ui/qt/windows/MenuBar.h"
 #include "ui/sound/Sound.h"
 
@@ -35,10 +38,11 @@ void StartQt(std::optional<QApplication>& application, int& argc, char** argv)
     UseMenuStyle();
 }
 
-int Play(Sound& sound)
+int Play(const std::optional<std::filesystem::path>& root, const SingleGame& single, Sound& sound)
 {
-    QtPlatform platform(DefaultDataRoot(), ProgramFolder(), sound);
+    QtPlatform platform(root, ProgramFolder(), sound);
     QtBinding binding;
+    single.Listen([&binding] { binding.ComeForward(); });
     App.Begin(binding, platform);
     {
         const EventScope scope;
@@ -58,11 +62,16 @@ int Run(int argc, char** argv)
                      program_invocation_short_name);
         return 1;
     }
+    const std::optional<std::filesystem::path> root = DefaultDataRoot();
+    SingleGame single(root.value_or("") / kDatenOrdnerName);
+    if (root && !single.MayPlay()) {
+        return 0;
+    }
     Sound sound;
     sound.Prepare();  // beside Qt's own start
     std::optional<QApplication> application;
     StartQt(application, argc, argv);
-    const int status = Play(sound);
+    const int status = Play(root, single, sound);
     sound.Finish();
     return status;
 }

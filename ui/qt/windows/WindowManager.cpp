@@ -70,6 +70,11 @@ xcb_atom_t Atom(xcb_connection_t* connection, std::string_view name)
     return reply ? reply->atom : xcb_atom_t{XCB_ATOM_NONE};
 }
 
+xcb_window_t Root(xcb_connection_t* connection)
+{
+    return xcb_setup_roots_iterator(xcb_get_setup(connection)).data->root;
+}
+
 // The bytes of a property, empty where there is none.
 std::string Property(xcb_connection_t* connection, xcb_window_t window, xcb_atom_t name)
 {
@@ -168,6 +173,29 @@ void KeepOffTaskBar(WId window)
                                 Atom(connection, "_NET_WM_STATE_SKIP_PAGER")};
     xcb_change_property(connection, XCB_PROP_MODE_APPEND, static_cast<xcb_window_t>(window),
                         Atom(connection, "_NET_WM_STATE"), XCB_ATOM_ATOM, 32, 2, hints);
+#else
+    static_cast<void>(window);
+#endif
+}
+
+void ActivateForPlayer(WId window)
+{
+#ifdef MALVONE_XCB
+    xcb_connection_t* const connection = Connection();
+    if (connection == nullptr) {
+        return;
+    }
+    constexpr std::uint32_t kFromThePlayer = 2;
+    xcb_client_message_event_t wish{};
+    wish.response_type = XCB_CLIENT_MESSAGE;
+    wish.format = 32;
+    wish.window = static_cast<xcb_window_t>(window);
+    wish.type = Atom(connection, "_NET_ACTIVE_WINDOW");
+    wish.data.data32[0] = kFromThePlayer;
+    xcb_send_event(connection, 0, Root(connection),
+                   XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY | XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT,
+                   reinterpret_cast<const char*>(&wish));
+    xcb_flush(connection);
 #else
     static_cast<void>(window);
 #endif

@@ -24,4 +24,8 @@ bool ManagerHides(WId window);
 // some window manager.
 void KeepOffTaskBar(WId window);
 
+// Makes a window the active one because the player has said so. What a program wishes for itself,
+// some window managers refuse while the player works elsewhere.
+void ActivateForPlayer(WId window);
+
 }  // namespace malvone::qt
