@@ -90,11 +90,6 @@ std::string Property(xcb_connection_t* connection, xcb_window_t window, xcb_atom
             static_cast<std::size_t>(xcb_get_property_value_length(reply.get()))};
 }
 
-xcb_window_t Root(xcb_connection_t* connection)
-{
-    return xcb_setup_roots_iterator(xcb_get_setup(connection)).data->root;
-}
-
 std::string ManagerName(xcb_connection_t* connection)
 {
     const std::string window =
