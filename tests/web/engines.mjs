@@ -1,5 +1,5 @@
 // engines.mjs: the three browser engines behind one small interface, for what is the same in all.
-// A tab has go, run, mouse, type, press, resize, picture and close.
+// A tab has go, run, mouse, type, press, resize and close.
 import { spawn } from "node:child_process";
 import { mkdtempSync, rmSync } from "node:fs";
 import { tmpdir } from "node:os";
@@ -9,6 +9,12 @@ import puppeteer from "puppeteer-core";
 const ends = [];
 export const atEnd = step => ends.push(step);
 export const end = async () => { for (const step of ends.splice(0).reverse()) await step(); };
+// A folder for the time of the test.
+export const folder = () => {
+  const made = mkdtempSync(join(tmpdir(), "malvone-"));
+  atEnd(() => rmSync(made, { recursive: true, force: true, maxRetries: 5 }));
+  return made;
+};
 
 const puppet = async options => {
   const browser = await puppeteer.launch(options);
@@ -20,10 +26,7 @@ const puppet = async options => {
       const context = own ? await browser.createBrowserContext() : browser.defaultBrowserContext();
       const page = await context.newPage();
       const told = [];
-      if (!options.browser) {
-        page.on("console", message => told.push(message.text()));
-        page.on("pageerror", fault => told.push(String(fault)));
-      }
+      for (const kind of options.browser ? [] : ["console", "pageerror"]) page.on(kind, what => told.push(what.text?.() ?? String(what)));
       page.on("dialog", dialog => dialog.accept());
       await page.setViewport(size);
       await prepare?.(page);
@@ -34,9 +37,8 @@ const puppet = async options => {
         mouse: (kind, x, y) => (kind === "move" ? page.mouse.move(x, y) : page.mouse[kind]()),
         type: text => page.keyboard.type(text),
         async press(keys) {
-          const all = keys.split("+");
-          for (const key of all) await page.keyboard.down(key);
-          for (const key of all.reverse()) await page.keyboard.up(key);
+          for (const key of keys.split("+")) await page.keyboard.down(key);
+          for (const key of keys.split("+").reverse()) await page.keyboard.up(key);
         },
         resize: (width, height, deviceScaleFactor = 1) => page.setViewport({ width, height, deviceScaleFactor }),
         picture: () => page.screenshot(),
@@ -50,17 +52,13 @@ export const chromium = (more = {}) => puppet({
 });
 export const firefox = () => puppet({ browser: "firefox", executablePath: "/usr/bin/firefox-esr" });
 
-const keyCodes = { Enter: "\uE007", Escape: "\uE00C", Tab: "\uE004" };
+const keyCodes = { Enter: "\uE007", Escape: "\uE00C", Alt: "\uE00A", End: "\uE010" };
 export const webkit = async () => {
-  const own = mkdtempSync(join(tmpdir(), "malvone-"));
-  const env = { ...process.env, XDG_RUNTIME_DIR: own, WEBKIT_DISABLE_SANDBOX_THIS_IS_DANGEROUS: "1" };
+  const env = { ...process.env, XDG_RUNTIME_DIR: folder(), WEBKIT_DISABLE_SANDBOX_THIS_IS_DANGEROUS: "1" };
   const port = 20000 + process.pid % 20000;
   const driver = spawn("xvfb-run", ["-a", "-s", "-screen 0 2000x1400x24", "WebKitWebDriver", `--port=${port}`],
     { env, stdio: "ignore", detached: true });
-  atEnd(() => {
-    process.kill(-driver.pid);
-    rmSync(own, { recursive: true, force: true, maxRetries: 5 });
-  });
+  atEnd(() => process.kill(-driver.pid));
   const ask = async (method, path, body) => {
     const answer = await fetch(`http://127.0.0.1:${port}${path}`, { method, body: body && JSON.stringify(body) });
     const { value } = await answer.json();
@@ -74,14 +72,14 @@ export const webkit = async () => {
       const { sessionId } = await ask("POST", "/session", { capabilities: { alwaysMatch: { "webkitgtk:browserOptions": options } } });
       const tell = (method, what, body) => ask(method, `/session/${sessionId}/${what}`, body);
       const act = (type, ...actions) => tell("POST", "actions", { actions: [{ type, id: type, actions }] });
-      const key = value => [{ type: "keyDown", value }, { type: "keyUp", value }];
+      const keys = (...all) => act("key", ...all.map(value => ({ type: "keyDown", value })), ...all.map(value => ({ type: "keyUp", value })));
       const tab = {
         go: url => tell("POST", "url", { url }),
         run: (what, ...args) => tell("POST", "execute/sync", { script: `return (${what})(...arguments)`, args }),
         mouse: (kind, x, y) => act("pointer", kind === "move" ? { type: "pointerMove", duration: 0, x: Math.round(x), y: Math.round(y) }
           : { type: kind === "down" ? "pointerDown" : "pointerUp", button: 0 }),
-        type: text => act("key", ...[...text].flatMap(key)),
-        press: name => act("key", ...key(keyCodes[name] ?? name.replace("Key", "").toLowerCase())),
+        type: async text => { for (const letter of text) await keys(letter); },
+        press: names => keys(...names.split("+").map(name => keyCodes[name] ?? name)),
         // The window gets its size in its own time, and has a bar of its own above the page.
         async resize(width, height) {
           const settled = () => tab.run((...size) => String(size) === String([innerWidth, innerHeight]), width, height);
@@ -92,7 +90,6 @@ export const webkit = async () => {
             for (let i = 0; i < 20 && !await settled(); ++i) await new Promise(done => setTimeout(done, 50));
           }
         },
-        picture: async () => Buffer.from(await tell("GET", "screenshot"), "base64"),
         close: () => ask("DELETE", `/session/${sessionId}`),
       };
       await tab.resize(size.width, size.height);
