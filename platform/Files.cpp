@@ -142,6 +142,13 @@ bool FilePlatform::IsFolder(const fs::path& path)
     return Stat(path, found) == 0 && S_ISDIR(found.st_mode);
 }
 
+bool FilePlatform::IsRegular(const fs::path& path)
+{
+    struct stat found
+    {};
+    return Stat(path, found) == 0 && S_ISREG(found.st_mode);
+}
+
 // What cannot be made is noticed when a file in it is opened.
 void FilePlatform::MakeFoldersAbove(const fs::path& path)
 {
@@ -196,13 +203,16 @@ std::int32_t FilePlatform::OpenFileExist(const std::string& path)
     return error == ENOENT || error == ENOTDIR ? kPathNotFound : kAccessRefused;
 }
 
+bool FilePlatform::HasFile(const std::string& path)
+{
+    const std::optional<fs::path> place = Translate(path);
+    return place && IsRegular(*place);
+}
+
 void FilePlatform::DeleteFileA(const std::string& path)
 {
     std::optional<fs::path> place = Translate(path);
-    struct stat found
-    {};
-    if (place && !Over && FollowLinks(*place) == FileFault::None && Stat(*place, found) == 0 &&
-        S_ISREG(found.st_mode)) {
+    if (place && !Over && FollowLinks(*place) == FileFault::None && IsRegular(*place)) {
         Remove(*place);
     }
 }

@@ -34,6 +34,7 @@ public:
     bool CreateDirectoryA(const std::string& path) override;
     // A missing root counts as an empty folder, as the root of a drive is always there.
     std::int32_t OpenFileExist(const std::string& path) override;
+    bool HasFile(const std::string& path) override;
     // Follows links, which stay, and leaves alone whatever is no regular file.
     void DeleteFileA(const std::string& path) override;
 
@@ -58,6 +59,7 @@ private:
     std::filesystem::path programFolder_;
 
     bool IsFolder(const std::filesystem::path& path);
+    bool IsRegular(const std::filesystem::path& path);
     void MakeFoldersAbove(const std::filesystem::path& path);
     // Where a file is to be written; the root is made if the file lies directly in it.
     std::optional<std::filesystem::path> PlaceToWrite(const std::string& path);

@@ -71,6 +71,8 @@ public:
     virtual bool CreateDirectoryA(const std::string& path) = 0;
     // Tests for a file or folder: one of the four answers above.
     virtual std::int32_t OpenFileExist(const std::string& path) = 0;
+    // Whether a folder lists a file of that name, be it readable or not.
+    virtual bool HasFile(const std::string& path) { return OpenFileExist(path) == kFileExists; }
     // Removes a file; nobody looks at the outcome.
     virtual void DeleteFileA(const std::string& path) = 0;
 

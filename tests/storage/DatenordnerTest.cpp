@@ -34,6 +34,16 @@ TEST(Datenordner, WithoutAWindowsFolderOnlyTheProgramsFolderIsLeft)
     EXPECT_EQ(DatenPfad(), ProgrammOrdner());
 }
 
+// Only its name counts: whether a wave can be read shows when it is played.
+TEST(Klaenge, AWaveThatCannotBeReadIsThere)
+{
+    Stage<> stage;
+    std::filesystem::remove(stage.Program / "CHIMES.WAV");
+    stage.Platform.Fault = Fails("access", EACCES);
+    EXPECT_TRUE(stage.Start().starts_with("! sound TADA.WAV\n"));
+    EXPECT_EQ(stage("key Enter\n"), "! sound -\n");
+}
+
 TEST(Zahlen, OnlyDecimalNumbersInRangeAreNumbers)
 {
     const std::pair<const char*, std::int32_t> numbers[] = {{"0", 0},

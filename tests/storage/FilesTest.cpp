@@ -168,6 +168,7 @@ TEST_F(Files, WhatIsNoFileIsRefusedAndLeftAlone)
         c.Make();
         const auto before = Names(Disk);
         EXPECT_EQ(System.OpenFileExist(c.Path), c.Test);
+        EXPECT_EQ(System.HasFile(c.Path), c.Test == kFileExists);
         EXPECT_EQ(System.ReadTextLines(c.Path, 1).Fault, c.Read);
         System.DeleteFileA(c.Path);
         for (const OldFile old : {OldFile::Goes, OldFile::Kept, OldFile::Stays}) {

@@ -25,7 +25,7 @@ void SoundListeAnlegen()
         SoundDateien[i] = ProgrammOrdner() + kDateien[i];
     }
     for (std::string& datei : SoundDateien) {
-        if (App.System().OpenFileExist(datei) != kFileExists) {
+        if (!App.System().HasFile(datei)) {
             datei.clear();
         }
     }
