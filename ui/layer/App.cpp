@@ -93,7 +93,7 @@ EventScope::~EventScope()
 
 bool RaiseTimer(Timer& timer)
 {
-    if (App.Ended() || !timer.Owner().Shown() || !timer.Running()) {
+    if (App.Ended() || !timer.Owner().Loaded() || !timer.Running()) {
         return false;
     }
     const EventScope scope;

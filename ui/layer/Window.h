@@ -94,6 +94,8 @@ public:
     // What the close box of the title bar does.
     bool Close() { return Unload(UnloadMode::TitleBar); }
 
+    // False for a window that has been taken away and waits for its destruction.
+    bool Loaded() const { return instance_ != nullptr; }
     bool Shown() const { return shown_; }
     bool Modal() const;
 
