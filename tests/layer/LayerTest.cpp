@@ -123,6 +123,7 @@ std::string Witness::Do(std::string_view line)
     if (name == "down") return PointerPressed(*probe, mouse), "";
     if (name == "move") return PointerMoved(*probe, mouse), "";
     if (name == "up") return PointerReleased(*probe, mouse), "";
+    if (name == "finger") return FingerPressed(*probe, mouse), "";
     if (name == "drag") return probe->Drag(), "";
     if (name == "map") return Map();
     if (name == "press") return RouteKey(*probe, *script::KeyFrom(line)) ? "= taken" : "= left";

@@ -64,7 +64,7 @@ void Application::RunModal(Window& window)
     // The press that has opened this window is released elsewhere, or nowhere.
     for (InstanceBase* const instance : InstanceBase::All()) {
         if (Window* const other = instance->Current()) {
-            LetGo(*other);
+            TakePressFrom(*other);
         }
     }
     while (!ModalOver(window)) {

@@ -96,8 +96,9 @@ bool TakenByArrow(Window& window, const Direction& direction)
     return start != nullptr;
 }
 
-// What lies there when all is done is pointed at, so that the next press takes what is shown. A
-// control that has gone with the press keeps no highlight.
+// What lies there when all is done is pointed at, so that the next press takes what is shown; but
+// not where a window has come in between, which ends the press as well as the preview. A control
+// that has gone with the press keeps no highlight.
 bool TakenByPress(Window& window)
 {
     Visual* const here = window.Highlighted();
@@ -105,10 +106,11 @@ bool TakenByPress(Window& window)
         return false;
     }
     PointerPressed(window, MiddleOf(*here, kLeftButton));
+    const bool told = !window.Pressed();
     PointerReleased(window, MiddleOf(*here, kLeftButton));
     if (!LedTo(*here)) {
         Routing::SetHighlight(window, nullptr);
-    } else if (App.TakesInput(window)) {
+    } else if (App.TakesInput(window) && !told) {
         PointAt(window, *here);
     }
     return true;

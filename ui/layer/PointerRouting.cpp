@@ -22,6 +22,16 @@ bool HearsOf(const Window& window, const Mouse& mouse)
     return App.TakesInput(window) && (window.Pressed() || window.InClient(mouse.X, mouse.Y));
 }
 
+// Whether the pointer is where it was, and where it is from now on.
+bool Rests(Window& window, const Mouse& mouse)
+{
+    auto& routed = Routing::Of(window);
+    const bool rests = routed.PointerX == mouse.X && routed.PointerY == mouse.Y;
+    routed.PointerX = mouse.X;
+    routed.PointerY = mouse.Y;
+    return rests;
+}
+
 std::vector<Picture> PicturesOf(const Window& window)
 {
     std::vector<Picture> pictures;
@@ -63,11 +73,12 @@ void PointerPressed(Window& window, const Mouse& mouse)
     std::optional<Visual*>& pressed = Routing::Of(window).Pressed;
     if (!pressed) {
         pressed = ControlAt(window, mouse.X, mouse.Y);
-        // Keys may have pointed elsewhere in the meantime, and only what was pointed at last may be
-        // pressed.
-        if (window.Highlighted() != nullptr && window.Highlighted() != pressed) {
-            Hover(window, mouse);
-        }
+    }
+    // Keys may have pointed elsewhere in the meantime, and only what was pointed at last may be
+    // clicked.
+    if (mouse.Button == kLeftButton && window.Highlighted() != nullptr &&
+        window.Highlighted() != pressed) {
+        Hover(window, mouse);
     }
     if (Visual* const target = pressed.value_or(nullptr); target != nullptr && target->Enabled) {
         target->MouseDown.Raise(target->Index(), Within(*target, mouse));
@@ -76,14 +87,10 @@ void PointerPressed(Window& window, const Mouse& mouse)
 
 void PointerMoved(Window& window, const Mouse& mouse)
 {
-    auto& routed = Routing::Of(window);
-    const bool rests = routed.PointerX == mouse.X && routed.PointerY == mouse.Y;
-    if (rests && window.Highlighted() != nullptr) {
-        return;
+    const bool rests = Rests(window, mouse);
+    if (!rests || window.Highlighted() == nullptr) {
+        Hover(window, mouse);
     }
-    routed.PointerX = mouse.X;
-    routed.PointerY = mouse.Y;
-    Hover(window, mouse);
 }
 
 void Hover(Window& window, const Mouse& mouse)
@@ -132,12 +139,22 @@ void LetGo(Window& window)
     Routing::Of(window).Pressed.reset();
 }
 
+void TakePressFrom(Window& window)
+{
+    Visual* const target = window.Pressed().value_or(nullptr);
+    LetGo(window);
+    if (target != nullptr && target->Enabled) {
+        target->MouseUp.Raise(target->Index(), Within(*target, MiddleOf(*target, kLeftButton)));
+    }
+}
+
 void FingerPressed(Window& window, const Mouse& mouse)
 {
     Mouse coming = mouse;
     coming.Button = 0;
     const std::vector<Picture> before = PicturesOf(window);
-    PointerMoved(window, coming);
+    Rests(window, mouse);
+    Hover(window, coming);
     if (before == PicturesOf(window)) {
         PointerPressed(window, mouse);
     }

@@ -22,6 +22,8 @@ void PointerReleased(Window& window, const Mouse& mouse);
 
 // Forgets a press that will not see its release.
 void LetGo(Window& window);
+// The same for a control that is to look as if it had been released: it hears that, and no click.
+void TakePressFrom(Window& window);
 
 // What a movement does. A pointer that rests leaves the highlight of the arrow keys alone, though
 // browsers tell of a movement when something changes below it.
