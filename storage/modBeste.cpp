@@ -139,8 +139,10 @@ struct Speicherung
     FileFault Lesefehler = FileFault::None;  // to be told
 };
 
-// A file that this run has not read or written last is somebody else's: the new entry goes into
-// that list, by the same rule. A file that is gone was wiped; two calls have to agree on that.
+// By design (liste-von-jetzt): one would expect the list as this run knows it. A file that it has
+// not read or written last is somebody else's, and the new entry goes into that list, by the same
+// rule. A file that is gone was wiped; two calls have to agree on that.
+// Test: BesteSpeichern.AnEntryGoesIntoTheListThatIsThereNow
 Speicherung WasZuSpeichernIst(const ReadLines& jetzt)
 {
     const bool ganz = jetzt.Fault == FileFault::None;
@@ -148,6 +150,8 @@ Speicherung WasZuSpeichernIst(const ReadLines& jetzt)
         return {ImFenster(), ganz ? OldFile::Goes : OldFile::Kept};
     }
     const bool geloescht = jetzt.Fault == FileFault::NotFound && !ExistiertDatei(BesteDatei());
+    // By design (ungelesenes-bleibt): one would expect the new list in its place. What has not been
+    // read whole is kept beside it. Test: BesteSpeichern.AnEntryGoesIntoTheListThatIsThereNow
     if (!ganz && !geloescht) {
         return {ImFenster(), OldFile::Kept, true, jetzt.Fault};
     }

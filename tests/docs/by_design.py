@@ -6,7 +6,7 @@ import re
 import sys
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
-TEST = r"[A-Za-z0-9]+\.[A-Za-z0-9_]+"  # a played game is games.NAME
+TEST = r"[A-Za-z0-9_.]+\.[A-Za-z0-9_]+"  # a played game is games.NAME
 
 
 def entries():
@@ -30,6 +30,7 @@ def main():
     source = "".join(p.read_text(encoding="utf-8") for p in sorted((ROOT / "tests").rglob("*.cpp")))
     tests = {f"{a}.{b}" for a, b in re.findall(r"\bTEST(?:_F|_P)?\((\w+),\s*(\w+)\)", source)}
     tests |= {"games." + p.stem for p in (ROOT / "tests/games").glob("*.drehbuch")}
+    tests |= {f"display.qt.{p.stem}" for p in (ROOT / "tests/qt").glob("*_e2e.py")}
     listed = dict(entries())
     faults = [f"{name}: no remark in the code" for name in listed.keys() - {r[0] for r in remarks()}]
     faults += [f"{name}: there is no test {test}"

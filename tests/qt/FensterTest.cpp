@@ -231,6 +231,19 @@ TEST_F(Fenster, AKeyThatIsHeldDownSpeaksOnce)
     EXPECT_FALSE(App.Ended());
 }
 
+TEST_F(Fenster, AMessageIsSeenWholeEvenAtTheEdgeOfTheScreen)
+{
+    const QRect screen = QGuiApplication::primaryScreen()->geometry();
+    for (const Twips far : {-6000.0F, ToTwips(screen.width())}) {
+        frmTessel->Move(far, far);
+        WhileOpen([this] { Form(*frmTessel).close(); },
+                  [&] {
+                      EXPECT_TRUE(screen.contains(Form(*frmMsgJa).geometry()));
+                      Press(Form(*frmMsgJa), Qt::Key_Escape);
+                  });
+    }
+}
+
 TEST_F(Fenster, WhoWishesTwiceToCloseTheGameIsAskedOnceAndKeepsIt)
 {
     FormWidget& form = Form(*frmTessel);

@@ -61,7 +61,9 @@ bool Application::TakesInput(const Window& window) const
 
 void Application::RunModal(Window& window)
 {
-    // The press that has opened this window is released elsewhere, or nowhere.
+    // By design (meldung-nimmt-druck): one would expect a press to last until its release. That
+    // happens elsewhere now, or nowhere, and what is pressed would look so for good.
+    // Test: Layer.PlaysAsItsScriptSays
     for (InstanceBase* const instance : InstanceBase::All()) {
         if (Window* const other = instance->Current()) {
             TakePressFrom(*other);

@@ -52,6 +52,8 @@ void TextBox::Type(std::string_view text)
     const std::int32_t end = start + std::clamp(SelLength.Get(), 0, length - start);
     const auto head = Characters(old, 0, static_cast<std::size_t>(start));
     const auto tail = Characters(old, static_cast<std::size_t>(end), old.size());
+    // By design (nur-was-die-datei-haelt): one would expect every letter. What the file has no
+    // place for is not typed. Test: Layer.PlaysAsItsScriptSays
     const std::string typed = KeepTypable(text);
     if (typed.empty() && !text.empty()) {
         return;

@@ -96,6 +96,9 @@ bool TakenByArrow(Window& window, const Direction& direction)
     return start != nullptr;
 }
 
+// By design (spiel-mit-tasten): one would expect Delete to do nothing here. It is the left button
+// of players who use no pointer. Test: games.arrow_keys
+//
 // What lies there when all is done is pointed at, so that the next press takes what is shown; but
 // not where a window has come in between, which ends the press as well as the preview. A control
 // that has gone with the press keeps no highlight.

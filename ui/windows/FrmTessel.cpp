@@ -90,7 +90,7 @@ void FrmTessel::SetLooks()
         {cmdSchalt(0), Pointer::Default, "Klicken Sie hier, um ein Spiel zu beginnen"},
         {lblInfo, Pointer::Default, "Allgemeine Informationen"},
         {lblHilfe, Pointer::Default, "Beschreibung der Auswahl"},
-        // By design (woertlich): one would expect "Alte". These are the game's words.
+        // By design (woertlich): one would expect "Alte". Players know the words as they are.
         // Test: Design.AllWindowsStandAsInTheFile
         {imgWiederholen, Pointer::Hand, "Alten Bildanordnung wiederholen"},
         {imgNaechsterLevel, Pointer::Hand, "Nächsten Level beginnen"},

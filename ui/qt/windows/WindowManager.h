@@ -9,7 +9,9 @@ namespace malvone::qt {
 enum class BackdropManner {
     FullScreen,   // the manager shows other windows beside or above a full-screen one
     ScreenSized,  // a plain window of the screen's size, since nothing else is known to go well
-    None,         // windows are tiled: a backdrop would take room from the game, or hide it
+    // By design (kacheln-ohne-hintergrund): one would expect a backdrop everywhere. Where windows
+    // are tiled, it would take room from the game, or hide it. Test: display.qt.verwalter_e2e
+    None,
 };
 
 BackdropManner MannerOfBackdrop();
