@@ -4,8 +4,7 @@
     manuals.py [BUILDDIR]
 
 Without BUILDDIR the environment variable MALVONE_BUILD names the folder.
-Needs pdfinfo, pdffonts, pdftotext and pdftohtml of poppler-utils. The last two tests make the
-manuals themselves, so they also need what assets/manuals/typeset.py needs.
+Needs pdfinfo, pdffonts, pdftotext and pdftohtml of poppler-utils.
 """
 import os
 import re
@@ -132,32 +131,6 @@ class Manuals(unittest.TestCase):
             else:
                 level, of_level, points, kept = 1, 0, 0, 0
             self.assertEqual([*map(int, numbers)], [level, of_level, points, kept], what)
-
-
-class Making(unittest.TestCase):
-    def build(self, pictures, out, **environment):
-        return subprocess.run(
-            [sys.executable, "-B", ROOT / "assets/manuals/typeset.py", "--pictures", pictures,
-             "--out", out], check=False, env={**os.environ, **environment}, capture_output=True,
-            encoding="utf-8")
-
-    def test_the_same_input_gives_the_same_bytes(self):
-        with tempfile.TemporaryDirectory() as folder:
-            for place in ("1", "2"):
-                made = self.build(ROOT / "assets/pictures", Path(folder) / place, TZ=f"UTC{place}",
-                                  PYTHONHASHSEED=place, SOURCE_DATE_EPOCH="1700000000")
-                self.assertEqual((made.returncode, made.stderr), (0, ""))
-            for name in PAGES:
-                first, second = ((Path(folder) / place / f"{name}.pdf") for place in ("1", "2"))
-                self.assertEqual(first.read_bytes(), second.read_bytes(), name)
-                self.assertIn("2023", run("pdfinfo", first))
-
-    def test_a_missing_picture_stops_the_making_and_is_named(self):
-        with tempfile.TemporaryDirectory() as folder:
-            made = self.build(folder, Path(folder) / "out")
-            self.assertEqual(made.returncode, 1)
-            self.assertIn("stone-2-laughing.svg", made.stderr)
-            self.assertEqual(list((Path(folder) / "out").glob("*.pdf")), [])
 
 
 if __name__ == "__main__":

@@ -77,11 +77,15 @@ void PlayWith(NthCall& fault)
     const auto wiped = Contents(stage.BestList);
     EXPECT_TRUE(wiped == kWiped || failure) << told;
     EXPECT_TRUE(wiped == kWiped || wiped == list || !wiped) << "half a list: " << *wiped;
+    for (const std::string& file : Names(stage.DataFolder)) {
+        EXPECT_TRUE(file.ends_with(".txt") || file == "tessel.ini") << file << " is left over";
+    }
+    EXPECT_FALSE(failure && fault.Error == EINTR && !fault.Forever) << "not tried again";
 }
 
 TEST(Faults, WhateverCallIsRefusedNoNameIsLostAndNothingFailsWithoutAWord)
 {
-    std::vector<int> errors = {EIO, ENOENT};
+    std::vector<int> errors = {EINTR, EIO, ENOENT};
     if (std::getenv("MALVONE_ALL_ERRORS") != nullptr) {  // takes minutes
         errors = {EACCES,  EBADF,     EBUSY,        EDQUOT,     EEXIST,    EFBIG,   EINTR,
                   EINVAL,  EIO,       EISDIR,       ELOOP,      EMFILE,    EMLINK,  ENFILE,

@@ -5,9 +5,7 @@
 #include <sys/file.h>
 #include <sys/stat.h>
 
-#include <atomic>
 #include <cstdlib>
-#include <thread>
 
 #include "tests/support/Faults.h"
 #include "tests/support/Folder.h"
@@ -179,49 +177,6 @@ TEST_F(Files, WhatIsNoFileIsRefusedAndLeftAlone)
     }
 }
 
-// Whatever call fails, once or from then on: a failure leaves the old file, success the new one,
-// and neither leaves anything else. What is to be kept is kept before it can be lost.
-TEST_F(Files, AnyCallThatFailsLeavesTheOldFileOrTheNewOneAndNothingElse)
-{
-    const std::tuple<OldFile, bool, Texts> cases[] = {
-        {OldFile::Goes, true, {"file.txt"}},
-        {OldFile::Goes, false, {"file.txt"}},
-        {OldFile::Kept, true, {kKept, "file.txt"}},
-        {OldFile::Kept, false, {"file.txt"}},
-    };
-    const auto replace = [&](OldFile old, bool there, const Texts& after, NthCall fault) {
-        SCOPED_TRACE(testing::Message() << "errno " << fault.Error << " call " << fault.At);
-        fs::remove_all(Disk);
-        fs::create_directories(Disk);
-        if (there) {
-            Make();
-        }
-        const auto before = Names(Disk);
-        System.Fault = std::ref(fault);
-        const bool good = System.ReplaceTextLines(kFile, kNew, old) == FileFault::None;
-        EXPECT_EQ(Names(Disk), good ? after : before);
-        EXPECT_EQ(Contents(File).value_or(kOldContent), good ? kNewContent : kOldContent);
-        EXPECT_EQ(Contents(Disk / kKept).value_or(kOldContent), kOldContent);
-        EXPECT_TRUE(good || fault.Error != EINTR || fault.Forever) << "not tried again";
-        return fault.Calls >= fault.At && !HasFailure();
-    };
-    for (const auto& [old, there, after] : cases) {
-        for (const int error : {EACCES, EINTR, EIO, ENOENT, ENOSPC, EPERM}) {
-            for (const bool forever : {false, true}) {
-                int at = 1;
-                while (replace(old, there, after, {at, error, forever})) {
-                    ++at;
-                }
-                EXPECT_GT(at, 8);
-            }
-        }
-    }
-    for (const char* const call : {"open", "write", "close"}) {
-        System.Fault = Fails(call, ENOSPC);
-        EXPECT_EQ(System.WriteTextLines(kFile, kNew), FileFault::OtherDevice) << call;
-    }
-}
-
 TEST_F(Files, AKillAtAnyCallLeavesTheOldFileOrTheNewOneAndTheNextSaveClearsUp)
 {
     for (const OldFile old : {OldFile::Goes, OldFile::Kept}) {
@@ -247,37 +202,6 @@ TEST_F(Files, AKillAtAnyCallLeavesTheOldFileOrTheNewOneAndTheNextSaveClearsUp)
         }
         EXPECT_GT(at, 8);
     }
-}
-
-TEST_F(Files, TwoRunsThatSaveAtOnceBothSucceedAndNeverMixTheirLists)
-{
-    Make();
-    std::atomic<int> failed = 0;
-    std::atomic<int> ended = 0;
-    const auto run = [&](char letter) {
-        Platform system(Disk);
-        for (int i = 0; i < 100; ++i) {
-            const Texts lines(3, std::string(20, letter));
-            failed += system.ReplaceTextLines(kFile, lines, OldFile::Goes) != FileFault::None;
-        }
-        ++ended;
-    };
-    std::thread one(run, 'a');
-    std::thread two(run, 'b');
-    const auto list = [](char letter) {
-        const std::string line = std::string(20, letter) + "\r\n";
-        return line + line + line;
-    };
-    bool whole = true;
-    while (ended < 2) {
-        const std::string content = Contents(File).value_or("");
-        whole = whole && (content == list('a') || content == list('b') || content == kOldContent);
-    }
-    one.join();
-    two.join();
-    EXPECT_TRUE(whole);
-    EXPECT_EQ(failed, 0);
-    EXPECT_EQ(Names(Disk), Texts{"file.txt"});
 }
 
 TEST_F(Files, ARunThatHangsWithTheLockHoldsNobodyUpForEver)
