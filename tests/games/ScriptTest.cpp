@@ -4,9 +4,6 @@
 #include <regex>
 
 #include "tests/support/Game.h"
-#include "ui/windows/FrmBeste.h"
-#include "ui/windows/FrmMsgJa.h"
-#include "ui/windows/FrmTessel.h"
 
 namespace malvone::test {
 namespace {
@@ -57,34 +54,6 @@ TEST(Script, ASecondRunInOneProcessBeginsAfreshAndOtherLineEndsChangeNothing)
 {
     const std::string script = kThroughAllWindows + "state\nwindows\n";
     EXPECT_EQ(Play(std::regex_replace(script, std::regex("\n"), "\r\n")), Play(script));
-}
-
-TEST(Script, EveryEventAtEveryControlIsAnswered)
-{
-    std::vector<std::string> names = {Field(1), Field(24), Field(140)};
-    const auto append = [&](const Window& window) {
-        names.emplace_back(window.Name());
-        for (const Control* const control : window.Controls()) {
-            names.push_back(std::string(window.Name()) + "." + control->FullName());
-        }
-    };
-    append(FrmTessel());
-    append(FrmBeste());
-    append(FrmMsgJa());
-    std::erase(names, "frmMsgJa.lblJa");  // the answer that ends the program
-    for (const char* const open :
-         {"", "do frmTessel.mnuInfo(4) Click\n", "do frmTessel.lblEnde Click\n"}) {
-        std::string script = "key Enter\n";
-        for (const std::string& name : names) {
-            for (const char* const event : {"Click", "MouseMove 1", "MouseDown", "MouseDown 2",
-                                            "MouseUp", "Timer", "Activate", "Close"}) {
-                script += open;
-                script += "do " + name + " " + event + "\n";
-                script += "key Esc\nkey Esc\ndo frmBeste.cmdEnde Click\nkey Esc\n";
-            }
-        }
-        ExpectThatEachCommandIsAwaited(script, Play(script));
-    }
 }
 
 }  // namespace

@@ -161,10 +161,10 @@ class Play:
         self.transcript += ["stderr " + readable(line) for line in self.errors]
         self.process = None
 
-    def direct(self, name, *arguments):
+    def direct(self, name, *rest):
         try:
-            getattr(self, "do_" + name)(*arguments)
-        except (AttributeError, OSError, TypeError, ValueError) as fault:
+            self.obey(name, rest, self.path(rest[0]) if rest and "/" in rest[0] else None)
+        except (AttributeError, IndexError, OSError, ValueError) as fault:
             raise Failed(f"{name}: {fault!r}") from fault
 
     def path(self, name):
@@ -178,46 +178,34 @@ class Play:
             self.at += 1
         return self.lines[first:self.at]
 
-    def do_plain(self):
-        self.changes = ["--clock", "1"]
-
-    def do_spoken(self):
-        self.changes = ["--spoken", "--clock", "1"]
-
-    def do_options(self, *options):
-        self.options = options
-
-    do_restart = do_options
-
-    def do_times(self, times):
-        self.times = int(times)
-
-    def do_without(self, *names):
-        for name in names:
-            self.path("programm/" + name).unlink()
-
-    def do_file(self, name):
-        lines = self.file_lines()
-        self.transcript += lines
-        self.path(name).parent.mkdir(parents=True, exist_ok=True)
-        self.path(name).write_bytes(file_from(lines))
-
-    def do_bytes(self, name, values):
-        self.path(name).write_bytes(bytes.fromhex(values))
-
-    def do_folder(self, name):
-        self.path(name).mkdir(parents=True)
-
-    def do_link(self, name, target):
-        self.path(name).symlink_to(target)
-
-    def do_remove(self, name):
-        target = self.path(name)
-        (shutil.rmtree if target.is_dir() and not target.is_symlink() else pathlib.Path.unlink)(target)
-
-    def do_look(self, name):
-        self.file_lines()
-        self.transcript += lines_from(self.path(name))
+    def obey(self, name, rest, path):
+        if name in ("plain", "spoken"):
+            self.changes = ["--clock", "1", "--spoken"][:2 if name == "plain" else 3]
+        elif name in ("options", "restart"):
+            self.options = rest
+        elif name == "times":
+            self.times = int(rest[0])
+        elif name == "without":
+            for file in rest:
+                self.path("programm/" + file).unlink()
+        elif name == "file":
+            lines = self.file_lines()
+            self.transcript += lines
+            path.parent.mkdir(parents=True, exist_ok=True)
+            path.write_bytes(file_from(lines))
+        elif name == "bytes":
+            path.write_bytes(bytes.fromhex(rest[1]))
+        elif name == "folder":
+            path.mkdir(parents=True)
+        elif name == "link":
+            path.symlink_to(rest[1])
+        elif name == "remove":
+            (shutil.rmtree if path.is_dir() and not path.is_symlink() else pathlib.Path.unlink)(path)
+        elif name == "look":
+            self.file_lines()
+            self.transcript += lines_from(path)
+        else:
+            raise ValueError("no such directive")
 
 
 def difference(source, wanted, played):

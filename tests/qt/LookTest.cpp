@@ -6,7 +6,6 @@
 #include "state/Zellen.h"
 #include "tests/qt/Spieltisch.h"
 #include "ui/windows/FrmBilder.h"
-#include "ui/windows/FrmDigital.h"
 
 namespace malvone::qt {
 namespace {
@@ -59,13 +58,9 @@ TEST_F(Look, WindowsLookAsTheyAreKept)
                                         : frmBilder->imgBild;
         frmTessel->imgFeld(i).Picture = bank(value).Picture;
     }
-    for (int place = 0; place < 5; ++place) {
-        frmTessel->imgDiggiPunkte(place).Picture = frmDigital->imgDiggi(place).Picture;
-    }
-    for (int place = 0; place < 4; ++place) {
-        frmTessel->imgDiggiLevelPunkte(place).Picture = frmDigital->imgDiggi(5 + place).Picture;
-    }
-    frmTessel->imgDiggiLevel(0).Picture = frmDigital->imgDiggi(9).Picture;
+    frmTessel->Punkte.Zeigen("43210");
+    frmTessel->LevelPunkte.Zeigen("8765");
+    frmTessel->Level.Zeigen("9");
     for (Image* const image :
          {&frmTessel->imgNaechsterLevel, &frmTessel->imgWiederholen, &frmTessel->imgNochEinmal}) {
         image->Visible = true;

@@ -15,9 +15,10 @@ TITLE = (200, 25)
 
 
 def backdrop_in_sight(desktop):
-    """Its edges are of one bright grey; at the bottom a panel may lie over it."""
+    """Its picture is a bright grey with an ornament; at the bottom a panel may lie over it."""
     spots = [(4, 4), (SCREEN[0] - 4, 4), (4, SCREEN[1] - 60), (SCREEN[0] - 4, SCREEN[1] - 60)]
-    return all(150 < min(pixel) and max(pixel) - min(pixel) < 8
+    ornament = set(desktop.picture(4, 300, 200, 200))
+    return len(ornament) > 4 and all(150 < min(pixel) and max(pixel) - min(pixel) < 8
                for pixel in (desktop.picture(*spot, 1, 1) for spot in spots) if pixel)
 
 

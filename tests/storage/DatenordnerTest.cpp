@@ -1,8 +1,7 @@
-// DatenordnerTest.cpp: paths, numbers in files, and the snapshot when a write fails.
+// DatenordnerTest.cpp: paths, and numbers in files.
 #include <gtest/gtest.h>
 
 #include "state/Pfade.h"
-#include "storage/Spielstanddatei.h"
 #include "storage/Zahlen.h"
 #include "tests/support/Game.h"
 
@@ -62,44 +61,6 @@ TEST(Zahlen, OnlyDecimalNumbersInRangeAreNumbers)
     EXPECT_EQ(Zahl16("32767"), 32767);
     EXPECT_EQ(Zahl16("-32768"), -32768);
     EXPECT_EQ(Zahl16("32768"), std::nullopt);
-}
-
-// Other line ends, more lines and blanks around the numbers are no damage.
-TEST(Spielstanddatei, ARepeatReadsWhatAnyEditorHasWritten)
-{
-    std::string values;
-    std::string lines;
-    for (int i = 0; i < kZellen; ++i) {
-        values += static_cast<char>('0' + (i + i / 7) % (kFarben + 1));
-        lines += std::string(1, values.back()) + "\n";
-    }
-    std::string old = lines;
-    std::ranges::replace(old, '\n', '\r');
-    for (const std::string& file : {lines, old, lines + "more\n", lines.substr(0, lines.size() - 1),
-                                    " " + lines.substr(0, 1) + " " + lines.substr(1)}) {
-        Game game;
-        WriteFile(game.Snapshot, file);
-        StandLaden();
-        std::string shown = values;
-        std::ranges::replace(shown, '0', '.');
-        EXPECT_EQ(game("board\npictures\n"), "= " + values + "\n= " + shown + "\n");
-    }
-}
-
-TEST(Spielstanddatei, AFailedWriteIsToldAndMetByTheRepeat)
-{
-    const std::pair<const char*, const char*> cases[] = {{"write", "Beim Einlesen der Werte"},
-                                                         {"open", "wurde nicht gespeichert."}};
-    for (const auto& [failing, words] : cases) {
-        Game game;
-        game("key Enter\n");
-        game.Platform.Fault = Fails(failing, ENOSPC);
-        const std::string written = game("key Esc\n", &StandSpeichern);
-        EXPECT_NE(written.find("ist fehlgeschlagen."), std::string::npos) << written;
-        game.Platform.Fault = {};
-        const std::string read = game("key Esc\n", &StandLaden);
-        EXPECT_NE(read.find(words), std::string::npos) << read;
-    }
 }
 
 }  // namespace

@@ -153,6 +153,19 @@ inline std::string Board(const std::vector<std::string_view>& rows)
     return cells;
 }
 
+// A row of digit places as it is seen, dark ones as '.'; the first of them is the units.
+inline std::string Digits(const ControlArray<Image>& places, int first, int last)
+{
+    std::string digits;
+    for (int i = last; i >= first; --i) {
+        const std::string_view name = places(i).Picture->Name();
+        digits += !places(i).Visible       ? ""
+                  : name.ends_with("(10)") ? "."
+                                           : name.substr(name.size() - 2, 1);
+    }
+    return digits;
+}
+
 inline std::string Field(int cell)
 {
     return "frmTessel.imgFeld(" + std::to_string(cell) + ")";
