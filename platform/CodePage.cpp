@@ -43,25 +43,22 @@ Decoded Decode(std::string_view text)
     constexpr std::array<Form, 4> kForms = {
         {{0x80, 0x00, 0x0}, {0xE0, 0xC0, 0x80}, {0xF0, 0xE0, 0x800}, {0xF8, 0xF0, 0x10000}}};
     const std::uint8_t lead = Byte(text[0]);
-    for (std::size_t extra = 0; extra < kForms.size(); ++extra) {
-        const Form& form = kForms[extra];
-        if ((lead & form.Mask) != form.Lead || text.size() <= extra) {
-            continue;
-        }
-        char32_t character = lead & static_cast<std::uint8_t>(~form.Mask);
-        for (std::size_t i = 1; i <= extra; ++i) {
-            if ((Byte(text[i]) & 0xC0U) != 0x80U) {
-                return {kNoCharacter, 1};
-            }
-            character = (character << 6U) | (Byte(text[i]) & 0x3FU);
-        }
-        const bool surrogate = character >= 0xD800 && character <= 0xDFFF;
-        if (character < form.Smallest || character > 0x10FFFF || surrogate) {
+    const auto* const form = std::find_if(
+        kForms.begin(), kForms.end(), [lead](const Form& f) { return (lead & f.Mask) == f.Lead; });
+    const auto extra = static_cast<std::size_t>(form - kForms.begin());
+    if (form == kForms.end() || text.size() <= extra) {
+        return {kNoCharacter, 1};
+    }
+    char32_t character = lead & static_cast<std::uint8_t>(~form->Mask);
+    for (std::size_t i = 1; i <= extra; ++i) {
+        if ((Byte(text[i]) & 0xC0U) != 0x80U) {
             return {kNoCharacter, 1};
         }
-        return {character, extra + 1};
+        character = (character << 6U) | (Byte(text[i]) & 0x3FU);
     }
-    return {kNoCharacter, 1};
+    const bool surrogate = character >= 0xD800 && character <= 0xDFFF;
+    const bool known = character >= form->Smallest && character <= 0x10FFFF && !surrogate;
+    return known ? Decoded{character, extra + 1} : Decoded{kNoCharacter, 1};
 }
 
 void AppendUtf8(std::string& text, char32_t character)
