@@ -4,17 +4,17 @@
 #include <QPainter>
 
 #include "state/Zellen.h"
-#include "tests/qt/Spieltisch.h"
+#include "tests/qt/GameOnScreen.h"
 #include "ui/windows/FrmBilder.h"
 
 namespace malvone::qt {
 namespace {
 
-class Look : public Spieltisch
+class Look : public GameOnScreen
 {
 protected:
-    // The look of this run lies in the build folder: who has changed it on purpose opens it and
-    // takes it over.
+    // The look of this run lies in the build folder, to be opened and copied over the kept one
+    // after an intended change.
     void ExpectAsKept(const Window& window) const
     {
         FormWidget& form = Form(window);

@@ -43,7 +43,7 @@ TEST(Klaenge, AWaveThatCannotBeReadIsThere)
     EXPECT_EQ(stage("key Enter\n"), "! sound -\n");
 }
 
-TEST(Zahlen, OnlyDecimalNumbersInRangeAreNumbers)
+TEST(Numbers, OnlyDecimalNumbersInRangeAreNumbers)
 {
     const std::pair<const char*, std::int32_t> numbers[] = {{"0", 0},
                                                             {" +42\t", 42},

@@ -323,7 +323,7 @@ void QtBinding::Ended()
 // A modal window gives the front to nobody.
 // By design (aktiv-nur-beim-zeigen): one would expect Form_Activate for every window that comes
 // back to the front. Only the backdrop gets it: the window of the best players would put its list's
-// names back over one that is being typed. Test: Namen.ANameBeingTypedSurvivesAnotherWindow
+// names back over one that is being typed. Test: NameBoxes.ANameBeingTypedSurvivesAnotherWindow
 void QtBinding::Activated(const FormWidget& form)
 {
     const Window* const modal = App.TopModal();

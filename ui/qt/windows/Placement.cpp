@@ -84,7 +84,7 @@ bool Placement::Fits() const
 
 // By design (auf-dem-schirm): one would expect a window where the model has put it, beyond the edge
 // too. It is moved so far that all of it can be seen.
-// Test: Fenster.AMessageIsSeenWholeEvenAtTheEdgeOfTheScreen
+// Test: Windows.AMessageIsSeenWholeEvenAtTheEdgeOfTheScreen
 void Placement::OntoScreen()
 {
     const QRect outer = Outer();

@@ -1,8 +1,8 @@
-// TexteTest.cpp: every text of the game can be read in the label that shows it.
+// TextsTest.cpp: every text of the game can be read in the label that shows it.
 #include <QFontMetricsF>
 #include <set>
 
-#include "tests/qt/Spieltisch.h"
+#include "tests/qt/GameOnScreen.h"
 #include "tests/support/Folder.h"
 #include "ui/qt/drawing/Conversions.h"
 #include "ui/qt/drawing/LabelText.h"
@@ -47,9 +47,9 @@ void ExpectFits(const Label& label)
     EXPECT_EQ(joined.simplified().toStdString(), ToQString(text).simplified().toStdString());
 }
 
-using Texte = Spieltisch;
+using Texts = GameOnScreen;
 
-TEST_F(Texte, EveryMessageFitsItsLabels)
+TEST_F(Texts, EveryMessageFitsItsLabels)
 {
     const std::set<std::string> texts = TextsOfMessages();
     ASSERT_GT(texts.size(), 20U);
@@ -62,7 +62,7 @@ TEST_F(Texte, EveryMessageFitsItsLabels)
     }
 }
 
-TEST_F(Texte, EveryMoveFitsItsLabels)
+TEST_F(Texts, EveryMoveFitsItsLabels)
 {
     for (Label* const label : {&frmTessel->lblSumme, &frmTessel->lblMeldung}) {
         for (const char* const text :

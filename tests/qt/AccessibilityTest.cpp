@@ -1,16 +1,16 @@
-// ZugangTest.cpp: what players find in the windows who cannot see or point. How it reaches a screen
-// reader is played in zugang_e2e.py.
+// AccessibilityTest.cpp: what players who cannot see or point find in the windows. How it
+// reaches a screen reader is played in accessibility_e2e.py.
 #include <QAccessible>
 
-#include "tests/qt/Spieltisch.h"
+#include "tests/qt/GameOnScreen.h"
 #include "ui/qt/drawing/Conversions.h"
 
 namespace malvone::qt {
 namespace {
 
-using Zugang = Spieltisch;
+using Accessibility = GameOnScreen;
 
-TEST_F(Zugang, EveryPartIsFoundWhereItIsSeen)
+TEST_F(Accessibility, EveryPartIsFoundWhereItIsSeen)
 {
     frmBeste->Show();
     int seen = 0;
@@ -31,7 +31,7 @@ TEST_F(Zugang, EveryPartIsFoundWhereItIsSeen)
     EXPECT_GT(seen, 140);
 }
 
-TEST_F(Zugang, AFrameFollowsTheArrowKeysUntilThePointerMoves)
+TEST_F(Accessibility, AFrameFollowsTheArrowKeysUntilThePointerMoves)
 {
     FormWidget& form = Form(*frmTessel);
     const auto look = [&form](const Visual& cell) {

@@ -1,4 +1,4 @@
-// BilderTest.cpp: the shipped pictures and the table that names their files.
+// PicturesTest.cpp: the shipped pictures and the table that names their files.
 #include <gtest/gtest.h>
 
 #include <QDir>
@@ -22,7 +22,7 @@ void KeepWarning(QtMsgType, const QMessageLogContext&, const QString& text)
     warnings += text;
 }
 
-TEST(Bilder, TheBankShowsEveryShippedFileAndNoOther)
+TEST(Pictures, TheBankShowsEveryShippedFileAndNoOther)
 {
     std::set<QString> shown = {QStringLiteral("hand.svg")};
     for (const PictureInfo& picture : AllPictures()) {
@@ -33,7 +33,7 @@ TEST(Bilder, TheBankShowsEveryShippedFileAndNoOther)
 }
 
 // Qt draws these in another way than other programs, slowly, or leaves them out without a word.
-TEST(Bilder, FilesHoldOnlyWhatQtDraws)
+TEST(Pictures, FilesHoldOnlyWhatQtDraws)
 {
     const QRegularExpression forbidden(
         QStringLiteral("<(text|filter|mask|clipPath|style|image|script)\\b"
@@ -46,7 +46,7 @@ TEST(Bilder, FilesHoldOnlyWhatQtDraws)
     }
 }
 
-TEST(Bilder, PicturesLoadWithoutWarningInTheShapeThatTheBankGives)
+TEST(Pictures, PicturesLoadWithoutWarningInTheShapeThatTheBankGives)
 {
     warnings.clear();
     const auto before = qInstallMessageHandler(KeepWarning);
@@ -65,7 +65,7 @@ TEST(Bilder, PicturesLoadWithoutWarningInTheShapeThatTheBankGives)
     EXPECT_EQ(warnings.join(QLatin1Char('\n')).toStdString(), "");
 }
 
-TEST(Bilder, APictureIsRenderedOnceForEachSize)
+TEST(Pictures, APictureIsRenderedOnceForEachSize)
 {
     PictureStore store;
     const Picture stone = PictureNamed("frmBilder.imgBild(1)");
@@ -76,7 +76,7 @@ TEST(Bilder, APictureIsRenderedOnceForEachSize)
     EXPECT_EQ(pixels(32), first);
 }
 
-TEST(Bilder, TheHandPointsWithItsFingerTip)
+TEST(Pictures, TheHandPointsWithItsFingerTip)
 {
     for (const double ratio : {1.0, 1.5, 2.0}) {
         const QCursor hand = HandCursor(ratio);

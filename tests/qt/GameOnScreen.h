@@ -1,4 +1,4 @@
-// Spieltisch.h: the real game in windows of Qt's, with a pointer and keys for tests.
+// GameOnScreen.h: the real game in windows of Qt's, with a pointer and keys for tests.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -26,13 +26,13 @@
 
 namespace malvone::qt {
 
-class Spieltisch : public testing::Test
+class GameOnScreen : public testing::Test
 {
 protected:
     void SetUp() override
     {
         const std::filesystem::path folder = folder_.path().toStdString();
-        platform_ = std::make_unique<QtPlatform>(folder, folder, klang_);
+        platform_ = std::make_unique<QtPlatform>(folder, folder, sound_);
         binding_ = std::make_unique<QtBinding>();
         ZustandNeu();
         App.Begin(*binding_, *platform_);
@@ -121,7 +121,7 @@ protected:
     static QImage Painted(FormWidget& form) { return form.grab().toImage(); }
 
     QTemporaryDir folder_;
-    Sound klang_;  // never made ready: silent
+    Sound sound_;  // never made ready: silent
     std::unique_ptr<QtPlatform> platform_;
     std::unique_ptr<QtBinding> binding_;
 };

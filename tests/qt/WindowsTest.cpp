@@ -1,4 +1,4 @@
-// FensterTest.cpp: the game in Qt's windows: painting, pointer, keys, places and modal windows.
+// WindowsTest.cpp: the game in Qt's windows: painting, pointer, keys, places and modal windows.
 #include <QAction>
 #include <QLineEdit>
 #include <QMenu>
@@ -9,7 +9,7 @@
 #include "state/Beste.h"
 #include "state/Spielstand.h"
 #include "state/Zellen.h"
-#include "tests/qt/Spieltisch.h"
+#include "tests/qt/GameOnScreen.h"
 #include "ui/qt/drawing/Conversions.h"
 #include "ui/qt/drawing/PictureStore.h"
 #include "ui/qt/windows/BackdropWindow.h"
@@ -25,7 +25,7 @@ struct Watch : QObject
     std::function<void(const QEvent&)> See;
 };
 
-class Fenster : public Spieltisch
+class Windows : public GameOnScreen
 {
 protected:
     void NewGame() { Click(frmTessel->lblNeu); }
@@ -72,7 +72,7 @@ protected:
     PictureStore pictures_;
 };
 
-TEST_F(Fenster, PointingRepaintsOnlyTheStonesAndTheText)
+TEST_F(Windows, PointingRepaintsOnlyTheStonesAndTheText)
 {
     NewGame();
     PointAt(frmTessel->Picture1);
@@ -99,7 +99,7 @@ TEST_F(Fenster, PointingRepaintsOnlyTheStonesAndTheText)
     EXPECT_LT(pixels, board.width() * board.height() / 2);
 }
 
-TEST_F(Fenster, TheWholeDesignGrowsAndShrinksWithItsWindowInWholePixels)
+TEST_F(Windows, TheWholeDesignGrowsAndShrinksWithItsWindowInWholePixels)
 {
     NewGame();
     FormWidget& form = Form(*frmTessel);
@@ -136,7 +136,7 @@ TEST_F(Fenster, TheWholeDesignGrowsAndShrinksWithItsWindowInWholePixels)
 
 // A cell is a rectangle of pixels, so those along its middle show all, and a cell of each column
 // with all rows among them stands for the board.
-TEST_F(Fenster, ThePixelsOfACellAnswerForIt)
+TEST_F(Windows, ThePixelsOfACellAnswerForIt)
 {
     FormWidget& form = Form(*frmTessel);
     for (const double ratio : {1.0, 1.25, 1.5, 2.0, 3.0}) {
@@ -163,7 +163,7 @@ TEST_F(Fenster, ThePixelsOfACellAnswerForIt)
     }
 }
 
-TEST_F(Fenster, TheMenuFollowsTheModel)
+TEST_F(Windows, TheMenuFollowsTheModel)
 {
     const auto* const bar = Form(*frmTessel).findChild<QMenuBar*>();
     const QList<QAction*> game = bar->actions().at(0)->menu()->actions();
@@ -183,7 +183,7 @@ TEST_F(Fenster, TheMenuFollowsTheModel)
     }
 }
 
-TEST_F(Fenster, AccessKeysOfButtonsGoBeforeThoseOfTheMenu)
+TEST_F(Windows, AccessKeysOfButtonsGoBeforeThoseOfTheMenu)
 {
     FormWidget& form = Form(*frmTessel);
     frmTessel->mnuSound.Enabled = true;
@@ -204,7 +204,7 @@ TEST_F(Fenster, AccessKeysOfButtonsGoBeforeThoseOfTheMenu)
     EXPECT_FALSE(App.Ended());
 }
 
-TEST_F(Fenster, AKeyThatIsHeldDownSpeaksOnce)
+TEST_F(Windows, AKeyThatIsHeldDownSpeaksOnce)
 {
     FormWidget& form = Form(*frmTessel);
     WhileOpen([&] { Press(form, Qt::Key_E, Qt::ControlModifier); },
@@ -217,7 +217,7 @@ TEST_F(Fenster, AKeyThatIsHeldDownSpeaksOnce)
     EXPECT_FALSE(App.Ended());
 }
 
-TEST_F(Fenster, AMessageIsSeenWholeEvenAtTheEdgeOfTheScreen)
+TEST_F(Windows, AMessageIsSeenWholeEvenAtTheEdgeOfTheScreen)
 {
     const QRect screen = QGuiApplication::primaryScreen()->geometry();
     for (const Twips far : {-6000.0F, ToTwips(screen.width())}) {
@@ -230,7 +230,7 @@ TEST_F(Fenster, AMessageIsSeenWholeEvenAtTheEdgeOfTheScreen)
     }
 }
 
-TEST_F(Fenster, WhoWishesTwiceToCloseTheGameIsAskedOnceAndKeepsIt)
+TEST_F(Windows, TwoWishesToCloseTheGameAskOnce)
 {
     FormWidget& form = Form(*frmTessel);
     QAction* const leave = form.findChild<QMenuBar*>()->actions().at(0)->menu()->actions().at(3);
@@ -257,7 +257,7 @@ TEST_F(Fenster, WhoWishesTwiceToCloseTheGameIsAskedOnceAndKeepsIt)
     }
 }
 
-TEST_F(Fenster, TheFirstFrameRendersNothing)
+TEST_F(Windows, TheFirstFrameRendersNothing)
 {
     const QSize client(ToWholePixels(frmTessel->ClientWidth),
                        ToWholePixels(frmTessel->ClientHeight));
@@ -268,7 +268,7 @@ TEST_F(Fenster, TheFirstFrameRendersNothing)
     EXPECT_EQ(pictures_.Rendered(), 0);
 }
 
-class Namen : public Spieltisch
+class NameBoxes : public GameOnScreen
 {
 protected:
     // Opens the list for an entry at the third place, hands its box over, and closes the window.
@@ -295,7 +295,7 @@ protected:
     }
 };
 
-TEST_F(Namen, OnlyTheBoxesInSightAreWidgetsAndOnlyTheEntryIsOpen)
+TEST_F(NameBoxes, OnlyTheBoxesInSightAreWidgetsAndOnlyTheEntryIsOpen)
 {
     TypeAtThirdPlace([](QLineEdit& entry) {
         const auto boxes = entry.window()->findChildren<QLineEdit*>();
@@ -309,7 +309,7 @@ TEST_F(Namen, OnlyTheBoxesInSightAreWidgetsAndOnlyTheEntryIsOpen)
     });
 }
 
-TEST_F(Namen, AKeyThatTheBoxLeavesGoesNoSecondWay)
+TEST_F(NameBoxes, AKeyThatTheBoxLeavesGoesNoSecondWay)
 {
     int keys = 0;
     Watch watch([&](const QEvent& event) { keys += event.type() == QEvent::KeyPress ? 1 : 0; });
@@ -321,7 +321,7 @@ TEST_F(Namen, AKeyThatTheBoxLeavesGoesNoSecondWay)
     EXPECT_EQ(keys, 0);
 }
 
-TEST_F(Namen, ANameIsLockedAgainInTheViewAfterItsEntry)
+TEST_F(NameBoxes, ANameIsLockedAgainInTheViewAfterItsEntry)
 {
     TypeAtThirdPlace([](QLineEdit&) {});
     Beste.EintragModus = False;
@@ -339,7 +339,7 @@ TEST_F(Namen, ANameIsLockedAgainInTheViewAfterItsEntry)
     TypeAtThirdPlace([](QLineEdit& box) { EXPECT_TRUE(box.hasSelectedText()); });
 }
 
-TEST_F(Namen, TheModelWritesIntoTheBoxToo)
+TEST_F(NameBoxes, TheModelWritesIntoTheBoxToo)
 {
     TypeAtThirdPlace([](QLineEdit& box) {
         const std::string longName(200'000, 'x');
@@ -357,7 +357,7 @@ TEST_F(Namen, TheModelWritesIntoTheBoxToo)
     });
 }
 
-TEST_F(Namen, ANameBeingTypedSurvivesAnotherWindow)
+TEST_F(NameBoxes, ANameBeingTypedSurvivesAnotherWindow)
 {
     TypeAtThirdPlace([&](QLineEdit& box) {
         Type(box, QStringLiteral("Ada"));
@@ -373,7 +373,7 @@ TEST_F(Namen, ANameBeingTypedSurvivesAnotherWindow)
     });
 }
 
-TEST_F(Namen, LettersReachTheBoxAndNotTheButtons)
+TEST_F(NameBoxes, LettersReachTheBoxAndNotTheButtons)
 {
     TypeAtThirdPlace([&](QLineEdit& box) {
         Press(box, Qt::Key_N, {}, QStringLiteral("n"));

@@ -1,4 +1,4 @@
-// BrettTest.cpp: the rules of the board, on many boards: which stones the pointer marks, where
+// BoardTest.cpp: the rules of the board, on many boards: which stones the pointer marks, where
 // stones and columns go, whether a move is left, and the chance that boards are made of. Single
 // moves stand in the played games.
 #include <gtest/gtest.h>
@@ -25,12 +25,12 @@ std::string BoardAfter(Game& game, const std::string& board, const std::function
     return game("board\n").substr(2, kZellen);
 }
 
-// The pointings have been chosen by faults in the tables of the runs, in the order of the steps and
-// in the walks: each fault that shows on any of many thousand boards shows on one of these. A line
-// holds a board, the cell that is pointed at, and the marks of all cells.
-TEST(Markierung, EveryPointingMarksTheseStonesAndNoOthers)
+// The cases were chosen with faults put into the tables of the runs, the order of the steps and the
+// walks: each fault that shows on any of many thousand boards shows on one of these. A line holds a
+// board, the cell that is pointed at, and the marks of all cells.
+TEST(Marks, EveryPointingMarksTheseStonesAndNoOthers)
 {
-    std::ifstream pointings(MALVONE_SOURCE_DIR "/tests/board/markierung.txt");
+    std::ifstream pointings(MALVONE_SOURCE_DIR "/tests/board/marks.txt");
     Game game;
     game("do frmTessel.lblNeu Click\n");
     int count = 0;
@@ -47,7 +47,7 @@ TEST(Markierung, EveryPointingMarksTheseStonesAndNoOthers)
     EXPECT_GE(count, 40);
 }
 
-TEST(Fallen, StonesOfRandomBoardsLieBelowAllEmptyCellsInTheirOldOrder)
+TEST(Falling, StonesOfRandomBoardsLieBelowAllEmptyCellsInTheirOldOrder)
 {
     std::mt19937 dice(1);
     Game game;
@@ -68,7 +68,7 @@ TEST(Fallen, StonesOfRandomBoardsLieBelowAllEmptyCellsInTheirOldOrder)
     }
 }
 
-TEST(Spalten, OneCallClosesUpToSixEmptyColumnsWithStonesToTheirRight)
+TEST(Columns, OneCallClosesUpToSixEmptyColumnsWithStonesToTheirRight)
 {
     const struct
     {
@@ -104,7 +104,7 @@ TEST(Spalten, OneCallClosesUpToSixEmptyColumnsWithStonesToTheirRight)
 }
 
 // Every pair of the board, one by one, on stones that are no pairs otherwise.
-TEST(ZugVorhanden, EveryPairOfTheBoardIsSeenAndNothingElse)
+TEST(Moves, EveryPairOfTheBoardIsSeenAndNothingElse)
 {
     std::string loose;
     for (int i = 1; i <= kZellen; ++i) {
@@ -147,7 +147,7 @@ double ChiSquare(const std::map<int, int>& counts, int classes)
 }
 
 // The bounds are passed by chance about once in 10^9 runs.
-TEST(Fuellen, BoardsAreRandomUnderAnyClock)
+TEST(Filling, BoardsAreRandomUnderAnyClock)
 {
     std::uint64_t calls = 0;
     const std::pair<const char*, std::function<std::uint64_t()>> clocks[] = {
@@ -188,7 +188,7 @@ TEST(Fuellen, BoardsAreRandomUnderAnyClock)
     }
 }
 
-TEST(Fuellen, NumbersReachBothEndsOfTheRangeAndNeverOne)
+TEST(Filling, NumbersReachBothEndsOfTheRangeAndNeverOne)
 {
     Zufall chance;
     chance.Saeen(1);

@@ -33,7 +33,7 @@ def new_game(game):
 
 
 def hover_and_move(game):
-    """Points at a stone with a partner above it, and takes both and whoever belongs to them."""
+    """Points at a stone with a partner above it, and takes the group of both."""
     game.point(MARGIN)
     plain, points = game.look(*BOARD), game.look(*POINTS)
     stones = until(game.snapshot, "the snapshot")
