@@ -76,7 +76,7 @@ std::string NameOf(const Control* control)
     return control == nullptr ? "-" : control->FullName();
 }
 
-// What may change and can be seen or used, with what a window has beside its properties.
+// What may change and can be seen or used: properties, and what a window has beside them.
 std::vector<Value> AllValuesOf(PropertyOwner& owner)
 {
     std::vector<Value> values = ValuesOf(owner);

@@ -1,5 +1,5 @@
 // Changes.h: what a player now sees or can use differently than before, worked out from what a
-// binding hears: what is not told to bindings is seen by nobody.
+// binding hears: nobody sees a change that bindings are not told of.
 #pragma once
 
 #include <map>
@@ -26,7 +26,7 @@ public:
         heard_[std::string(window.Name())].insert(what);
     }
     void Heard(const Control& control, Change what);
-    // Another line has told the property at this path already.
+    // Another line has already told the property at this path.
     void Told(std::string_view path);
     // The script has set up the board: each cell gets the picture of its value, as in a game.
     void BoardSet();

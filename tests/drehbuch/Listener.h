@@ -11,8 +11,8 @@ namespace malvone::script {
 class Listener
 {
 public:
-    // What has happened since the last time, and each name on the topmost window that is another
-    // one, with its tool tip. Of the cells only the one that the arrow keys have led to is told.
+    // What has happened since the last time, and each name on the topmost window that has
+    // changed, with its tool tip. Of the cells only the one that the arrow keys are at is told.
     std::string Lines();
 
 private:

@@ -1,4 +1,4 @@
-// Objects.h: the windows and controls behind the names that a script writes.
+// Objects.h: the windows and controls that a script names.
 #pragma once
 
 #include <optional>
@@ -21,8 +21,8 @@ struct Object
     malvone::Control* Control() const;
     // What the name stands for: a control or the window itself.
     PropertyOwner* Owner() const;
-    // Why nobody can be found behind the name; empty where somebody is, or where the window is not
-    // loaded so that only its own name can be judged.
+    // What is wrong with the name; empty where it stands for something, or where the window is not
+    // loaded, so that only its own name can be judged.
     std::string_view Fault() const;
 };
 

@@ -16,7 +16,7 @@
 
 namespace malvone::script {
 
-// What the program's own line says of the machine that it plays on.
+// What the command line says of the machine that the game plays on.
 struct Options
 {
     std::filesystem::path Data;     // stands for the root of the drive
@@ -99,7 +99,7 @@ private:
         }
     }
     void Tell(std::string_view what, const Window& window) { Tell(what, window.Name()); }
-    // The next command; comments and empty lines are none. False: the input is over.
+    // The next line that is neither a comment nor empty. False: the input is over.
     bool ReadCommand(std::string& line);
 };
 

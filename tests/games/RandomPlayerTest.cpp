@@ -1,5 +1,5 @@
-// RandomPlayerTest.cpp: a player who does at any time what somebody has done in a played game, for
-// many levels, while what must always hold is looked at before each of his doings.
+// RandomPlayerTest.cpp: a player who picks commands of the played games at random, for many levels,
+// while what must always hold is checked before each command.
 //   MALVONE_SEED=22 MALVONE_LEVELS=1000000 drehbuch_tests --gtest_filter='RandomPlayer*'
 #include <gtest/gtest.h>
 
@@ -46,7 +46,7 @@ std::map<std::string, std::vector<std::string>> PlayedCommands()
     return commands;
 }
 
-// The player is the program's input: each line that it waits for is one of his doings.
+// The player is the program's input, line by line.
 class Player final : public std::streambuf
 {
 public:

@@ -1,5 +1,4 @@
-// LayerTest.cpp: plays the layer by the script beside it, and looks at what cannot be told in
-// lines.
+// LayerTest.cpp: plays the layer by the script beside it, and checks what no transcript can show.
 #include <gtest/gtest.h>
 
 #include <map>
@@ -46,7 +45,7 @@ private:
     bool refused_ = false;
     std::map<std::string, std::string, std::less<>> hooks_;
 
-    // Tells what has happened, and then does what has been hung in there, once.
+    // Reports what has happened, and then runs the hook for it, once.
     bool Note(const std::string& what)
     {
         if (quiet_) {
@@ -70,7 +69,7 @@ private:
             Script::WindowShown(window, mode);
         }
     }
-    // Everything begins anew, and the probe is shown without a word.
+    // Everything begins anew; the probe is shown, and nothing is reported.
     void BeginAnew(bool shown)
     {
         quiet_ = true;
@@ -165,8 +164,8 @@ std::string Witness::Do(std::string_view line)
 }
 
 // The script is its own transcript: commands stand behind what waits, and what follows is the
-// answer. The transcript of this run lies in the build folder: who has changed the layer looks at
-// it and takes it over.
+// answer. The transcript of this run lies in the build folder, to be read and copied over the
+// script after an intended change.
 TEST(Layer, PlaysAsItsScriptSays)
 {
     const std::string script = *Contents(MALVONE_SOURCE_DIR "/tests/layer/layer.drehbuch");

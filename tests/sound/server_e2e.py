@@ -64,7 +64,7 @@ def the_waves_are_what_their_script_makes():
 
 
 def every_wave_is_played_whole():
-    """The first before the server has been reached."""
+    """The first one is asked for before the server has been reached."""
     names = ["TADA", "WHOOSH", "CHIMES", "FRAGE", "FEHLER", "BLIP", "DING"]
     with Server() as server, Player(server) as player:
         for number, name in enumerate(names):
@@ -125,7 +125,7 @@ def without_the_library_nothing_sounds():
             with Player(server, library) as player:
                 player.plays("TADA")
                 expect(player.devices() == 0, "no device")
-        # What has been heard after it was not there before.
+        # DING alone: nothing has sounded before it.
         with Player(server) as player:
             player.plays("DING")
             server.hears("DING")

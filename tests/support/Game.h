@@ -86,7 +86,8 @@ public:
         Play(lines);
         return std::exchange(out_, std::ostringstream()).str();
     }
-    // The same of something that the test does itself; the lines are for the windows that it opens.
+    // The same for something that the test does itself; the lines are for the windows that it
+    // opens.
     template<class Doing>
     std::string operator()(const std::string& lines, Doing doing)
     {

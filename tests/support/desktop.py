@@ -49,8 +49,8 @@ class Desktop:
         self.folder, self.size, self.manager = folder or self.passing, size, None
         read, write = os.pipe()
         self.processes = [start(
-            # Without -noreset the server starts anew, and drops who is just coming, whenever its
-            # last client leaves.
+            # Without -noreset the server starts anew whenever its last client leaves, and drops
+            # those that are just connecting.
             ["Xvfb", "-displayfd", write, "-screen", "0", f"{size[0]}x{size[1]}x24", "-nolisten",
              "tcp", "-noreset"], pass_fds=[write], stderr=subprocess.DEVNULL)]
         try:
@@ -245,7 +245,7 @@ class Game:
         for first in [*range(0, 140, 10)] * 40:
             steps = []
             for x, y in spots[first:first + 10]:
-                # A click of xdotool's would rest for a while.
+                # xdotool's own click would pause for a while.
                 steps += ["mousemove", x, y, "mousedown", 1, "mouseup", 1]
             self.desktop.do(*steps)
             if self.open_messages() or first == 130 and over():

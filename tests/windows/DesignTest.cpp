@@ -75,7 +75,7 @@ TEST(Design, AllWindowsStandAsInTheFile)
         now += name + row + "\n";
     }
     App.Finish();
-    // Who has changed a window looks at this one and takes it over.
+    // After an intended change, read this file and copy it over the kept one.
     WriteFile(MALVONE_BINARY_DIR "/design.txt", now);
     EXPECT_EQ(Contents(MALVONE_SOURCE_DIR "/tests/windows/design.txt"), now);
 }
