@@ -78,8 +78,8 @@ constexpr const char* kUnknown = "? unknown property";
 struct Use
 {
     std::optional<std::string_view> New = {};
-    std::int32_t Index = 0;  // of an item
-    std::string Told = {};   // the value, or what is wrong with the new one
+    std::optional<std::int32_t> Index = {};  // of an item
+    std::string Told = {};                   // the value, or what is wrong with the new one
     std::optional<Change> Kind = {};
 };
 
@@ -135,27 +135,20 @@ bool UseMember(PropertyOwner& owner, Use& use)
     return true;
 }
 
-bool UseListCount(PropertyOwner& owner, Use& use)
-{
-    const auto* const list = dynamic_cast<const ListBox*>(&owner);
-    if (list != nullptr) {
-        use.Told = use.New ? kNotSettable : Written(list->ListCount());
-    }
-    return list != nullptr;
-}
-
-bool UseListItem(PropertyOwner& owner, Use& use)
+bool UseList(PropertyOwner& owner, Use& use)
 {
     auto* const list = dynamic_cast<ListBox*>(&owner);
     if (list == nullptr) {
         return false;
     }
     if (!use.New) {
-        use.Told = Written(list->List(use.Index));
-    } else if (use.Index < 0 || use.Index >= list->ListCount()) {
+        use.Told = use.Index ? Written(list->List(*use.Index)) : Written(list->ListCount());
+    } else if (!use.Index) {
+        use.Told = kNotSettable;
+    } else if (*use.Index < 0 || *use.Index >= list->ListCount()) {
         use.Told = kNoValue;
     } else {
-        list->SetList(use.Index, Unmasked(*use.New));
+        list->SetList(*use.Index, Unmasked(*use.New));
     }
     return true;
 }
@@ -214,8 +207,8 @@ constexpr Property kProperties[] = {
     {"BackColor", &UseMember<&TextBox::BackColor>},
     {"Font", &UseMember<&TextBox::TextFont, kFixed>},
 
-    {"ListCount", &UseListCount},
-    {"List", &UseListItem, true},
+    {"ListCount", &UseList},
+    {"List", &UseList, true},
 
     {"FillColor", &UseMember<&Shape::FillColor>},
     {"X1", &UseMember<&Line::X1>},
@@ -242,7 +235,7 @@ std::optional<Answer> Apply(std::string_view path, Use use)
     if (use.New && found->Target.Window() == nullptr) {
         return "? the window is not loaded";
     }
-    use.Index = found->Index.value_or(0);
+    use.Index = found->Index;
     for (const Property& property : kProperties) {
         if (property.Name != found->Property || property.Indexed != found->Index.has_value()) {
             continue;

@@ -127,20 +127,6 @@ private:
     }
 };
 
-// Five names, then five points that never rise.
-void LookAtTheList(const std::string& list)
-{
-    std::istringstream file(list);
-    std::vector<std::string> lines;
-    for (std::string line; std::getline(file, line); lines.push_back(line)) {
-        EXPECT_TRUE(line.ends_with('\r'));
-    }
-    ASSERT_EQ(lines.size(), 10U);
-    for (std::size_t place = 5; place < 9; ++place) {
-        EXPECT_GE(std::stol(lines[place]), std::stol(lines[place + 1]));
-    }
-}
-
 TEST(RandomPlayer, ManyLevelsKeepTheRules)
 {
     const Stage<> stage;
@@ -154,7 +140,6 @@ TEST(RandomPlayer, ManyLevelsKeepTheRules)
         in.clear();
         out.str("");
         script::Script(in, out).Play(platform);
-        LookAtTheList(*Contents(stage.BestList));
     }
     EXPECT_GT(player.GamesOver, player.MostLevels / 100);
 }

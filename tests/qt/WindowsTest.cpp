@@ -5,6 +5,7 @@
 #include <QMenuBar>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QScreen>
 
 #include "state/Beste.h"
 #include "state/Spielstand.h"
@@ -228,6 +229,23 @@ TEST_F(Windows, AMessageIsSeenWholeEvenAtTheEdgeOfTheScreen)
                       Press(Form(*frmMsgJa), Qt::Key_Escape);
                   });
     }
+}
+
+TEST_F(Windows, AFrameFollowsTheArrowKeysUntilThePointerMoves)
+{
+    FormWidget& form = Form(*frmTessel);
+    const auto look = [&form](const Visual& cell) {
+        return Painted(form).copy(OnScreen(form.PlaceOnForm(cell), 1));
+    };
+    const QImage plain = look(frmTessel->imgFeld(20));
+    constexpr bool heldDown = true;
+    Press(form, Qt::Key_Right);
+    Press(form, Qt::Key_Right, {}, {}, heldDown);
+    EXPECT_EQ(frmTessel->Highlighted(), &frmTessel->imgFeld(20));
+    EXPECT_EQ(look(frmTessel->imgFeld(10)), plain);
+    EXPECT_NE(look(frmTessel->imgFeld(20)), plain);
+    PointAt(frmTessel->imgFeld(1));
+    EXPECT_EQ(look(frmTessel->imgFeld(20)), plain);
 }
 
 TEST_F(Windows, TwoWishesToCloseTheGameAskOnce)

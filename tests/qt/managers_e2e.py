@@ -5,7 +5,7 @@ import os
 import sys
 
 sys.path.append(os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", "support"))
-from desktop import BOARD, LEAVE, MARGIN, NEW_GAME, NO, YES, Desktop, Game
+from desktop import BOARD, MARGIN, NEW_GAME, Desktop, Game
 from processes import expect, script, until
 
 SCREEN = (1920, 1200)
@@ -17,9 +17,9 @@ TITLE = (200, 25)
 def backdrop_in_sight(desktop):
     """Its picture is a bright grey with an ornament; at the bottom a panel may lie over it."""
     spots = [(4, 4), (SCREEN[0] - 4, 4), (4, SCREEN[1] - 60), (SCREEN[0] - 4, SCREEN[1] - 60)]
-    ornament = set(desktop.picture(4, 300, 200, 200))
-    return len(ornament) > 4 and all(150 < min(pixel) and max(pixel) - min(pixel) < 8
-               for pixel in (desktop.picture(*spot, 1, 1) for spot in spots) if pixel)
+    corners = [desktop.picture(*spot, 1, 1) for spot in spots]
+    return len(set(desktop.picture(4, 300, 200, 200))) > 4 and all(
+        150 < min(pixel) and max(pixel) - min(pixel) < 8 for pixel in corners if pixel)
 
 
 def play(desktop, game):
@@ -37,29 +37,23 @@ def front_is_kept(name, desktop, game):
         desktop.do("windowminimize", game.main)
         desktop.do("mousemove", SCREEN[0] - 4, SCREEN[1] // 2, "click", 1)
         until(lambda: game.look(*BOARD) == board, "the game that was minimised")
-    game.click(LEAVE)
-    message = game.message()
-    both = game.look(*BOARD)
-    desktop.do("mousemove", SCREEN[0] - 4, SCREEN[1] // 2, "click", 1)
-    until(lambda: game.look(*BOARD) == both, "game and question before the backdrop")
-    game.click(NO, message)
-    game.no_message()
+    with game.question():
+        both = game.look(*BOARD)
+        desktop.do("mousemove", SCREEN[0] - 4, SCREEN[1] // 2, "click", 1)
+        until(lambda: game.look(*BOARD) == both, "game and question before the backdrop")
 
 
 def message_is_torn_away(desktop, game):
-    game.click(LEAVE)
-    message = game.message()
-    until(lambda: "SKIP_TASKBAR" in desktop.run("xprop", "-id", message, "_NET_WM_STATE"),
-          "no task bar entry for a message")
-    until(lambda: "Icon (" in desktop.run("xprop", "-id", message, "_NET_WM_ICON"), "its icon")
-    left, top = desktop.place(message)[:2]
-    x, y = game.spot(TITLE, message)
-    # The first movement leaves the title line for the panel.
-    desktop.do("mousemove", x, y, "mousedown", 1, "mousemove", x + 40, y + 90, "mousemove", x + 60,
-               y + 120, "mouseup", 1)
-    until(lambda: desktop.place(message)[:2] == [left + 60, top + 120], "the message to follow")
-    game.click(NO, message)
-    game.no_message()
+    with game.question() as message:
+        until(lambda: "SKIP_TASKBAR" in desktop.run("xprop", "-id", message, "_NET_WM_STATE"),
+              "no task bar entry for a message")
+        until(lambda: "Icon (" in desktop.run("xprop", "-id", message, "_NET_WM_ICON"), "its icon")
+        left, top = desktop.place(message)[:2]
+        x, y = game.spot(TITLE, message)
+        # The first movement leaves the title line for the panel.
+        desktop.do("mousemove", x, y, "mousedown", 1, "mousemove", x + 40, y + 90, "mousemove",
+                   x + 60, y + 120, "mouseup", 1)
+        until(lambda: desktop.place(message)[:2] == [left + 60, top + 120], "the message to follow")
 
 
 def design_grows(desktop, game):
@@ -67,17 +61,8 @@ def design_grows(desktop, game):
     desktop.do("windowmove", game.main, 100, 60, "windowsize", game.main, 1510, 926 + menu)
     until(lambda: desktop.place(game.main)[2:] == [1510, 926 + menu], "the larger window")
     game.scale = 2
-    game.click(LEAVE)
-    message = game.message()
-    expect(desktop.place(message)[2] == 784, "the message is as large as the window")
-    game.click(NO, message)
-    game.no_message()
-
-
-def leave(game):
-    game.click(LEAVE)
-    game.click(YES, game.message())
-    game.end()
+    with game.question() as message:
+        expect(desktop.place(message)[2] == 784, "the message is as large as the window")
 
 
 def main():
@@ -88,7 +73,7 @@ def main():
             front_is_kept(name, desktop, game)
             message_is_torn_away(desktop, game)
             design_grows(desktop, game)
-            leave(game)
+            game.leave()
         print(name, "ok")
     for size, wished, scale in (((640, 480), 1, 26 / 32), ((1920, 1200), 0.5, 1)):
         with Desktop(size=size, QT_SCALE_FACTOR=str(wished)) as desktop, \
@@ -97,7 +82,7 @@ def main():
             left, top, width, height = desktop.place(game.main)
             expect(0 <= left and left + width <= size[0] and 0 <= top and top + height <= size[1],
                    f"all of the window on {size}")
-            leave(game)
+            game.leave()
         print(size, wished, "ok")
 
 

@@ -7,7 +7,7 @@ import sys
 
 sys.path.append(os.path.join(os.path.dirname(os.path.abspath(__file__)), os.pardir, "support"))
 from desktop import (ARROW, BOARD, BUILD, LEAVE, LEVEL, MAIN, MARGIN, MENU, NEW_GAME, NO, POINTS,
-                     YES, Desktop, Game, cell)
+                     Desktop, Game, cell)
 from processes import end, expect, script, sleeps, until
 
 MENU_BAR = (30, -10)
@@ -120,9 +120,7 @@ def main():
                          *more):
                 print(f"scale {scale}: {step.__name__}", flush=True)
                 step(game)
-            game.key("alt+F4")
-            game.click(YES, game.message())
-            game.end()
+            game.leave()
 
 
 if __name__ == "__main__":

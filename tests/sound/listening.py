@@ -44,15 +44,6 @@ def samples(path):
 SOUNDS = {name: samples(path) for name, path in FILES.items()}
 
 
-def common(a, b):
-    """How many bytes two texts have in common at their beginning."""
-    low, high = 0, min(len(a), len(b))
-    while low < high:
-        middle = (low + high + 1) // 2
-        low, high = (middle, high) if a[:middle] == b[:middle] else (low, middle - 1)
-    return low
-
-
 def recognised(recording):
     """What a recording holds, in order: pairs of a name and whether it was heard to its end."""
     found, at, search = [], 0, 0
@@ -64,7 +55,7 @@ def recognised(recording):
         if name is None:
             return found
         data = SOUNDS[name]
-        length = common(recording[begin:begin + len(data)], data)
+        length = len(os.path.commonprefix([recording[begin:begin + len(data)], data]))
         found.append((name, length == len(data)))
         at = begin + length
         search = at if length == len(data) else max(begin + 2, at - OVERLAP)

@@ -15,6 +15,7 @@ pictures. All of it ends with the script, however that ends.
 HOME, the runtime folder and the data lie in a passing folder, or in one that is handed in and stays.
 MALVONE_BUILD names the folder of the built game. Needs xvfb, xdotool, x11-utils, imagemagick.
 """
+import contextlib
 import os
 import re
 import shutil
@@ -63,10 +64,8 @@ class Desktop:
             self.data = os.path.join(self.folder, "daten")
             self.env.update(DISPLAY=":" + number, HOME=self.folder, XDG_RUNTIME_DIR=self.folder,
                             XDG_DATA_HOME=self.data)
-            for name, value in environment.items():
-                self.env.pop(name, None)
-                if value is not None:
-                    self.env[name] = value
+            self.env.update(environment)
+            self.env = {name: value for name, value in self.env.items() if value is not None}
             os.chmod(self.folder, 0o700)
             if manager:
                 self.manage(manager)
@@ -264,6 +263,20 @@ class Game:
         """Takes the group of a cell; the pointer comes from the margin, as the marks need it."""
         self.point(MARGIN)
         self.click(cell(number))
+
+    @contextlib.contextmanager
+    def question(self):
+        """The question whether to leave; in the end the answer is no."""
+        self.click(LEAVE)
+        message = self.message()
+        yield message
+        self.click(NO, message)
+        self.no_message()
+
+    def leave(self):
+        self.click(LEAVE)
+        self.click(YES, self.message())
+        self.end()
 
     def end(self):
         status = self.process.wait(30)
