@@ -40,13 +40,14 @@ Decoded Decode(std::string_view text)
         std::uint8_t Lead;
         char32_t Smallest;
     };
-    constexpr std::array<Form, 4> kForms = {
-        {{0x80, 0x00, 0x0}, {0xE0, 0xC0, 0x80}, {0xF0, 0xE0, 0x800}, {0xF8, 0xF0, 0x10000}}};
+    constexpr Form kForms[] = {
+        {0x80, 0x00, 0x0}, {0xE0, 0xC0, 0x80}, {0xF0, 0xE0, 0x800}, {0xF8, 0xF0, 0x10000}};
     const std::uint8_t lead = Byte(text[0]);
-    const auto* const form = std::find_if(
-        kForms.begin(), kForms.end(), [lead](const Form& f) { return (lead & f.Mask) == f.Lead; });
-    const auto extra = static_cast<std::size_t>(form - kForms.begin());
-    if (form == kForms.end() || text.size() <= extra) {
+    const Form* const form =
+        std::find_if(std::begin(kForms), std::end(kForms),
+                     [lead](const Form& known) { return (lead & known.Mask) == known.Lead; });
+    const auto extra = static_cast<std::size_t>(form - std::begin(kForms));
+    if (form == std::end(kForms) || text.size() <= extra) {
         return {kNoCharacter, 1};
     }
     char32_t character = lead & static_cast<std::uint8_t>(~form->Mask);
