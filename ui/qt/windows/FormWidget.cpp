@@ -336,7 +336,7 @@ void FormWidget::moveEvent(QMoveEvent* event)
 }
 
 // By design (waechst-mit): one would expect a larger window to have more ground around the design.
-// It has a larger design. Test: Fenster.TheWholeDesignGrowsAndShrinksWithItsWindowInWholePixels
+// It has a larger design. Test: Windows.TheWholeDesignGrowsAndShrinksWithItsWindowInWholePixels
 void FormWidget::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);

@@ -10,7 +10,7 @@ enum class BackdropManner {
     FullScreen,   // the manager shows other windows beside or above a full-screen one
     ScreenSized,  // a plain window of the screen's size, since nothing else is known to go well
     // By design (kacheln-ohne-hintergrund): one would expect a backdrop everywhere. Where windows
-    // are tiled, it would take room from the game, or hide it. Test: display.qt.verwalter_e2e
+    // are tiled, it would take room from the game, or hide it. Test: display.qt.managers_e2e
     None,
 };
 
