@@ -1,5 +1,5 @@
-// The yardstick for the start: a window behind, as large as the screen, and one in front of the
-// game's size, each painted with one gradient.
+// The yardstick for the start: a window as large as the screen, and one of the game's size in front
+// of it, each painted with one gradient.
 #include <QApplication>
 #include <QPainter>
 #include <QScreen>

@@ -1,5 +1,5 @@
-// core_move.cpp: how long the board takes to answer the pointer: the whole event of a movement and
-// of a click, with a plain flood fill beside them as a yardstick.
+// core_move.cpp: how long the board takes to handle a movement of the pointer or a click, with a
+// plain flood fill as a yardstick.
 #include <benchmark/benchmark.h>
 
 #include <array>
@@ -132,8 +132,7 @@ void PointAtEach(benchmark::State& state)
 }
 BENCHMARK(PointAtEach)->ArgName("colours")->Arg(4)->Arg(2)->Arg(1);
 
-// The worst place for the pointer. Nobody knows which stone of which board takes longest, so the
-// middle of a board of one colour stands for it.
+// The middle of a board of one colour stands for the slowest place, which is unknown.
 void PointAtTheMiddle(benchmark::State& state)
 {
     Start();
@@ -201,7 +200,7 @@ int FloodFill(const Board& board, int start)
     return group;
 }
 
-void FloodFillBesideIt(benchmark::State& state)
+void FloodFillOfAGroup(benchmark::State& state)
 {
     const std::vector<Board>& boards = Boards(state.range(0));
     std::size_t number = 0;
@@ -211,7 +210,7 @@ void FloodFillBesideIt(benchmark::State& state)
         ++number;
     }
 }
-BENCHMARK(FloodFillBesideIt)->ArgName("colours")->Arg(4)->Arg(1);
+BENCHMARK(FloodFillOfAGroup)->ArgName("colours")->Arg(4)->Arg(1);
 
 }  // namespace
 }  // namespace malvone

@@ -1,11 +1,11 @@
 #!/usr/bin/env python3
-"""Measures the start of the game beside bare_windows, on a virtual display with openbox, without and
-with a session bus: time to the first painted frame of the main window, CPU time until then, and the
-memory written to a second later: private, and shared with the X server, where the pixels of windows
-lie. Tells the medians of runs in turn, and ratios to bare_windows.
+"""Measures the start of the game and of bare_windows on a virtual display with openbox, without and
+with a session bus: time to the first painted frame of the main window, CPU time until then, and dirty
+memory a second later, both private and shared with the X server, which holds the windows' pixels.
+Prints medians of interleaved runs, and their ratios to bare_windows.
 
     bench/startup.py build/release                      # 15 runs each
-    bench/startup.py -n 25 build/release OTHER/malvone  # other builds of the game beside it
+    bench/startup.py -n 25 build/release OTHER/malvone  # other builds of the game, too
 
 Nothing else may run on the machine. Needs what ./check needs.
 """
@@ -49,7 +49,7 @@ X.XSetErrorHandler(GONE)    # a window may go while it is looked at
 
 
 class Watch:
-    """Sees which windows come, and which have been drawn on."""
+    """Notes which windows have been drawn on."""
 
     def __init__(self, display):
         self.display = X.XOpenDisplay(display.encode())
@@ -74,7 +74,7 @@ class Watch:
         return name.value or b""
 
     def is_painted(self, window):
-        """More than one colour in a line across it."""
+        """Whether a line across it has more than one colour."""
         line = X.XGetImage(self.display, window, 250, 200, 200, 1, Word(-1).value, Z_PIXMAP)
         colours = {X.XGetPixel(line, x, 0) for x in range(200)} if line else ()
         if line:

@@ -16,8 +16,8 @@
 namespace malvone::qt {
 namespace {
 
-// Runs when Qt is done with the event that wished it: a question that were asked inside it would
-// leave the window closing for Qt, which lets the next wish destroy it.
+// Runs after Qt has handled the event. A question asked inside it would leave the window closing
+// for Qt, which would let the next request destroy it.
 void Close(const FormWidget& form)
 {
     if (form.Model() != nullptr) {
@@ -52,7 +52,7 @@ QtBinding::~QtBinding()
         form->Detach();
         delete form;
     }
-    // What was to be deleted later, when no event loop runs any more.
+    // No event loop runs any more to delete what was to be deleted later.
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
@@ -83,7 +83,7 @@ FormWidget& QtBinding::Make(Window& window, ShowMode mode)
     QObject::connect(form, &FormWidget::Painted, [this, form] { Painted(*form); });
     QObject::connect(form, &FormWidget::Activated, [this, form] { Activated(*form); });
     QObject::connect(
-        form, &FormWidget::CloseWished, form, [form] { Close(*form); }, Qt::QueuedConnection);
+        form, &FormWidget::CloseRequested, form, [form] { Close(*form); }, Qt::QueuedConnection);
     return *form;
 }
 
@@ -101,12 +101,12 @@ double QtBinding::Factor() const
     return main != nullptr ? main->DesignScale().Factor() : 1;
 }
 
-// A window of the game that is minimised alone would leave the backdrop, and no way back: it has no
-// such button, and not every desktop shows what is minimised. Where the desktop is shown, the
-// windows leave and come back together; some managers forget the backdrop, which is in no task bar.
+// If only the game were minimised, the backdrop would stay, and there might be no way back: not
+// every desktop shows minimised windows. When the desktop is shown, the windows go and come back
+// together; some managers forget the backdrop, which is in no task bar.
 void QtBinding::FollowManager(FormWidget& form)
 {
-    constexpr int kManagerMs = 100;  // it has more windows to minimise or restore, and to tell of
+    constexpr int kManagerMs = 100;  // the manager may not be through with all windows yet
     QTimer::singleShot(kManagerMs, &form, [this, &form] {
         if (backdrop_ == nullptr || !backdrop_->Model().Shown() || !form.isVisible()) {
             return;
@@ -133,7 +133,7 @@ void QtBinding::Rescaled(const FormWidget& form)
     }
 }
 
-// What can wait until the player sees the window. The main window's icon is that of all windows
+// Work that can wait until the player sees the window. The main window's icon serves all windows
 // without one of their own.
 void QtBinding::Painted(FormWidget& form)
 {
@@ -161,8 +161,9 @@ void QtBinding::ScreensChanged()
     }
 }
 
-// Windows are made when they are first shown: most of what is loaded never is. A window with a menu
-// is made at once, since its size counts when it is placed; so does that of a message.
+// Widgets are made when their windows are first shown: most loaded windows never are. The main
+// window's widget is made at once, since the window is placed by its size; for the others the size
+// is enough.
 void QtBinding::WindowLoaded(Window& window)
 {
     if (window.Role == WindowRole::Main) {
@@ -174,8 +175,8 @@ void QtBinding::WindowLoaded(Window& window)
     }
 }
 
-// What a window lies over: a modal one the window that was modal before it, else the main window.
-// On Wayland, where nobody but the compositor stacks windows, the others belong to the backdrop.
+// The window that another one stays above: for a modal window the one that was modal before it, or
+// the main window; on Wayland, where only the compositor stacks windows, the backdrop for the rest.
 QWindow* QtBinding::ParentOf(const Window& window, ShowMode mode) const
 {
     QWindow* parent = WindowsCanBePlaced() ? nullptr : backdrop_.get();
@@ -201,7 +202,7 @@ void QtBinding::WindowShown(Window& window, ShowMode mode)
         form = &Make(window, mode);
     }
     if (mode == ShowMode::Modal) {
-        // The latest modal window lies on top, also where it was made long ago.
+        // The latest modal window lies on top, even if it was made long ago.
         std::rotate(std::find(forms_.begin(), forms_.end(), form),
                     std::find(forms_.begin(), forms_.end(), form) + 1, forms_.end());
         while (QWidget* const popup = QApplication::activePopupWidget()) {
@@ -219,7 +220,7 @@ void QtBinding::ShowBackdrop(Window& window)
         QObject::connect(backdrop_.get(), &BackdropWindow::Activated,
                          [this] { BackdropActivated(); });
         QObject::connect(
-            backdrop_.get(), &BackdropWindow::CloseWished, backdrop_.get(),
+            backdrop_.get(), &BackdropWindow::CloseRequested, backdrop_.get(),
             [this] { CloseMainWindow(); }, Qt::QueuedConnection);
     }
     backdrop_->Present();
@@ -320,7 +321,7 @@ void QtBinding::Ended()
     QCoreApplication::exit(0);
 }
 
-// A modal window gives the front to nobody.
+// A modal window stays in front.
 // By design (aktiv-nur-beim-zeigen): one would expect Form_Activate for every window that comes
 // back to the front. Only the backdrop gets it: the window of the best players would put its list's
 // names back over one that is being typed. Test: NameBoxes.ANameBeingTypedSurvivesAnotherWindow
@@ -332,8 +333,8 @@ void QtBinding::Activated(const FormWidget& form)
     }
 }
 
-// A backdrop that has come to the front gives it back: without a modal window the game does that
-// itself. But it may have come there because all windows before it are leaving.
+// A backdrop that comes to the front gives it back; without a modal window the game itself does so.
+// But it may be in front because all other windows are leaving.
 void QtBinding::BackdropActivated()
 {
     FormWidget* const main = MainForm();
@@ -346,8 +347,8 @@ void QtBinding::BackdropActivated()
     }
 }
 
-// Window managers put a backdrop that has been clicked above all that is not active itself, so each
-// window of the game becomes active in its turn, the modal one at last.
+// Window managers put a clicked backdrop above all inactive windows, so each window of the game is
+// activated in turn, the modal one last.
 void QtBinding::BringToFront(const Window* only)
 {
     for (FormWidget* const form : forms_) {
@@ -371,7 +372,7 @@ void QtBinding::ComeForward()
     }
 }
 
-// The backdrop goes with the game: whoever closes it closes the game.
+// Closing the backdrop closes the game.
 void QtBinding::CloseMainWindow()
 {
     if (const FormWidget* const main = MainForm()) {

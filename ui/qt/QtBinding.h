@@ -36,10 +36,10 @@ public:
     void DragWindow(Window& window) override;
     void Ended() override;
 
-    // The player wishes to see the game: all of it comes to the front, minimised windows too.
+    // Brings all of the game to the front, minimised windows too, because the player asked for it.
     void ComeForward();
 
-    // What shows a window on the screen; null while nothing does, and for the backdrop.
+    // The widget of a window; null while it has none, and for the backdrop.
     FormWidget* FormOf(const Window& window) const;
 
 private:
@@ -52,11 +52,11 @@ private:
     PictureStore pictures_;
     Timers timers_;
     ScreenReader reader_;
-    // In the order in which they were made: the windows that are shown first lie lowest.
+    // From the lowest to the topmost.
     std::vector<FormWidget*> forms_;
     std::vector<ModalLoop> loops_;
     std::unique_ptr<BackdropWindow> backdrop_;
-    QObject screens_;  // receives what the screens tell, no longer than this lives
+    QObject screens_;  // ends the connections to the screens with the binding
 
     FormWidget* MainForm() const;
     // How large windows are drawn.

@@ -1,4 +1,4 @@
-// Timers.cpp: one timer of Qt's for each running timer of the model.
+// Timers.cpp: one QTimer for each running timer of the model.
 #include "ui/qt/Timers.h"
 
 #include "ui/layer/App.h"

@@ -12,9 +12,9 @@ namespace malvone::qt {
 class Timers
 {
 public:
-    // A timer has been switched on or off, or has got another interval.
+    // Call when a timer has been switched on or off, or has a new interval.
     void Follow(Timer& timer);
-    // A window goes away with its timers.
+    // Call before a window is destroyed.
     void Forget(const Window& window);
     void StopAll() { running_.clear(); }
 

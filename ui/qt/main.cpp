@@ -20,7 +20,7 @@
 namespace malvone::qt {
 namespace {
 
-// Where the scale is below 1, Qt starts again at that.
+// Qt paints wrongly on a scale below 1, so it is started again with a larger one.
 void StartQt(std::optional<QApplication>& application, int& argc, char** argv)
 {
     PreferX11();
@@ -68,7 +68,7 @@ int Run(int argc, char** argv)
         return 0;
     }
     Sound sound;
-    sound.Prepare();  // beside Qt's own start
+    sound.Prepare();  // while Qt starts
     std::optional<QApplication> application;
     StartQt(application, argc, argv);
     const int status = Play(root, single, sound);
@@ -81,6 +81,6 @@ int Run(int argc, char** argv)
 
 int main(int argc, char** argv)
 {
-    std::signal(SIGXFSZ, SIG_IGN);  // what is too long for the player's limit fails and is told
+    std::signal(SIGXFSZ, SIG_IGN);  // writing past a limit fails with an error instead
     return malvone::qt::Run(argc, argv);
 }

@@ -1,4 +1,4 @@
-// Mailbox.cpp: the letter box between the game and the thread that plays.
+// Mailbox.cpp: carries messages between the game and the playing thread.
 #include "ui/sound/Mailbox.h"
 
 #include <utility>

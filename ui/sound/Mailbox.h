@@ -1,5 +1,5 @@
-// Mailbox.h: the letter box between the game and the thread that plays: neither side ever waits for
-// the other while it holds the lock.
+// Mailbox.h: carries messages between the game and the playing thread. Neither waits for the other
+// while it holds the lock.
 #pragma once
 
 #include <chrono>
@@ -18,7 +18,7 @@ public:
     struct Mail
     {
         bool End = false;
-        std::optional<std::string> Path;  // the last one thrown in since the box was emptied
+        std::optional<std::string> Path;  // the latest since the box was emptied
     };
 
     // For the game.
@@ -27,8 +27,8 @@ public:
     std::optional<std::int32_t> AwaitAnswer(std::chrono::milliseconds atMost);
     bool AwaitThreadEnd(std::chrono::milliseconds atMost);
 
-    // For the thread. The waker is called from the game's side when post arrives; an empty one
-    // takes it back: after that no call of it runs or begins.
+    // For the thread. The waker is called on the game's side when mail arrives. After an empty one
+    // has been set, no call of the old one is running or will run.
     void SetWaker(std::function<void()> waker);
     Mail Take();
     void Answer(std::int32_t devices);
@@ -40,7 +40,7 @@ private:
     std::mutex mutex_;
     std::condition_variable news_;
     Mail mail_;
-    bool woken_ = false;  // One waking per emptying is enough.
+    bool woken_ = false;  // since the box was emptied
     std::function<void()> waker_;
     std::optional<std::int32_t> devices_;
     bool threadEnded_ = false;

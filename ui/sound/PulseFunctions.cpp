@@ -1,4 +1,4 @@
-// PulseFunctions.cpp: looks the functions of libpulse up.
+// PulseFunctions.cpp: looks up the functions of libpulse.
 #include "ui/sound/PulseFunctions.h"
 
 #include <dlfcn.h>

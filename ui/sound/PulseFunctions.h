@@ -1,5 +1,5 @@
-// PulseFunctions.h: the functions of libpulse that the game calls, looked up at run time: the
-// library is never linked, so the program starts without it, and as fast as if there were none.
+// PulseFunctions.h: the functions of libpulse that the game calls. They are looked up at run time,
+// so the program starts without the library, and no slower with it.
 #pragma once
 
 #include <pulse/pulseaudio.h>
@@ -40,7 +40,7 @@ struct PulseFunctions
     MALVONE_PULSE_FUNCTIONS(MALVONE_POINTER)
 #undef MALVONE_POINTER
 
-    // False where the library or one of the functions is missing. A loaded library stays loaded.
+    // False if the library or one of the functions is missing. A loaded library stays loaded.
     bool Load(const std::string& library);
 };
 

@@ -1,6 +1,5 @@
-// PulsePlayer.cpp: the player on PulseAudio: after every waking it looks where connection and
-// stream stand and takes the next step. Its states are those that libpulse keeps; callbacks only
-// note what they are told.
+// PulsePlayer.cpp: whenever it wakes, looks at the states that libpulse keeps of connection and
+// stream, and takes the next step. Callbacks only note what they are told.
 #include "ui/sound/PulsePlayer.h"
 
 #include <algorithm>
@@ -11,9 +10,9 @@ namespace malvone {
 namespace {
 
 constexpr std::chrono::milliseconds kAnswerWithin{300};
-constexpr std::int64_t kRefillMs = 20;   // how often a sounding wave is asked for more, at most
-constexpr std::int64_t kStockMs = 2000;  // how much of a wave the server holds
-constexpr std::string_view kNoDevice = "auto_null";  // what stands in where hardware is missing
+constexpr std::int64_t kRefillMs = 20;               // the server asks for more at most this often
+constexpr std::int64_t kStockMs = 2000;              // how much of a wave the server buffers
+constexpr std::string_view kNoDevice = "auto_null";  // stands in for missing hardware
 
 std::uint32_t BytesFor(const Wave& wave, std::int64_t ms)
 {
@@ -63,7 +62,7 @@ void PulsePlayer::Begin(const std::string& path)
 
 bool PulsePlayer::Sleep()
 {
-    int duration = -1;  // microseconds; until something happens
+    int duration = -1;  // microseconds; −1 is for ever
     if (deadline_) {
         const auto rest = std::chrono::ceil<std::chrono::microseconds>(*deadline_ - Clock::now());
         duration = static_cast<int>(std::max<std::int64_t>(rest.count(), 0));
@@ -92,7 +91,7 @@ void PulsePlayer::Step()
 
 void PulsePlayer::DemandAnswer()
 {
-    // A second demand does not give the server more time for the first.
+    // A second request does not give the server more time for the first.
     if (!deadline_) {
         deadline_ = Clock::now() + kAnswerWithin;
     }
@@ -152,7 +151,7 @@ void PulsePlayer::TendStream()
     if (stream_ != nullptr) {
         const pa_stream_state_t state = pulse_.pa_stream_get_state(stream_);
         if (state == PA_STREAM_CREATING) {
-            return;  // It cannot even be taken back before the server has answered.
+            return;  // it cannot even be cancelled before the server has answered
         }
         deadline_.reset();
         if (state == PA_STREAM_READY && !drained_ && !waiting_) {
@@ -175,8 +174,8 @@ void PulsePlayer::MakeStream()
 
     const pa_sample_spec format{sounding_.Bits == 8 ? PA_SAMPLE_U8 : PA_SAMPLE_S16LE,
                                 sounding_.Rate, sounding_.Channels};
-    // With early requests the size of a request is the delay of the device: a wave is heard soon
-    // although the server holds much of it.
+    // With early requests the delay is the size of a request, so a wave is heard soon although the
+    // server buffers much of it.
     const auto any = static_cast<std::uint32_t>(-1);
     const pa_buffer_attr buffer{any, BytesFor(sounding_, kStockMs), any,
                                 BytesFor(sounding_, kRefillMs), any};
@@ -196,7 +195,7 @@ void PulsePlayer::WriteStream()
 {
     const std::size_t room = pulse_.pa_stream_writable_size(stream_);
     if (room == static_cast<std::size_t>(-1)) {
-        return;  // The connection is going down; its state tells it.
+        return;  // the connection is lost, as its state will show
     }
     const std::size_t rest = sounding_.Data.size() - written_;
     const std::size_t amount = std::min(rest, room - room % sounding_.FrameBytes());

@@ -1,6 +1,6 @@
 // PulsePlayer.h: plays waves on a PulseAudio server (or PipeWire in its place), on the thread that
-// calls Run(). A server that does not answer in time is given up, and with it what should have
-// sounded; the next wave tries anew.
+// calls Run(). If the server does not answer in time, the wave is dropped; the next one connects
+// again.
 #pragma once
 
 #include <chrono>
@@ -20,7 +20,7 @@ class PulsePlayer
 public:
     PulsePlayer(Mailbox& mailbox, const PulseFunctions& pulse);
 
-    // Returns when the letter box has been closed. Sleeps whenever there is nothing to do.
+    // Returns when the mailbox has been closed. Sleeps while there is nothing to do.
     void Run();
 
 private:
@@ -52,14 +52,14 @@ private:
     Counting counting_ = Counting::Open;
     std::int32_t deviceCount_ = 0;
 
-    std::optional<Wave> waiting_;  // the wave that sounds next, as soon as that is possible
+    std::optional<Wave> waiting_;  // the wave to play as soon as possible
     pa_stream* stream_ = nullptr;
     Wave sounding_;
     std::size_t written_ = 0;  // bytes of sounding_ that the server has
-    bool draining_ = false;    // All is written and the server will tell when it has sounded.
+    bool draining_ = false;    // all is written; the server will tell when it has been played
     bool drained_ = false;
 
-    std::optional<Clock::time_point> deadline_;  // until when the server owes an answer
+    std::optional<Clock::time_point> deadline_;  // for the answer that the server owes
 };
 
 }  // namespace malvone

@@ -1,4 +1,4 @@
-// Sound.cpp: the game's side of sound: starts the playing thread, hands it post and lets it go.
+// Sound.cpp: the game's side of sound: starts the playing thread, sends it mail and ends it.
 #include "ui/sound/Sound.h"
 
 #include <csignal>
@@ -25,7 +25,7 @@ void RunThread(const std::shared_ptr<Mailbox>& mailbox, const std::string& libra
     mailbox->ThreadEnds();
 }
 
-// Signals are the game's business: a thread that is started meanwhile gets none.
+// Threads started meanwhile receive no signals, which are for the main thread.
 class WithoutSignals
 {
 public:
@@ -64,7 +64,7 @@ void Sound::Prepare()
         thread_ = std::thread(RunThread, mailbox, library_);
         mailbox_ = std::move(mailbox);
     } catch (const std::system_error&) {
-        // A system that has no thread left gets a game without sound.
+        // Without a thread the game has no sound.
     }
 }
 
@@ -93,7 +93,7 @@ void Sound::Finish()
         return;
     }
     mailbox_->Close();
-    // A thread that hangs in the library is left behind; all it touches belongs to it.
+    // A thread that hangs in the library is left behind; it uses only what it owns.
     if (mailbox_->AwaitThreadEnd(kPatience)) {
         thread_.join();
     } else {

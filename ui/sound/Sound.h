@@ -15,7 +15,7 @@ class Mailbox;
 class Sound
 {
 public:
-    // The library that speaks to the sound server; it is loaded beside the start.
+    // The library that talks to the sound server; the playing thread loads it.
     explicit Sound(std::string library = "libpulse.so.0");
     ~Sound();
     Sound(const Sound&) = delete;
@@ -25,22 +25,22 @@ public:
     // Before it, and after Finish(), there is no device and nothing sounds.
     void Prepare();
 
-    // The number of wave output devices. Waits at most 100 ms for the answer; if it is still open
-    // then, a device counts as present, so that sound can be reached in the menu.
+    // The number of wave output devices. Waits at most 100 ms for the answer and then assumes one
+    // device, so that the menu offers sound.
     std::int32_t DeviceCount();
 
-    // Plays the wave file (path in UTF-8) in place of what sounds; returns at once. Nothing happens
-    // where the path is empty or the file is no wave. What cannot sound within some tenths of a
-    // second, since no server answers, never sounds.
+    // Plays a wave file (path in UTF-8) in place of the current one; returns at once. Does nothing
+    // if the path is empty or the file is no wave. If no server answers within some tenths of a
+    // second, the wave is not played.
     void Play(std::string path);
 
-    // For leaving the program: ends what sounds and is never held up by a server.
+    // Call before the program ends: stops the current wave without waiting for a server.
     void Finish();
 
 private:
     const std::string library_;
     std::mutex mutex_;
-    std::shared_ptr<Mailbox> mailbox_;  // shared with the thread, which may outlive this object
+    std::shared_ptr<Mailbox> mailbox_;  // shared with the thread, which may outlive this
     std::thread thread_;
 };
 

@@ -1,5 +1,4 @@
-// Wave.cpp: the wave reader: walks over the chunks of a file and takes the first format and the
-// first data.
+// Wave.cpp: walks over the chunks of a wave file and takes the first format and the first data.
 #include "ui/sound/Wave.h"
 
 #include <algorithm>
@@ -17,7 +16,7 @@ constexpr std::size_t kRiffHead = 12;  // "RIFF", size, "WAVE"
 constexpr std::size_t kChunkHead = 8;  // name, size
 constexpr std::size_t kFormatBytes = 16;
 constexpr std::uint32_t kPcm = 1;
-constexpr std::uint32_t kLowestRate = 1000;  // Hz; what lies outside is a damaged file
+constexpr std::uint32_t kLowestRate = 1000;  // Hz; beyond these the file is damaged
 constexpr std::uint32_t kHighestRate = 192000;
 constexpr std::size_t kLargestFile = std::size_t{16} << 20U;
 
@@ -69,7 +68,7 @@ std::optional<Wave> ReadWave(Bytes bytes)
         } else if (data.empty() && IsNamed(bytes, offset, "data")) {
             data = bytes.subspan(content, length);
         }
-        // A chunk of odd size is followed by one byte that belongs to none.
+        // A chunk of odd size is followed by a padding byte.
         offset = std::min(content + length + length % 2, bytes.size());
     }
     Wave wave;
@@ -86,7 +85,7 @@ std::optional<Wave> ReadWave(Bytes bytes)
 
 std::optional<Wave> LoadWave(const std::string& path)
 {
-    // Opening a pipe would wait for its other end.
+    // Opening a pipe would block.
     std::error_code error;
     const std::filesystem::path file(path);
     if (!std::filesystem::is_regular_file(file, error)) {

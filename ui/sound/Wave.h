@@ -9,7 +9,7 @@
 
 namespace malvone {
 
-// A wave as it is handed to a sound server. Data holds whole frames and is never empty.
+// A wave as a sound server takes it. Data holds whole frames and is never empty.
 struct Wave
 {
     std::uint32_t Rate = 0;  // frames per second
@@ -20,11 +20,10 @@ struct Wave
     std::size_t FrameBytes() const { return std::size_t{Channels} * Bits / 8; }
 };
 
-// Nothing where the bytes are no wave that can sound. A wave whose end is missing keeps what is
-// there.
+// Nothing if the bytes are no wave that can be played. A truncated wave keeps what there is.
 std::optional<Wave> ReadWave(std::span<const std::uint8_t> bytes);
 
-// The same for an ordinary file; what lies behind the first 16 MiB is left out.
+// The same for a regular file, of which at most 16 MiB are read.
 std::optional<Wave> LoadWave(const std::string& path);
 
 }  // namespace malvone

@@ -56,8 +56,8 @@ void ScreenReader::Follow(FormWidget& form, Change what)
     }
 }
 
-// The news is asked for even where nobody listens, so that it is new when somebody does. The
-// question for a listener calls the session bus: it is asked after a window has been shown.
+// The news is taken even if nobody listens, so that a later listener hears no old one. Asking for
+// listeners calls the session bus, so it waits until a window has been shown.
 void ScreenReader::Tell()
 {
     queued_ = false;

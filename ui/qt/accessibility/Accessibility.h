@@ -1,5 +1,5 @@
-// Accessibility.h: carries to screen readers what they are to know of windows that are painted as a
-// whole. What is said stands in Spoken.h.
+// Accessibility.h: tells screen readers about windows that are painted as a whole. Spoken.h has the
+// words.
 #pragma once
 
 #include <QObject>
@@ -16,8 +16,8 @@ class FormWidget;
 
 void InstallAccessibility();
 
-// Collects changes while a handler runs and tells them when the game waits again, in the loop of a
-// message too: a display that is written digit by digit is told once.
+// Collects changes while a handler runs and tells them when the game waits again, in a message's
+// loop too, so that a display written digit by digit is told once.
 class ScreenReader final : public QObject
 {
     Q_OBJECT

@@ -14,7 +14,7 @@
 namespace malvone::qt {
 namespace {
 
-// Null when the widget or its window has gone.
+// Null if the widget or its window is gone.
 Window* ModelOf(const FormWidget* form)
 {
     return form != nullptr ? form->Model() : nullptr;
@@ -97,7 +97,7 @@ QStringList AccessiblePart::actionNames() const
     return isValid() && Pressable() ? QStringList{pressAction()} : QStringList();
 }
 
-// The press may open a message, and the screen reader waits for the end of this call.
+// The press may open a message, and a screen reader waits until this call returns.
 void AccessiblePart::doAction(const QString& name)
 {
     if (isValid() && Pressable() && name == pressAction()) {
@@ -144,7 +144,7 @@ FormWidget* AccessibleForm::Form() const
     return static_cast<FormWidget*>(widget());
 }
 
-// Not before somebody asks: a window can be known to screen readers before its cells are made.
+// Made on demand: screen readers may know a window before its cells exist.
 std::vector<AccessibleForm::Node>& AccessibleForm::Nodes() const
 {
     FormWidget* const form = Form();

@@ -1,4 +1,4 @@
-// AccessibleForm.h: a window and what is spoken of it as a tree for screen readers.
+// AccessibleForm.h: a window and its spoken parts as a tree for screen readers.
 #pragma once
 
 #include <QAccessible>
@@ -12,7 +12,7 @@ namespace malvone::qt {
 
 class FormWidget;
 
-// What has no widget of its own: a leaf of a window's tree.
+// A leaf of a window's tree: a part without a widget of its own.
 class AccessibleLeaf : public QAccessibleInterface
 {
 public:
@@ -31,7 +31,7 @@ protected:
     QPointer<FormWidget> form_;
 };
 
-// Something painted: named, placed and pressed through the model.
+// A painted part: named, placed and pressed through the model.
 class AccessiblePart final : public AccessibleLeaf, public QAccessibleActionInterface
 {
 public:
@@ -53,7 +53,7 @@ private:
     bool Pressable() const;
 };
 
-// What has happened, in words: screen readers say a notification when it is shown.
+// News in words: screen readers say a notification when it is shown.
 class AccessibleNews final : public AccessibleLeaf
 {
 public:
@@ -67,7 +67,7 @@ public:
     QAccessible::State state() const override;
 };
 
-// The window: the menu bar, then what is spoken of in reading order; the main window has the news.
+// The window: the menu bar, then the spoken parts in reading order; the main window has the news.
 class AccessibleForm final : public QAccessibleWidget
 {
 public:
@@ -83,17 +83,17 @@ public:
     QAccessible::Role role() const override;
 
     void Announce(const QString& words);
-    // Tells what is called otherwise, has come or gone since it was told last, and where the place
-    // of the arrow keys is. Beside the name of that place it tells so many names at most; returns
-    // whether more are left for the next time.
+    // Tells what has been renamed, has come or has gone since the last call, and where the arrow
+    // keys have led. Tells at most `names` names besides that place's; returns whether more are
+    // left.
     bool TellChanges(int names);
 
 private:
-    // A leaf and what a screen reader was told of it last.
+    // A leaf, and what screen readers were last told about it.
     struct Node
     {
         Spoken Part = {};
-        QAccessible::Id Id = 0;  // of the leaf; 0: a widget of Qt's own
+        QAccessible::Id Id = 0;  // of the leaf; 0 for a real widget
         QString Name = {};
         bool Seen = false;
     };

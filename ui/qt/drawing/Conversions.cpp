@@ -1,4 +1,4 @@
-// Conversions.cpp: finds the font that stands in for one of the design.
+// Conversions.cpp: finds fonts for those of the design.
 #include "ui/qt/drawing/Conversions.h"
 
 namespace malvone::qt {
@@ -6,7 +6,7 @@ namespace malvone::qt {
 QFont ToQFont(const Font& font)
 {
     constexpr double kPixelsPerPoint = 96.0 / 72.0;
-    // Few desktops have MS Sans Serif. Arial is close to it and sets all other words.
+    // Few desktops have MS Sans Serif. Arial, the font of all other words, is close to it.
     QFont result(font.Name == "MS Sans Serif" ? QStringLiteral("Arial") : ToQString(font.Name));
     result.setStyleHint(QFont::SansSerif);
     result.setPixelSize(

@@ -13,7 +13,7 @@
 
 namespace malvone::qt {
 
-// Qt's coordinates are pixels at 96 dpi; the ratio to the pixels of the screen is the window's.
+// Qt's coordinates are pixels at 96 dpi; each window has its ratio of screen pixels to these.
 inline double ToPixels(Twips twips)
 {
     return static_cast<double>(twips) / static_cast<double>(kTwipsPerPixel);

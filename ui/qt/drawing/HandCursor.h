@@ -1,4 +1,4 @@
-// HandCursor.h: the pointing hand that lies over what can be clicked.
+// HandCursor.h: the pointing hand over what can be clicked.
 #pragma once
 
 #include <QCursor>

@@ -1,4 +1,4 @@
-// LabelText.h: the lines of a label: where they break, where they stand, and how they are painted.
+// LabelText.h: breaks a label's words into lines, places them and paints them.
 #pragma once
 
 #include <QPointF>
@@ -25,8 +25,8 @@ struct TextBlock
     double Height = 0;  // from the top of the first line to the bottom of the last one
 };
 
-// Breaks a label's caption at its width. Where the label is too low for its lines they move closer
-// together, so that no word is cut off.
+// Breaks a label's caption at its width. Lines that do not fit its height move closer together, so
+// that no word is cut off.
 TextBlock BreakIntoLines(const Label& label);
 
 void PaintLabel(QPainter& painter, const Label& label, const QRectF& place);

@@ -1,4 +1,4 @@
-// Look.h: what decides how a rendered picture looks, and the rendering.
+// Look.h: renders pictures, or finds them rendered by the build.
 #pragma once
 
 #include <QImage>
@@ -29,24 +29,23 @@ struct Look
 
 Look LookOf(std::string_view file, QSize size, QSize seen, QPoint corner = {});
 
-// The backdrop is as large as the screen and painted once: its picture is rendered coarsely, at
-// whatever scale, and stretched.
+// The backdrop is as large as the screen and painted once, so its picture is rendered in a coarse
+// size and stretched.
 Look CoarseLook(const Picture& picture);
 
-// A picture as an icon: a square with edges of one of these lengths, as title bars, task bars and
-// switchers need them.
+// Icons are squares with edges of these lengths, for title bars, task bars and switchers.
 constexpr int kIconEdges[] = {16, 32, 64};
 Look IconLook(const Picture& picture, int edge);
 
 QImage Rendered(const Look& look);
 
-// Where the pixels of a picture lie in the program if the build has rendered it, as it has all
-// that the first frame shows at scale 1: assets/pictures/prerender.cpp.
+// The resource with the pixels of a picture that the build has rendered, as it has all that the
+// first frame shows at scale 1 (assets/pictures/prerender.cpp).
 QString ReadyPath(const Look& look);
 
-// Such a picture, read where the program's file lies in memory: nothing is unpacked or copied. Null
-// where there is none. Against rendering at each start this saves 7 of 44 ms to the first frame and
-// as much CPU time, and 2.8 of 6.6 MB of memory (medians of 15), for 3 MB of program.
+// Such a picture, which shares the pixels of the program's file; null if there is none. Compared to
+// rendering at each start this saves 7 of 44 ms to the first frame and as much CPU time, and 2.8 of
+// 6.6 MB of memory (medians of 15), for 3 MB of program.
 QImage Ready(const Look& look);
 
 }  // namespace malvone::qt

@@ -18,7 +18,7 @@ constexpr QColor kButtonFace(0xE0, 0xE0, 0xE0);
 constexpr QColor kDarkEdge(0x80, 0x80, 0x80);
 constexpr QColor kLightEdge(0xE8, 0xE8, 0xE8);
 
-// Beyond this many pixels of the screen a stretched picture is painted and not kept.
+// A stretched picture with more pixels than this is not kept.
 constexpr int kLargestKept = 1000 * 800;
 
 class Painting
@@ -46,7 +46,7 @@ private:
     void Plain(const QRectF& place, const QColor& face, const std::string& words) const;
 };
 
-// Images are painted pixel by pixel of the screen, past the painter's scale.
+// Images are painted in pixels of the screen, without the painter's scale.
 QRect Painting::OnThisScreen(const QRectF& place) const
 {
     return OnScreen(place, ratio_);
@@ -60,7 +60,7 @@ void Painting::Put(const QImage& image, QPoint corner) const
     painter_.restore();
 }
 
-// A picture in its own size, cut off where its place ends.
+// A picture in its own size, cut off at the edges of its place.
 void Painting::Unscaled(const Picture& picture, const QRectF& place) const
 {
     const QSizeF own(picture.Width(), picture.Height());
@@ -69,7 +69,7 @@ void Painting::Unscaled(const Picture& picture, const QRectF& place) const
     Put(pictures_.Get(picture, whole.size(), seen.size()), whole.topLeft());
 }
 
-// In a window that is wider or higher than its design the ground goes on to the edges.
+// In a window wider or higher than its design the ground goes on to the edges.
 void Painting::Ground(const Window& window, const QRectF& room) const
 {
     painter_.fillRect(room, ToQColor(window.BackColor));
@@ -133,9 +133,9 @@ void Painting::Plain(const QRectF& place, const QColor& face, const std::string&
     painter_.drawText(place, Qt::AlignCenter, ToQString(words));
 }
 
-// The place of the arrow keys: white between black, which stands out from every stone to every eye.
-// Around a stone it is square outside and round inside, as the stone is; wide buttons have round
-// ends.
+// Marks the place of the arrow keys, in white between black, which stands out from every stone to
+// every eye. Around a stone it is square outside and round inside, like the stone; wide buttons
+// have round ends.
 void Painting::Frame(const QRectF& place) const
 {
     constexpr double kHalfLine = 0.5;

@@ -1,5 +1,4 @@
-// PictureStore.h: pictures in the pixels of the screen, each made once for each size it is shown
-// in, on its first use.
+// PictureStore.h: makes a picture once for each size it is shown in, on first use, and keeps it.
 #pragma once
 
 #include <QIcon>
@@ -17,22 +16,22 @@ namespace malvone::qt {
 class PictureStore
 {
 public:
-    // The picture in a size given in pixels of the screen; cut off at the lower right where only
-    // a part can be seen. The reference holds until the next call.
+    // A picture in a size in pixels of the screen; cut off at the lower right if only a part is
+    // seen. The reference is valid until the next call.
     const QImage& Get(const Picture& picture, QSize size, QSize seen);
     const QImage& Get(const Picture& picture, QSize size) { return Get(picture, size, size); }
 
-    // The ground of a window, with its corner at a place of what is seen. Only the latest is kept:
-    // a window that is resized has as many as it has sizes on the way.
+    // The ground of a window; `corner` is the picture's, within what is seen. Only the latest is
+    // kept: resizing a window would fill the memory with grounds.
     const QImage& GetGround(const Picture& picture, QSize size, QSize seen, QPoint corner);
 
-    // A picture rendered coarsely, to be stretched, and not kept: for a cloudy ground as large as
-    // the screen, which is painted once and would take a quarter of the start if it were fine.
+    // A coarse picture to be stretched, which is not kept: for a cloudy ground as large as the
+    // screen, which is painted once. A fine one would take a quarter of the start.
     QImage Coarse(const Picture& picture);
 
     QIcon Icon(const Picture& picture);
 
-    // How many pictures were not ready and had to be rendered.
+    // The number of pictures that were not ready and had to be rendered.
     int Rendered() const { return rendered_; }
 
 private:

@@ -6,7 +6,7 @@
 
 namespace malvone::qt {
 
-// The path of a picture's file, which is named without its ending.
+// The path of a picture's file, given without its extension.
 QString ResourcePath(std::string_view file);
 
 }  // namespace malvone::qt

@@ -15,7 +15,7 @@ constexpr double kCellPixels = 32;
 
 Scale::Scale(const QSizeF& design, const QRectF& room, double ratio) : ratio_(ratio)
 {
-    constexpr double kRounding = 0.01;  // sizes that were rounded up have more than that to spare
+    constexpr double kRounding = 0.01;  // sizes are rounded up by more than that
     const double fitting = std::min(room.width() / design.width(), room.height() / design.height());
     const double cell = std::max(1.0, std::floor(kCellPixels * ratio * fitting + kRounding));
     factor_ = cell / (kCellPixels * ratio);

@@ -6,13 +6,13 @@
 
 namespace malvone::qt {
 
-// How large a window draws its design, and where: the whole design, as large as the window has room
-// for with every cell of the board in whole pixels of the screen, in the middle of that room.
+// How large a window draws its design, and where: whole and in the middle, as large as the room
+// allows with every cell of the board in whole pixels of the screen.
 class Scale
 {
 public:
     Scale() = default;  // as designed, from the window's corner
-    // `ratio` is that of the screen's pixels to Qt's.
+    // `ratio`: the screen's pixels to Qt's.
     Scale(const QSizeF& design, const QRectF& room, double ratio);
 
     double Factor() const { return factor_; }

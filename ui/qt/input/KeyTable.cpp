@@ -30,7 +30,7 @@ bool Between(int key, int first, int last)
 
 std::int16_t ToCode(int key)
 {
-    // Letters and digits have the same numbers in both worlds.
+    // Letters and digits have the same codes in Qt and in the layer.
     if (Between(key, Qt::Key_A, Qt::Key_Z) || Between(key, Qt::Key_0, Qt::Key_9)) {
         return static_cast<std::int16_t>(key);
     }

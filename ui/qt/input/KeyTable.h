@@ -1,4 +1,4 @@
-// KeyTable.h: Qt's keys in the codes that the game knows.
+// KeyTable.h: turns Qt's keys into the layer's.
 #pragma once
 
 #include <QtGlobal>
@@ -10,7 +10,7 @@ class QKeyEvent;
 
 namespace malvone::qt {
 
-// Code 0 stands for a key that the game has no use for, such as an umlaut.
+// Code 0 is a key that the game has no use for, such as an umlaut.
 Key ToKey(const QKeyEvent& event);
 
 std::int16_t ToShift(Qt::KeyboardModifiers modifiers);

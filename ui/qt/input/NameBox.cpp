@@ -1,4 +1,4 @@
-// NameBox.cpp: a line edit that lets in only what the files can hold.
+// NameBox.cpp: a line edit that accepts only what the files can hold.
 #include "ui/qt/input/NameBox.h"
 
 #include <QEvent>
@@ -21,8 +21,8 @@ QString Typable(const QString& text)
     return ToQString(KeepTypable(text.toStdString()));
 }
 
-// Takes characters out of what is typed, pasted, dropped or composed, without a word. Where nothing
-// is left of it the text stays as it was, or a foreign letter would empty a selected name.
+// Silently removes foreign characters from what is typed, pasted, dropped or composed. If nothing
+// is left, the text stays as it was: a foreign letter must not empty a selected name.
 class Sieve final : public QValidator
 {
 public:
@@ -33,7 +33,7 @@ public:
         const QString before = Typable(text.left(caret));
         const QString behind = Typable(text.mid(caret));
         const bool foreign = before.size() + behind.size() < text.size();
-        // The model still has what stood there, and what of it was to be replaced.
+        // The model still has the text and the selection from before.
         const auto kept = static_cast<qsizetype>(CharacterCount(model_.Text.Get())) -
                           static_cast<qsizetype>(model_.SelLength.Get());
         if (foreign && before.size() + behind.size() <= kept) {
@@ -74,8 +74,8 @@ bool IsInput(const QEvent& event)
     }
 }
 
-// Qt types a letter with Alt too. Whoever wants a command by such a key wants no letter, least of
-// all over a selected name. AltGr comes without these two, so that € and @ can be typed.
+// Qt would type the letter of an unknown command such as Alt+A, over a selected name if there is
+// one. AltGr comes without these modifiers, so € and @ can be typed.
 bool TypesWithCommandKey(const QKeyEvent& event)
 {
     const bool command = (event.modifiers() & (Qt::AltModifier | Qt::ControlModifier)) != 0;
@@ -107,7 +107,7 @@ void NameBox::Follow(const Scale& scale)
     font.setPixelSize(static_cast<int>(std::lround(font.pixelSize() * scale.Factor())));
     setFont(font);
     setPalette(Colours(*model_));
-    // A locked name is there to be read: nothing selects it, and it never looks like the open one.
+    // A locked name can only be read and cannot be selected.
     setReadOnly(model_->Locked);
     setFocusPolicy(model_->Locked ? Qt::NoFocus : Qt::ClickFocus);  // Tab is the layer's
     setAttribute(Qt::WA_TransparentForMouseEvents, model_->Locked);
@@ -148,11 +148,11 @@ bool NameBox::event(QEvent* event)
         return true;
     }
     if (event->type() == QEvent::ShortcutOverride) {
-        event->accept();  // the key comes back as a press
+        event->accept();  // makes it a key press
         return true;
     }
     if (event->type() == QEvent::KeyPress) {
-        // A key that the box ignores would come back through its parent and be routed again.
+        // An ignored key would reach the parent and be routed a second time.
         const auto& key = *static_cast<QKeyEvent*>(event);
         if (!route_(key) && !TypesWithCommandKey(key)) {
             QLineEdit::event(event);

@@ -17,14 +17,14 @@ class NameBox final : public QLineEdit
     Q_OBJECT
 
 public:
-    // Returns whether a key has been taken by the window before the box sees it.
+    // Whether the window takes a key before the box sees it.
     using KeyRoute = std::function<bool(const QKeyEvent&)>;
 
     NameBox(TextBox& model, KeyRoute route, QWidget* parent);
 
-    // Takes over what the model says, at the window's scale.
+    // Updates the box from the model, at the window's scale.
     void Follow(const Scale& scale);
-    // The model is about to be destroyed.
+    // Call before the model is destroyed.
     void Detach() { model_ = nullptr; }
 
 protected:

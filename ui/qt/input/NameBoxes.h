@@ -10,17 +10,17 @@ namespace malvone::qt {
 class NameBoxes
 {
 public:
-    // The boxes belong to the form, which has to outlive this.
+    // The boxes belong to the form, which must outlive this.
     NameBoxes(QWidget& form, NameBox::KeyRoute route) : form_(form), route_(std::move(route)) {}
 
-    // Takes over what the model says, and makes a box for one that is new. A text box beside the
-    // client area is mere data and has no widget.
+    // Updates a box from the model; makes it on the first call. Text boxes outside the client area
+    // only hold data and have no widget.
     void Follow(TextBox& model, const Scale& scale);
-    // The window has got another scale.
+    // Call when the scale of the window has changed.
     void Follow(const Scale& scale);
-    // Null where there is none.
+    // Null if there is none.
     NameBox* Of(const Control* model) const;
-    // The models are about to be destroyed.
+    // Call before the models are destroyed.
     void Detach();
 
 private:

@@ -63,7 +63,7 @@ void PointerInput::Moved(const QMouseEvent& event)
     if (!dragging_ && model_ != nullptr) {
         PointerMoved(*model_, ToMouse(event, ToButtons(event.buttons())));
     }
-    // A quick hand makes one movement only: the one that begins the drag counts.
+    // The movement that begins a drag counts: a fast one may be the only one.
     if (dragging_) {
         widget_.move(frameAtPress_ + event.globalPosition().toPoint() - pressedAt_);
     }
@@ -79,8 +79,8 @@ void PointerInput::Released(const QMouseEvent& event)
     }
 }
 
-// X11 window managers do not all move a window on request, so it is moved here. On Wayland only the
-// compositor can do it, and it takes the pointer with it.
+// Not every X11 window manager moves a window on request, so it is moved here. On Wayland only the
+// compositor can move windows, and it handles the pointer meanwhile.
 void PointerInput::Drag()
 {
     if (WindowsCanBePlaced()) {
@@ -107,7 +107,7 @@ void PointerInput::ShowTip(const QHelpEvent& event)
         QToolTip::hideText();
         return;
     }
-    // The tip goes when the pointer leaves the control.
+    // The tip disappears when the pointer leaves the control.
     QToolTip::showText(event.globalPos(), ToQString(target->ToolTipText.Get()), &widget_,
                        scale_.ToWindow(PlaceOf(*target)).toAlignedRect());
 }

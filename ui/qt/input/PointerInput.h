@@ -1,5 +1,4 @@
-// PointerInput.h: the pointer over a window: what the model hears of it, and what shows where it
-// is.
+// PointerInput.h: passes the pointer to the model, and shows cursor and tips.
 #pragma once
 
 #include <QPoint>
@@ -18,7 +17,7 @@ class Scale;
 class PointerInput
 {
 public:
-    // All three have to outlive this, but for the model after Detach.
+    // All three must outlive this, the model only until Detach.
     PointerInput(QWidget& widget, Window& model, const Scale& scale)
         : widget_(widget), model_(&model), scale_(scale)
     {}
@@ -31,22 +30,22 @@ public:
     // The window follows the pointer until the button is released.
     void Drag();
 
-    // The topmost control under a place of the widget; null beside the designed client area.
+    // The topmost control under a place of the widget; null outside the design.
     Visual* ControlUnder(QPointF position) const;
 
-    // The model is about to be destroyed.
+    // Call before the model is destroyed.
     void Detach() { model_ = nullptr; }
 
 private:
     QWidget& widget_;
     Window* model_;
     const Scale& scale_;
-    QPoint pressedAt_;  // the pointer and the frame's corner at the last press, on the screen
+    QPoint pressedAt_;  // pointer and frame's corner at the last press, on the screen
     QPoint frameAtPress_;
     bool dragging_ = false;
 
     Mouse ToMouse(const QMouseEvent& event, std::int16_t button) const;
-    // What the pointer can act on at present.
+    // What the pointer can act on now.
     const Visual* Target(QPointF position) const;
     void UpdateCursor(QPointF position);
 };

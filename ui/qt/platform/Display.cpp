@@ -81,7 +81,7 @@ bool DisplayReachable()
 
 void PreferX11()
 {
-    // Only one of them is named: Qt would tell of its failure with the first.
+    // Naming both would make Qt print a warning when the first one fails.
     if (Environment(kPlatform).empty()) {
         qputenv(kPlatform, X11Reachable() ? "xcb" : "wayland");
     }
@@ -103,8 +103,8 @@ bool WindowsCanBePlaced()
 
 void RaiseScale(double factor)
 {
-    const double wished = qEnvironmentVariable(kScale).toDouble();
-    qputenv(kScale, QByteArray::number((wished > 0 ? wished : 1.0) * factor, 'f', 3));
+    const double chosen = qEnvironmentVariable(kScale).toDouble();
+    qputenv(kScale, QByteArray::number((chosen > 0 ? chosen : 1.0) * factor, 'f', 3));
 }
 
 }  // namespace malvone::qt

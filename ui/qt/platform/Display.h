@@ -3,21 +3,21 @@
 
 namespace malvone::qt {
 
-// Whether a window can be opened. Without a display Qt would abort.
+// Whether a window can be opened. Qt would abort without a display.
 bool DisplayReachable();
 
-// On X11 windows can be placed exactly; XWayland brings it to Wayland. Has an effect before the
-// application object is made, and only where the player has not chosen.
+// Chooses X11, where windows can be placed exactly, also on Wayland if XWayland runs. Call before
+// the application object is made. Leaves the player's own choice alone.
 void PreferX11();
 
-// The pixels of the screen to one of Qt's, on the screen where they are fewest. Qt paints wrongly
-// where it is below 1. Needs an application object.
+// The lowest ratio of screen pixels to Qt's pixels of all screens. Qt paints wrongly below 1. Needs
+// an application object.
 double LowestRatio();
 
 // Whether programs may place their windows on this desktop. Needs an application object.
 bool WindowsCanBePlaced();
 
-// Makes everything larger by a factor, for the next application object.
+// Enlarges everything by a factor once the next application object is made.
 void RaiseScale(double factor);
 
 }  // namespace malvone::qt

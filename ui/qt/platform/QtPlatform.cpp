@@ -1,4 +1,4 @@
-// QtPlatform.cpp: hands waves to the player and documents to the desktop.
+// QtPlatform.cpp: passes waves to the sound player and documents to the desktop.
 #include "ui/qt/platform/QtPlatform.h"
 
 #include <QProcess>
@@ -25,7 +25,7 @@ std::int32_t QtPlatform::waveOutGetNumDevs()
     return sound_.DeviceCount();
 }
 
-// A viewer that cannot be started is not noticed: what the launcher says about it goes nowhere.
+// If no viewer can be started, nothing happens, and what the launcher says is discarded.
 void QtPlatform::ShellExecuteA(const std::string& path)
 {
     const std::optional<std::filesystem::path> file = Translate(path);

@@ -15,7 +15,7 @@ namespace malvone::qt {
 class QtPlatform final : public FilePlatform
 {
 public:
-    // The sound has to outlive the platform.
+    // The sound must outlive the platform.
     QtPlatform(std::optional<std::filesystem::path> root, std::filesystem::path programFolder,
                Sound& sound);
 
@@ -27,8 +27,8 @@ private:
     Sound& sound_;
 };
 
-// The folder of sounds and manuals: of an installed game the one that lies where the installation
-// puts it, seen from the executable; of a built one the executable's own. No file has to be there.
+// The folder of sounds and manuals: the installed data folder, found from the executable's place,
+// or the executable's own folder if that does not exist.
 std::filesystem::path ProgramFolder();
 
 }  // namespace malvone::qt

@@ -1,4 +1,4 @@
-// SingleGame.cpp: who comes second knocks, who came first answers.
+// SingleGame.cpp: the second game knocks, the first one answers.
 #include "ui/qt/platform/SingleGame.h"
 
 #include <sys/socket.h>
@@ -18,7 +18,7 @@
 namespace malvone::qt {
 namespace {
 
-// Also for a game that is still starting on a busy machine.
+// Enough for a game that is still starting on a busy machine.
 constexpr std::chrono::seconds kPatience(3);
 constexpr std::chrono::milliseconds kPause(10);
 constexpr const char* kToken = "XDG_ACTIVATION_TOKEN";
@@ -28,7 +28,7 @@ int NewSocket(int flags)
     return socket(AF_UNIX, SOCK_SEQPACKET | SOCK_CLOEXEC | flags, 0);
 }
 
-// Anybody may take an abstract name.
+// Any user may take an abstract name.
 bool IsOfThisUser(int channel)
 {
     ucred other{};
@@ -37,7 +37,7 @@ bool IsOfThisUser(int channel)
            other.uid == getuid();
 }
 
-// True where the game at the other end has come to the front.
+// True if the game at the other end has come to the front.
 bool Knock(int channel, const sockaddr_un& address)
 {
     const timeval limit{kPatience.count(), 0};
@@ -52,7 +52,7 @@ bool Knock(int channel, const sockaddr_un& address)
            recv(channel, &answer, 1, 0) == 1;
 }
 
-// Nobody waits for what the other end has to say: it may hang.
+// Does not wait for the other end, which may hang.
 void Answer(int channel, const std::function<void()>& come)
 {
     auto* const words = new QSocketNotifier(channel, QSocketNotifier::Read, qApp);
@@ -96,7 +96,7 @@ bool SingleGame::MayPlay()
 {
     own_ = NewSocket(SOCK_NONBLOCK);
     const auto end = std::chrono::steady_clock::now() + kPatience;
-    // The other game may be ending, or may not listen yet: one of both goes well in a moment.
+    // The other game may be ending, or may not listen yet: one of the two works out in a moment.
     while (bind(own_, reinterpret_cast<const sockaddr*>(&address_), sizeof address_) != 0) {
         const bool taken = errno == EADDRINUSE;
         if (taken && OtherHasCome()) {

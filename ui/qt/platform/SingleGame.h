@@ -1,5 +1,5 @@
-// SingleGame.h: a data folder has one game on the desktop. A second start brings the first one to
-// the front, and ends.
+// SingleGame.h: lets only one game play with a data folder. A second start brings the first game to
+// the front and ends.
 #pragma once
 
 #include <sys/un.h>
@@ -9,8 +9,8 @@
 
 namespace malvone::qt {
 
-// A socket with an abstract name, made of user and folder, stands for the folder: who has bound it
-// plays. It leaves no file behind, and goes with its process however that ends.
+// A socket with an abstract name made of user and folder: the game that has bound it plays. It
+// leaves no file behind and goes with its process, however that ends.
 class SingleGame
 {
 public:
@@ -19,11 +19,11 @@ public:
     SingleGame(const SingleGame&) = delete;
     SingleGame& operator=(const SingleGame&) = delete;
 
-    // False where another game has the folder and has come to the front. One that hangs is given
-    // up after a few seconds; both play then. Where there are no such sockets everybody plays.
+    // False if another game has the folder and has come to the front. If it hangs, both play after
+    // a few seconds. Without such sockets everybody plays.
     bool MayPlay();
-    // From now on `come` is called for each later start, with the token in the environment that
-    // lets a window come to the front on Wayland. Needs an application object.
+    // Calls `come` for each later start, with the token in the environment that lets a window come
+    // to the front on Wayland. Needs an application object.
     void Listen(const std::function<void()>& come) const;
 
 private:

@@ -20,7 +20,7 @@ BackdropWindow::BackdropWindow(malvone::Window& model, PictureStore& pictures)
 {
     setFlags(Qt::Window | Qt::FramelessWindowHint);
     setSurfaceType(QSurface::RasterSurface);
-    // Its caption is not meant to be seen, but a list of windows shows some name.
+    // Its caption is never shown, but lists of windows need a name.
     setTitle(QStringLiteral("Malvone"));
     connect(this, &QWindow::activeChanged, this, [this] {
         if (isActive()) {
@@ -76,7 +76,7 @@ void BackdropWindow::Paint(const QRegion& region)
     }
     store_->endPaint();
     store_->flush(region);
-    // A Wayland compositor goes on reading the pixels. All others have a copy of their own.
+    // A Wayland compositor goes on reading these pixels; all others have their own copy.
     if (WindowsCanBePlaced()) {
         store_.reset();
     }
@@ -99,7 +99,7 @@ bool BackdropWindow::event(QEvent* event)
     if (event->type() == QEvent::Close) {
         event->setAccepted(App.Ended());
         if (!App.Ended()) {
-            Q_EMIT CloseWished();
+            Q_EMIT CloseRequested();
         }
         return true;
     }

@@ -12,27 +12,27 @@ namespace malvone::qt {
 
 class PictureStore;
 
-// No widget: it would keep all pixels of the screen in memory.
+// Not a widget, which would keep all pixels of the screen in memory.
 class BackdropWindow final : public QWindow
 {
     Q_OBJECT
 
 public:
-    // The model and the pictures have to outlive the window.
+    // The model and the pictures must outlive the window.
     BackdropWindow(malvone::Window& model, PictureStore& pictures);
 
-    // Puts the window on the screen, as the window manager needs it, without its picture.
+    // Shows the window in the way that suits the window manager, without its picture.
     void Present();
-    // To be called when the main window has been painted, which would wait for this.
+    // Call once the main window has been painted: painting this one first would delay it.
     void ShowPicture();
-    // Takes the size of the primary screen: where no window manager does it, nobody else will.
+    // Takes the size of the primary screen. Not every window manager does it.
     void CoverScreen();
     bool Minimized() const { return windowStates().testFlag(Qt::WindowMinimized); }
     malvone::Window& Model() const { return model_; }
 
 Q_SIGNALS:
     void Activated();
-    void CloseWished();
+    void CloseRequested();
 
 protected:
     bool event(QEvent* event) override;

@@ -17,10 +17,10 @@
 namespace malvone::qt {
 namespace {
 
-// A window with half the designed size can still be played in.
+// At half the designed size the game can still be played.
 constexpr double kSmallestFactor = 0.5;
 
-// Where windows are tiled, a dialog keeps the size that it asks for.
+// Managers that tile windows leave dialogs their size.
 Qt::WindowFlags FlagsOf(const Window& window, ShowMode mode)
 {
     const bool tiled = MannerOfBackdrop() == BackdropManner::None;
@@ -83,7 +83,7 @@ QRectF FormWidget::Room() const
     return rect().adjusted(0, menu_ != nullptr ? menu_->height() : 0, 0, 0);
 }
 
-// Whatever size the window has, the whole design is drawn in it.
+// The whole design is drawn in a window of any size.
 void FormWidget::Rescale()
 {
     if (menu_ != nullptr) {
@@ -113,8 +113,8 @@ void FormWidget::Detach()
 void FormWidget::Present(QWindow* below)
 {
     if (!isVisible()) {
-        // A window of the system's that exists already takes its place for that of the client area
-        // as long as its frame is unknown. So a window is shown again as it was shown first.
+        // Until its frame is known, an existing native window takes its position for that of the
+        // client area. So each show begins with a new one.
         destroy();
         painted_ = false;
         placement_.OntoScreen();
@@ -203,7 +203,7 @@ void FormWidget::Follow(Change what)
         }
         break;
     case Change::Text:
-        // The captions of windows without a title bar are not meant to be seen.
+        // The captions of windows without a title bar are placeholders.
         setWindowTitle(window_->BorderStyle == Border::None ? QStringLiteral("Malvone")
                                                             : ToQString(window_->Caption.Get()));
         break;
@@ -225,7 +225,7 @@ void FormWidget::Follow(Control& control, Change what)
     }
 }
 
-// A locked box may have the focus of the model left over from an entry.
+// In the model a locked box may still have the focus from an entry.
 void FormWidget::FollowFocus()
 {
     NameBox* const box = boxes_.Of(window_->Focus());
@@ -239,7 +239,7 @@ QWidget* FormWidget::BoxOf(const Control& box) const
     return boxes_.Of(&box);
 }
 
-// The rectangle on this widget that a control's pixels on the screen can touch.
+// All that a control's pixels can touch, in Qt's pixels.
 QRect FormWidget::Touched(const Visual& visual) const
 {
     const QRect place = PlaceOnForm(visual).toAlignedRect();
@@ -254,7 +254,7 @@ void FormWidget::Repaint(const Visual& visual, Change what)
         return;
     }
     if (what == Change::Geometry) {
-        update();  // it may have come from anywhere, and it happens seldom
+        update();  // its old place is unknown, and this is rare
     } else if (visual.Visible || what == Change::Visible) {
         update(Touched(visual));
     }
@@ -265,7 +265,7 @@ void FormWidget::mousePressEvent(QMouseEvent* event)
     pointer_.Pressed(*event);
 }
 
-// The second press of a double click is a press like any other.
+// The second press of a double click counts as a press.
 void FormWidget::mouseDoubleClickEvent(QMouseEvent* event)
 {
     mousePressEvent(event);
@@ -297,7 +297,7 @@ bool FormWidget::event(QEvent* event)
 {
     switch (event->type()) {
     case QEvent::ShortcutOverride:
-        event->accept();  // the key comes back as a press, and the layer sees it first
+        event->accept();  // makes it a key press, which the layer sees first
         return true;
     case QEvent::KeyPress: RouteKey(*static_cast<QKeyEvent*>(event)); return true;
     case QEvent::ToolTip: pointer_.ShowTip(*static_cast<QHelpEvent*>(event)); return true;
@@ -318,12 +318,12 @@ void FormWidget::changeEvent(QEvent* event)
     }
 }
 
-// The game decides whether a window closes, and closes it.
+// The game itself closes its windows, or does not.
 void FormWidget::closeEvent(QCloseEvent* event)
 {
     event->setAccepted(App.Ended());
     if (!App.Ended() && window_ != nullptr) {
-        Q_EMIT CloseWished();
+        Q_EMIT CloseRequested();
     }
 }
 

@@ -1,4 +1,4 @@
-// FormWidget.h: one window of the game on the screen: paints the model and hands input to it.
+// FormWidget.h: a window of the game: paints the model and passes input to it.
 #pragma once
 
 #include <QWidget>
@@ -19,22 +19,21 @@ class FormWidget final : public QWidget
     Q_OBJECT
 
 public:
-    // `factor` is that of the main window's scale, which all windows with a fixed size share.
+    // `factor` is the main window's, which all windows of a fixed size share.
     FormWidget(Window& window, ShowMode mode, PictureStore& pictures, double factor);
     ~FormWidget() override;
 
-    // Null when the window has been unloaded; the widget then waits for its own deletion.
+    // Null once the window has been unloaded and the widget waits to be deleted.
     Window* Model() const { return window_; }
     void Detach();
 
-    // Puts the window on the screen, or to the front where it is there already. It stays above
-    // `below`.
+    // Shows the window, or brings it to the front. It stays above `below`.
     void Present(QWindow* below);
-    // A minimised window comes back.
+    // Restores the window if it is minimised.
     void ToFront();
-    // The screens have changed: the window comes back onto one of them, smaller if it has to.
+    // Call when screens have changed: moves the window onto a screen, and shrinks it if need be.
     void FollowScreens();
-    // Whether the player has seen it since it was shown.
+    // Whether it has been painted since it was shown.
     bool WasPainted() const { return painted_; }
 
     void Follow(Control& control, Change what);
@@ -44,9 +43,8 @@ public:
     PointerInput& Pointer() { return pointer_; }
     const PointerInput& Pointer() const { return pointer_; }
 
-    // How large the design is drawn, and where.
     const Scale& DesignScale() const { return scale_; }
-    // Takes the size of the design at another scale.
+    // Resizes the window to its design at another scale.
     void SetFactor(double factor);
     // A control's place on this widget.
     QRectF PlaceOnForm(const Visual& visual) const;
@@ -55,11 +53,11 @@ public:
 
 Q_SIGNALS:
     void Activated();
-    void CloseWished();
+    void CloseRequested();
     void Rescaled();
     // The window has been minimised or restored.
     void StateChanged();
-    // The window has been painted for the first time since it was shown.
+    // Sent once after each show, when the window has been painted.
     void Painted();
 
 protected:
@@ -82,11 +80,11 @@ private:
     NameBoxes boxes_;
     Scale scale_;
     PointerInput pointer_;
-    double ratio_ = 1;  // the screen's pixels to Qt's, for which the scale was made
+    double ratio_ = 1;  // of the screen's pixels to Qt's, as the scale was made for
     bool painted_ = false;
 
     QSize SizeAt(double factor) const;
-    QRectF Room() const;  // for the design: all below the menu
+    QRectF Room() const;  // all below the menu
     void Rescale();
     void ShowMenuLast();
     bool RouteKey(const QKeyEvent& event);

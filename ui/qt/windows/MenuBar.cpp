@@ -17,7 +17,7 @@
 namespace malvone::qt {
 namespace {
 
-// The name of the one key that the menu shows; everything else that Qt says is left to it.
+// Translates the one key name that the menu shows.
 class KeyNames final : public QTranslator
 {
 public:
@@ -32,8 +32,8 @@ public:
     }
 };
 
-// Shown beside the entry, and told to screen readers apart from its name. It is the layer that
-// routes the key: Qt's own way to the entry is no wider than the open menu.
+// Qt shows the shortcut beside the entry and tells it to screen readers apart from the name. The
+// layer routes the key, so Qt may react to it in the open menu only.
 void ShowShortcut(QAction& action, Key key)
 {
     if (key == Key()) {
@@ -45,8 +45,8 @@ void ShowShortcut(QAction& action, Key key)
     action.setShortcutContext(Qt::WidgetShortcut);
 }
 
-// The desktop's own style but for that icon, and for a gap of a pixel that finer screens show in
-// the line below the menu bar, at the end of each of its entries.
+// The desktop's own style without that icon, and without the gap of a pixel that fine screens show
+// in the line below the menu bar at the end of each entry.
 class MenuStyle final : public QProxyStyle
 {
 public:
@@ -116,7 +116,7 @@ void MenuBar::Add(MenuEntry& entry, bool opensMenu)
             action, &QAction::triggered, this, [this, &entry] { Chosen(entry); },
             Qt::QueuedConnection);
     }
-    // Desktops have ideas of their own about entries with certain words.
+    // Otherwise some desktops move entries with certain words.
     action->setMenuRole(QAction::NoRole);
     parent->addAction(action);
     actions_[&entry] = action;
@@ -126,11 +126,11 @@ void MenuBar::Add(MenuEntry& entry, bool opensMenu)
 void MenuBar::Follow(const MenuEntry& entry)
 {
     QAction* const action = actions_.at(&entry);
-    // The blanks behind a caption belong to it: they keep the menus apart.
+    // The blanks at the end of a caption keep the menus apart.
     action->setText(entry.Separator() ? QString() : ToQString(entry.Caption.Get()));
     action->setEnabled(entry.Enabled);
     action->setVisible(entry.Visible);
-    // Only a checked entry shows a mark, and room for it.
+    // An unchecked entry leaves no room for a mark.
     action->setCheckable(entry.Checked);
     action->setChecked(entry.Checked);
 }
@@ -141,7 +141,7 @@ void MenuBar::Chosen(MenuEntry& entry)
         return;
     }
     RaiseClick(entry);
-    // Qt has toggled the mark of a checked entry; the model decides whether it is to go.
+    // Qt has toggled the entry's mark; the model decides about it.
     if (window_ != nullptr) {
         Follow(entry);
     }
@@ -162,7 +162,7 @@ QAction* MenuBar::OpenedBy(Key key) const
     return nullptr;
 }
 
-// The first entry is chosen as the arrow key does it, which leaves a menu of its own shut.
+// The first entry is selected as if by an arrow key, which opens no submenu.
 bool MenuBar::Open(Key key)
 {
     QAction* const action = OpenedBy(key);

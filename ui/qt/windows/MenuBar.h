@@ -8,10 +8,9 @@
 
 namespace malvone::qt {
 
-// For every menu bar of the application that is made from now on. Each has a button for entries
-// that find no room, and fetches that button's icon as soon as it is made: Qt then loads all its
-// plugins for icons and image formats, 3 of 47 ms of CPU time of a start (medians of 9). Such a
-// button shows an arrow here. And the line below the bar has no gaps.
+// Applies to all menu bars made from now on. Each has a button for entries that do not fit, whose
+// icon makes Qt load all its plugins for icons and image formats: 3 of 47 ms of CPU time of a start
+// (medians of 9). Here that button shows an arrow, and the line below the bar has no gaps.
 void UseMenuStyle();
 
 class MenuBar final : public QMenuBar
@@ -21,16 +20,16 @@ class MenuBar final : public QMenuBar
 public:
     MenuBar(const Window& window, QWidget* parent);
 
-    // Brings an entry to the state that it has in the model.
+    // Updates an entry from the model.
     void Follow(const MenuEntry& entry);
-    // Opens the menu that a key stands for: F10 the first one, Alt and a letter the one with this
-    // access key. False: there is none.
+    // Opens the menu of a key: F10 the first one, Alt and a letter the one with this access key.
+    // False if there is none.
     bool Open(Key key);
-    // The window is about to be destroyed: no entry does anything any more.
+    // Call before the window is destroyed: the entries have no effect from then on.
     void Detach();
 
 protected:
-    // While another window is modal the menu stays shut.
+    // The menu stays shut while another window is modal.
     bool event(QEvent* event) override;
     bool eventFilter(QObject* object, QEvent* event) override;
 

@@ -20,7 +20,7 @@ QPoint ScreenCorner()
     return QGuiApplication::primaryScreen()->geometry().topLeft();
 }
 
-// Without a window manager Qt takes what a window has just grown by for its frame.
+// Without a window manager Qt mistakes the growth of a window for its frame.
 bool IsFrame(const QMargins& frame)
 {
     constexpr int kThickest = 120;
@@ -50,7 +50,7 @@ QSize SizeOf(const Window& window, double factor)
 
 double FactorOnScreen(const QSizeF& design, int height)
 {
-    // About what a frame adds.
+    // About the size of a frame.
     constexpr QSizeF kFrame(10, 36);
     const QScreen& screen = *QGuiApplication::primaryScreen();
     const QSizeF menu(0, height - design.height());
@@ -103,7 +103,7 @@ void Placement::OntoScreen()
     }
 }
 
-// A window in the middle of the screen was put there before its frame was known.
+// A window is centred on the screen before its frame is known.
 void Placement::KeepCentred(const QMargins& frame)
 {
     const QRect screen = QGuiApplication::primaryScreen()->geometry();
@@ -131,7 +131,7 @@ void Placement::FromScreen()
     }
     const QScopedValueRollback guard(telling_, true);
     const QPoint corner = handle->framePosition() - ScreenCorner();
-    // A fraction of a pixel in the model is no move.
+    // The model may lie between two pixels; that alone is no move.
     if (WindowsCanBePlaced() && corner != CornerOf(window_)) {
         window_.Left = ToTwips(corner.x());
         window_.Top = ToTwips(corner.y());

@@ -1,4 +1,4 @@
-// Placement.h: keeps the place of a window in the model and its place on the screen the same.
+// Placement.h: keeps a window's place in the model and on the screen the same.
 #pragma once
 
 #include <QMargins>
@@ -11,29 +11,30 @@ class QWidget;
 
 namespace malvone::qt {
 
-// Left and Top of the model are the corner of the outer frame, counted from the corner of the
-// primary screen.
+// The model's Left and Top are the corner of the outer frame, from the corner of the primary
+// screen.
 class Placement
 {
 public:
     Placement(QWidget& widget, Window& window) : widget_(widget), window_(window) {}
 
-    // Puts the window where the model says. Some window managers move a window by its own title bar
-    // each time it is hidden and shown, unless it has just been placed.
+    // Moves the window to its place in the model. Call before each show, too: some window managers
+    // move a window that is shown again by the height of its title bar.
     void ToScreen();
-    // A place that does not lie wholly on a screen becomes the nearest one that does.
+    // Moves the model's place to the nearest one that lies wholly on a screen.
     void OntoScreen();
     bool Fits() const;
-    // Tells the model what the player or the window manager has done: place, and size with frame.
+    // Tells the model the place, and the size with the frame, that the player or the window manager
+    // has chosen.
     void FromScreen();
-    // Before the first show only the menu bar is known of what surrounds the client area.
+    // Before the first show the frame is unknown and left out.
     void TellSize();
 
 private:
     QWidget& widget_;
     Window& window_;
     bool telling_ = false;
-    bool framed_ = false;  // the frame has come to light
+    bool framed_ = false;  // the frame is known
 
     QRect Outer() const;
     void KeepCentred(const QMargins& frame);
@@ -43,7 +44,7 @@ private:
 QSizeF DesignOf(const Window& window);
 QSize SizeOf(const Window& window, double factor);
 
-// The scale, 1 or less, at which a design with its menu and a frame has room on the primary screen.
+// The largest scale up to 1 at which a design with menu and frame fits on the primary screen.
 // `height` is that of design and menu.
 double FactorOnScreen(const QSizeF& design, int height);
 

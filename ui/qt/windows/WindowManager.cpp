@@ -1,4 +1,4 @@
-// WindowManager.cpp: asks the X server who manages windows, and sets hints.
+// WindowManager.cpp: finds out which window manager runs, and talks to it.
 #include "ui/qt/windows/WindowManager.h"
 
 #include <QGuiApplication>
@@ -18,11 +18,11 @@ namespace {
 
 struct Manager
 {
-    std::string_view Word;  // a part of the name by which it introduces itself
+    std::string_view Word;  // a part of the name that it gives itself
     BackdropManner Manner;
 };
 
-// Found by trying. A manager that is missing here gets the plain window.
+// Found by trying. For any other manager the backdrop is a plain window.
 constexpr Manager kManagers[] = {
     {"Openbox", BackdropManner::FullScreen},
     {"Xfwm4", BackdropManner::FullScreen},
@@ -47,7 +47,7 @@ struct Freed
 {
     void operator()(void* memory) const { std::free(memory); }
 };
-// A reply of the server; null where there was an error instead.
+// A reply of the server; null on an error.
 template<typename Reply>
 using Answer = std::unique_ptr<Reply, Freed>;
 
@@ -55,7 +55,7 @@ using Answer = std::unique_ptr<Reply, Freed>;
 xcb_connection_t* Connection()
 {
     const auto* const x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-    // Other platforms answer too, without a connection.
+    // On other platforms the interface may exist without a connection.
     return x11 != nullptr && QGuiApplication::platformName() == QLatin1String("xcb")
                ? x11->connection()
                : nullptr;
@@ -181,15 +181,15 @@ void ActivateForPlayer(WId window)
         return;
     }
     constexpr std::uint32_t kFromThePlayer = 2;
-    xcb_client_message_event_t wish{};
-    wish.response_type = XCB_CLIENT_MESSAGE;
-    wish.format = 32;
-    wish.window = static_cast<xcb_window_t>(window);
-    wish.type = Atom(connection, "_NET_ACTIVE_WINDOW");
-    wish.data.data32[0] = kFromThePlayer;
+    xcb_client_message_event_t request{};
+    request.response_type = XCB_CLIENT_MESSAGE;
+    request.format = 32;
+    request.window = static_cast<xcb_window_t>(window);
+    request.type = Atom(connection, "_NET_ACTIVE_WINDOW");
+    request.data.data32[0] = kFromThePlayer;
     xcb_send_event(connection, 0, Root(connection),
                    XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY | XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT,
-                   reinterpret_cast<const char*>(&wish));
+                   reinterpret_cast<const char*>(&request));
     xcb_flush(connection);
 #else
     static_cast<void>(window);

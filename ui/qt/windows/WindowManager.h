@@ -1,14 +1,14 @@
-// WindowManager.h: what the window manager of an X11 desktop is like, and what it is asked for.
+// WindowManager.h: what an X11 window manager is like, and what it is asked to do.
 #pragma once
 
 #include <qwindowdefs.h>
 
 namespace malvone::qt {
 
-// What becomes of the backdrop. The game has to be seen in any case.
+// How the backdrop is shown so that the game is seen in any case.
 enum class BackdropManner {
-    FullScreen,   // the manager shows other windows beside or above a full-screen one
-    ScreenSized,  // a plain window of the screen's size, since nothing else is known to go well
+    FullScreen,   // the manager shows other windows above a full-screen one
+    ScreenSized,  // a plain window of the screen's size
     // By design (kacheln-ohne-hintergrund): one would expect a backdrop everywhere. Where windows
     // are tiled, it would take room from the game, or hide it. Test: display.qt.managers_e2e
     None,
@@ -16,18 +16,17 @@ enum class BackdropManner {
 
 BackdropManner MannerOfBackdrop();
 
-// Whether the player has all windows out of the way at present.
+// Whether the player has put all windows out of the way for now.
 bool ManagerShowsDesktop();
 // Whether a window that was shown is off the screen. Known before the window itself is told.
 bool ManagerHides(WId window);
 
-// Keeps a window off the task bar and out of the overview of workspaces; call before each show.
-// A window type that does so by itself would put it above the game, or below other programs, on
-// some window manager.
+// Keeps a window out of the task bar and the overview of workspaces; call before each show. Window
+// types that imply this put the window above the game or below other programs under some managers.
 void KeepOffTaskBar(WId window);
 
-// Makes a window the active one because the player has said so. What a program wishes for itself,
-// some window managers refuse while the player works elsewhere.
+// Activates a window on behalf of the player. Some window managers refuse what a program asks for
+// itself while the player works elsewhere.
 void ActivateForPlayer(WId window);
 
 }  // namespace malvone::qt
