@@ -1,4 +1,4 @@
-// Elements.cpp: what the page hears of windows and controls. How it looks stands in page.css.
+// Elements.cpp: turns windows and controls into elements of the page. Their look is in page.css.
 #include "ui/web/Elements.h"
 
 #include <emscripten.h>
@@ -24,8 +24,8 @@ std::string Css(Colour colour)
     return "rgb(" + part(0) + " " + part(8) + " " + part(16) + ")";
 }
 
-// The properties of an element by name. Those that begin with dashes are of its style; page.css
-// makes lengths and colours of them.
+// Sets properties of an element by name. Names with dashes are custom properties, which page.css
+// turns into lengths and colours.
 class Element
 {
 public:
@@ -51,8 +51,7 @@ public:
         (*this)("--font", font.Size * kTwipsPerPoint)("--weight", font.Bold ? "bold" : "normal");
         return (*this)("--colour", Css(colour));
     }
-    // The element lies in another one, of the page or put before; one that is there stays where it
-    // is.
+    // Makes the element inside another one, or changes the one that is there.
     void Put(const std::string& id, const char* kind = "", const std::string& inside = "") const
     {
         Ask("put", id, std::string(kind), inside);
@@ -70,7 +69,7 @@ std::string KeyName(Key key, const char* control)
     return key.Code == 0 ? "" : modifiers + static_cast<char>(key.Code);
 }
 
-// An entry lies in the list of its parent, or in the window's menu bar; the page makes both.
+// Entries lie in the list of their parent, or in the window's menu bar; the page makes both.
 void PutEntry(const MenuEntry& entry)
 {
     const MenuEntry* const parent = entry.Parent();
@@ -79,7 +78,7 @@ void PutEntry(const MenuEntry& entry)
         Element()("role", "separator").Put(IdOf(entry), "Separator", inside);
         return;
     }
-    // Where one entry of a list is checked, all are a choice.
+    // If one entry of a list is checked, all of them are options of one choice.
     const std::vector<MenuEntry*> all = entry.Owner().MenuEntries();
     const bool choice = std::any_of(all.begin(), all.end(), [&](const MenuEntry* other) {
         return other->Parent() == parent && other->Checked;
@@ -97,8 +96,8 @@ void PutEntry(const MenuEntry& entry)
     element.Put(IdOf(entry), "MenuEntry", inside);
 }
 
-// What only controls of its kind have. The kind names the element's class. Buttons, lists and
-// rectangles of the design lie beside the windows: none of them is ever seen.
+// Sets what only this kind of control has, and gives the element's class. Buttons, lists and
+// rectangles of the design lie outside the windows and are never seen.
 const char* Describe(const Visual& visual, const Element& element)
 {
     if (const auto* const image = dynamic_cast<const Image*>(&visual)) {

@@ -1,5 +1,4 @@
-// Elements.h: windows and controls as the page is told of them: names of an element's properties
-// and attributes, with a value each.
+// Elements.h: turns windows and controls into elements of the page, with properties and attributes.
 #pragma once
 
 #include <string>
@@ -9,14 +8,14 @@
 
 namespace malvone::web {
 
-// How high the title or the menu is that lies above the client area. The main window has no title:
+// Height of the title or menu bar above the client area, in twips. The main window has no title:
 // the page is its frame.
 Twips Above(const Window& window);
 
 std::string IdOf(const Window& window);
 std::string IdOf(const Control& control);
 
-// Make an element where there is none yet, and tell it what has changed.
+// Make the element of a window or control, or update the one that is there.
 void Put(const Window& window);
 void Put(const Control& control);
 void Put(const Spoken& spoken, const std::string& name, const std::string& description);

@@ -1,5 +1,4 @@
-// Page.h: the one place where the program and its page meet. What the page can do stands in
-// page.js; it decides nothing.
+// Page.h: calls from the program to its page. The functions of the page are in page.js.
 #pragma once
 
 #include <emscripten/val.h>
@@ -17,7 +16,7 @@ Result Ask(const char* what, const Arguments&... arguments)
     return emscripten::val::global("page").call<Result>(what, arguments...);
 }
 
-// Lengths of the page by name, in twips: screen, main window, and the bar of a title or a menu.
+// A length of the page in twips, by name: of the screen, the main window, or a title or menu bar.
 inline Twips Length(const char* name)
 {
     return Ask<Twips>("length", std::string(name));

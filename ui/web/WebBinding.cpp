@@ -1,4 +1,4 @@
-// WebBinding.cpp: windows come, go and wait; events find their way to the layer.
+// WebBinding.cpp: shows windows and waits for events, which it passes on to the layer.
 #include "ui/web/WebBinding.h"
 
 #include <algorithm>
@@ -28,15 +28,15 @@ std::vector<Window*> ShownWindows()
     return shown;
 }
 
-// What would hang over the edge of the page could not be reached.
+// Nothing may hang over the edge of the page: it could not be reached.
 void KeepOnScreen(Window& window)
 {
     window.Move(std::max<Twips>(0, std::min<Twips>(window.Left, Screen.Width - window.Width)),
                 std::max<Twips>(0, std::min<Twips>(window.Top, Screen.Height - window.Height)));
 }
 
-// The page has got another size: the backdrop covers it, and the game stays in its middle with all
-// windows that lie over it.
+// The page has changed its size: the backdrop covers it again, and the game moves to its middle,
+// with all windows in front of it.
 void FitScreen(Binding& binding)
 {
     const std::vector<Window*> all = ShownWindows();
@@ -53,7 +53,7 @@ void FitScreen(Binding& binding)
     }
 }
 
-// Where nothing would be left of what was typed, the text stays as it was.
+// The text stays as it was if none of what was typed can be kept.
 void Typed(TextBox& box, const std::string& text, std::int32_t caret)
 {
     const std::string kept = KeepTypable(text);
@@ -76,7 +76,7 @@ void KeyPressed(const val& event)
     const auto* const box = dynamic_cast<const TextBox*>(window->Focus());
     const bool typing = box != nullptr && !box->Locked;
     if (key == Key{kKeyEsc, 0} && window->BorderStyle == Border::FixedSingle && !typing) {
-        RaiseClose(*window);  // as everywhere on pages
+        RaiseClose(*window);  // as dialogs on pages do
     } else {
         Ask("openMenu", event["text"]);
     }
@@ -105,7 +105,7 @@ void WebBinding::WindowLoaded(Window& window)
     window.Height = main ? Length("mainHeight") : window.ClientHeight + Above(window);
 }
 
-// The elements come to stand in the order in which they are read.
+// Elements are made in reading order.
 void WebBinding::WindowShown(Window& window, ShowMode /*mode*/)
 {
     KeepOnScreen(window);
@@ -136,8 +136,8 @@ void WebBinding::ControlChanged(Control& control, Change what)
     }
 }
 
-// Before it waits, the program shows what has become different; where that is much, the browser
-// goes on in between.
+// Brings the page up to date before the program waits. Many changes are made in steps, so that the
+// browser can go on in between.
 void WebBinding::ShowChanges()
 {
     constexpr std::size_t kStep = 20;
@@ -178,7 +178,7 @@ void WebBinding::HandleNext()
     const val event = Ask<val>("nextEvent", !Stand.KeinSpielBegonnen).await();
     const EventScope scope;
     const auto kind = event["kind"].as<std::string>();
-    // Window and control may have gone since the page has named them.
+    // Window and control may have gone since the event was queued.
     const InstanceBase* const instance = InstanceBase::Find(event["window"].as<std::string>());
     Window* const window = instance != nullptr ? instance->Current() : nullptr;
     if (kind == "key") {
@@ -206,7 +206,7 @@ void WebBinding::Used(Control& control, const std::string& kind, const val& even
         box.SetFocus();
         if (kind == "text") {
             Typed(box, event["text"].as<std::string>(), event["caret"].as<std::int32_t>());
-            ControlChanged(box, Change::Text);  // the page has to forget what was refused
+            ControlChanged(box, Change::Text);  // takes refused characters off the page
         }
     }
 }

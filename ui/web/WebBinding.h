@@ -1,5 +1,5 @@
-// WebBinding.h: brings the windows of the game to life on a page. The page has one queue of events;
-// whoever waits, the main loop or the loop of a modal window, takes the next one from it.
+// WebBinding.h: shows the game's windows on a page. The page has one queue of events; the main loop
+// and the loops of modal windows take their events from it.
 #pragma once
 
 #include <map>
@@ -31,12 +31,12 @@ public:
     void Ended() override { Ask("end"); }
 
 private:
-    std::vector<const Control*> changed_;  // since the page was told last
-    // By what name and description a screen reader knows each part of the windows that are shown.
+    std::vector<const Control*> changed_;  // since the page was last brought up to date
+    // Name and description for screen readers that the page has for each part of the shown windows.
     std::map<const Visual*, std::pair<std::string, std::string>> said_;
     Reporter reporter_;
     Window* dragged_ = nullptr;
-    Mouse grip_;  // where the pressed window was pressed, from its corner
+    Mouse grip_;  // where the dragged window was pressed, from its corner
 
     void ShowChanges();
     void HandleNext();

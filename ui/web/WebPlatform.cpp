@@ -1,4 +1,4 @@
-// WebPlatform.cpp: paths as names of entries.
+// WebPlatform.cpp: files as entries of the browser's storage, with their paths as names.
 #include "ui/web/WebPlatform.h"
 
 #include <optional>
@@ -56,7 +56,7 @@ FileFault WebPlatform::WriteTextLines(const std::string& path,
     if (Ask<bool>("folderExists", path)) {
         return WriteEntry(path, FileContent(lines));
     }
-    // The player has cleared the storage: what follows is kept again.
+    // The player has cleared the storage: make it usable again for the next file.
     CreateDirectoryA(path.substr(0, path.rfind('\\')));
     return FileFault::NotFound;
 }

@@ -1,6 +1,5 @@
-// WebPlatform.h: the services of a browser. Files are entries of its storage with the same bytes,
-// each written in one step; sounds and manuals lie beside the page. page.js knows which entries are
-// there and what may be written.
+// WebPlatform.h: a browser's services. Files are entries of its storage with the same bytes, each
+// written in one step; sounds and manuals lie beside the page. page.js decides what may be written.
 #pragma once
 
 #include "platform/Platform.h"

@@ -1,6 +1,6 @@
-// build-page.mjs: puts the files of the page together. Run by Node when the page is built:
-//   build-page.mjs SOURCE BINARY OUT
-// SOURCE is the repository, BINARY holds program, sounds and manuals, OUT becomes the page.
+// build-page.mjs: assembles the page.
+//   node build-page.mjs SOURCE BINARY OUT
+// SOURCE is the repository, BINARY the build folder with program, sounds and manuals, OUT the page.
 import { execFileSync } from "node:child_process";
 import { createHash } from "node:crypto";
 import { copyFileSync, mkdirSync, readdirSync, readFileSync, rmSync, writeFileSync } from "node:fs";
@@ -18,7 +18,7 @@ const beside = readdirSync(binary).filter(name => /\.(wav|pdf)$/i.test(name)).so
 for (const name of ["malvone.js", "malvone.wasm", ...beside]) copyFileSync(join(binary, name), join(out, name));
 for (const name of ["page.js", "malvone.webmanifest"]) copyFileSync(part(name), join(out, name));
 
-// Where a telephone cuts icons to a shape of its own, the face lies on a ground that may be cut.
+// Telephones crop icons to a shape of their own; there the face lies on a ground with a margin.
 const icon = text(join(source, "assets/pictures/icon-tessel.svg"));
 const onGround = icon.replace(/<svg [^>]*>/, '<svg xmlns="http://www.w3.org/2000/svg" viewBox="-6 -6 44 44">' +
   '<path fill="#BDBDBD" d="M-6-6h44v44h-44z"/>');
@@ -31,8 +31,8 @@ for (const [name, content] of Object.entries(icons)) write(name, content);
 const first = await firstPicture(out, join(source, "assets/pictures"));
 write("malvone.css", text(part("page.css")) + first.style);
 
-// One style sheet holds all pictures, so that one request brings them. A picture fills its place; a
-// proportion of its own would leave a margin.
+// One style sheet holds all pictures, so that one request loads them. Pictures are stretched to their
+// element: keeping their proportions would leave a margin.
 const pictures = readdirSync(join(source, "assets/pictures")).filter(name => name.endsWith(".svg")).sort();
 write("pictures.css", pictures.map(file => {
   const name = basename(file, ".svg");
@@ -43,7 +43,7 @@ write("pictures.css", pictures.map(file => {
     : `[data-picture=${name}] { background-image: ${url}; --across: ${/ width='(\d+)'/.exec(svg)[1]}; }\n`;
 }).join(""));
 
-// What is asked for carries the mark of its build, so that files of two builds never meet.
+// Files are requested with a mark of their build, so that those of two builds never mix.
 const start = `\n${text(part("start.js"))}`;
 const sha256 = content => createHash("sha256").update(content);
 const integrity = name => `sha256-${sha256(readFileSync(join(out, name))).digest("base64")}`;

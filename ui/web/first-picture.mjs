@@ -1,9 +1,9 @@
-// first-picture.mjs: the game's first picture, made by the program itself, so that a browser shows it
-// while it still loads the program: the main window's pictures as one picture, its words as elements.
+// first-picture.mjs: runs the program up to its first picture and turns that into a part of the page,
+// to be seen while the browser still loads the program: pictures as one drawing, texts as elements.
 import { readFileSync } from "node:fs";
 import vm from "node:vm";
 
-// What the program tells a page, up to the first time that it waits: elements by id.
+// Runs the program until it waits for an event. Gives the elements it has put, by id.
 const listen = folder => new Promise((resolve, reject) => {
   const elements = new Map();
   const told = {
@@ -33,9 +33,8 @@ const escape = text => text.replaceAll("&", "&amp;").replaceAll("<", "&lt;");
 const lengths = ["--left", "--top", "--width", "--height"];
 const box = element => lengths.map(name => Number(element[name]));
 
-// The picture of an element, as large as it or in its own size, and what it holds, which stands once in
-// the whole with names of its own. The cells of the empty board are alike and touch each other: one
-// pattern is drawn faster than 140 pictures.
+// Draws the picture of an element, stretched or in its own size. Each picture is defined once, with ids
+// of its own. The cells of the empty board are all alike: one pattern is faster than 140 pictures.
 const painter = pictures => {
   const defined = new Map();
   const contentOf = name => {
@@ -58,8 +57,8 @@ const painter = pictures => {
   };
 };
 
-// Where the parts of the main window lie in the upright layout: they keep their place among each
-// other and move as a whole. The first part that holds the corner of a control has it.
+// How far the parts of the main window move in the upright layout, in twips. A control belongs to the
+// first part that holds its upper left corner.
 const parts = [
   { right: 3200, bottom: 2700, across: 0, down: 6650 },       // title, manual, information
   { right: 3200, bottom: 6945, across: 3480, down: 3800 },    // displays, new game, end
@@ -71,8 +70,8 @@ const parts = [
 ];
 const moved = element => parts.find(({ right, bottom }) => element["--left"] < right && element["--top"] < bottom);
 
-// The program lies in `folder`, the pictures in `pictures`. Gives the markup of the first picture and
-// the style of what is laid out here; the page's security policy forbids styles in the markup.
+// `folder` holds the program. Gives the markup of the first picture and the styles that go with it,
+// apart because the page's security policy forbids styles in markup.
 export const firstPicture = async (folder, pictures) => {
   const elements = await listen(folder);
   const main = elements.get("frmTessel");
@@ -90,7 +89,7 @@ export const firstPicture = async (folder, pictures) => {
     : `<div class="${element.kind} first${element.number}">${escape(element.textContent ?? "")}</div>`);
 
   const bar = [...elements.values()].filter(({ kind, inside }) => inside === main.id && kind === "MenuEntry");
-  // Until its picture is there, the backdrop is as plain as the colour that lies under all of it.
+  // Until its picture has loaded, the backdrop is plain.
   const backdrop = readFileSync(`${pictures}/${elements.get("frmHintergrund.Image1")["data-picture"]}.svg`, "utf8");
   const rules = element => Object.keys(element).filter(name => name.startsWith("--")).map(name => `${name}: ${element[name]};`).join(" ");
   const upright = parts.map(part => {

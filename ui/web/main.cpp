@@ -1,4 +1,4 @@
-// main.cpp: starts the game on its page.
+// main.cpp: starts the game on the page.
 #include "game/Main.h"
 
 #include "ui/layer/App.h"

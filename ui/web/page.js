@@ -1,5 +1,5 @@
-// page.js: the page's side of the binding: elements, the queue of events, storage and sound. It
-// decides nothing; what an event means, the program says.
+// page.js: the page's side of the binding: elements, the event queue, storage and sound. It decides
+// nothing: what an event means is up to the program.
 
 const byId = id => document.getElementById(id);
 const screenBox = byId("screen");
@@ -10,16 +10,12 @@ const make = (tag, parent, properties) => {
   return element;
 };
 const attempt = (what, otherwise) => {
-  try {
-    return what();
-  } catch (fault) {
-    return otherwise?.(fault);
-  }
+  try { return what(); } catch (fault) { return otherwise?.(fault); }
 };
 
 var page = {
-  // The kinds of element and what they begin with. Controls lie in the client area of their window,
-  // below its bar; what nobody has words for is hidden from screen readers.
+  // Makes an element of each kind. Controls lie in the client area of their window, below its bar;
+  // those without a name are hidden from screen readers.
   make(kind, id, inside) {
     if (kind === "Separator") return make("div", menu.list(inside), { id, className: kind });
     if (kind === "MenuEntry") {
@@ -36,12 +32,12 @@ var page = {
     make("button", element, { className: "Close", textContent: "×", ariaLabel: "Schließen", onclick: () => page.push("close", id) });
     return element;
   },
-  // What the program tells of an element before it puts it, by name.
+  // Properties of the next element to be put, by name.
   told: {},
   put(id, kind, inside) {
     const element = byId(id) ?? page.make(kind, id, byId(inside));
     for (const [name, value] of Object.entries(page.told)) {
-      // What is typed changes an input behind the program's back.
+      // Typing changes an input without the program.
       if (element.told?.[name] === value && element.localName !== "input") continue;
       if (name.startsWith("--")) element.style.setProperty(name, value);
       else if (name in element) element[name] = value;
@@ -51,15 +47,15 @@ var page = {
     element.told = { ...element.told, ...page.told };
     page.told = {};
   },
-  // The first drawing is large; later nothing is worth waiting for.
+  // Only the first drawing is large enough to be split into steps.
   pause: () => new Promise(done => (start.plays ? done() : setTimeout(done))),
   remove(id) {
     page.back = byId(id)?.opener;
     byId(id)?.remove();
     page.focused = null;
   },
-  // The text box that is typed into, what the arrow keys have led to, or the topmost window; in a
-  // window that comes back, what had the focus before.
+  // Focuses the text box being typed into, what the arrow keys lead to, or the topmost window. A
+  // window that comes back to the front gives the focus to what had it before.
   focus(id) {
     if (page.focused === id) return;
     page.focused = id;
@@ -70,8 +66,8 @@ var page = {
 
   length: name => start.lengths[name],
 
-  // Events happen to a window or to one of its controls. While somebody waits, the next one is taken
-  // at once; of places the latest counts.
+  // Each event belongs to a window or to one of its controls. Of several moves in a row only the
+  // last counts.
   queue: [],
   push(kind, id, more) {
     if (start.over) return;
@@ -88,7 +84,7 @@ var page = {
     if (!page.queue.length) await new Promise(wake => { page.wake = wake; });
     return page.queue.shift();
   },
-  // The program has come to its first picture. What is not needed for that comes now.
+  // The program shows its first picture: time to load what it did not need until then.
   shown() {
     start.plays = true;
     byId("first").remove();
@@ -98,7 +94,7 @@ var page = {
     }
     navigator.serviceWorker?.register("worker.js").catch(() => {});
   },
-  // The one timer makes an arrow blink; who wants no motion is spared it.
+  // The only timer makes an arrow blink. With reduced motion it stands still.
   timers: {},
   timer(id, interval) {
     clearInterval(page.timers[id]);
@@ -106,7 +102,7 @@ var page = {
     if (interval && !calm) page.timers[id] = setInterval(page.push, interval, "timer", id);
   },
 
-  // Browsers play nothing before the first gesture; what the game plays until then is not made up for.
+  // Browsers play nothing before the first gesture; sounds until then are dropped.
   waves: {},
   unmute() {
     if (navigator.userActivation?.isActive === false || !globalThis.AudioContext) return;
@@ -125,9 +121,9 @@ var page = {
   },
   open: path => window.open(path.slice(3), "_blank", "noopener"),
 
-  // Files: entries of the browser's storage; what lies in the program's folder lives as long as the
-  // page. Numbers are those of the program's file faults. A page that does not know what an entry
-  // holds by now does not write it: where the browser has no locks, another page may have.
+  // Files are entries of the browser's storage; those in the program's folder last as long as the
+  // page. The numbers are the program's file faults. An entry that has changed since it was read is
+  // not overwritten: where the browser has no locks, another page may have written it.
   beside: Object.fromEntries(given.beside.split(" ").map(name => ["P:\\" + name, ""])),
   known: {},
   entries: name => (name.startsWith("P:") ? page.beside : localStorage),
@@ -147,12 +143,12 @@ var page = {
   end: () => start.tell("Das Spiel ist beendet."),
 };
 
-// The list behind an entry is open while the focus is in it, or where a pointer or a key has led to
-// the entry. The program hears what was chosen.
+// The list of an entry is open while the focus is in it, or when a pointer or a key has opened it.
+// The program only hears which entry was chosen.
 const menu = {
   bar: () => screenBox.querySelector("[role=menubar]"),
   isOpen: () => menu.bar()?.querySelector("[aria-expanded=true]"),
-  // The list of an entry, or the bar of a window: the first that the Tab key leads to.
+  // The list of an entry, or the menu bar of a window, which comes first in the tab order.
   list(owner) {
     if (!owner.list && owner.client) owner.prepend(owner.list = make("div", owner, { role: "menubar" }));
     if (!owner.list) owner.after(owner.list = make("div", owner, { role: "menu", owner }));
@@ -172,7 +168,7 @@ const menu = {
     menu.leave();
     return page.push("menu", entry.id);
   },
-  // What a key does in the menu; false: the focus is elsewhere.
+  // Handles a key in the menu. Returns false if it is not the menu's.
   key(event) {
     const here = document.activeElement;
     const bar = menu.bar();
@@ -204,7 +200,7 @@ page.openMenu = keys => { if (withKeys(keys)?.list) menu.choose(withKeys(keys));
 
 const shiftOf = event => event.shiftKey * 1 + event.ctrlKey * 2 + event.altKey * 4;
 const send = (kind, event, window) => {
-  // How far what lies there has been moved by the upright layout.
+  // The upright layout may have moved what lies there.
   const style = getComputedStyle(document.elementFromPoint(event.clientX, event.clientY) ?? screenBox);
   const [across, down] = ["x", "y"].map(axis => Number(style.getPropertyValue(`--shift-${axis}`)));
   const lost = kind === "cancel";
@@ -216,8 +212,8 @@ const send = (kind, event, window) => {
   });
 };
 
-// A finger acts where it is lifted, if it came down there: until then it may zoom with a second one,
-// drag a message, or stay for the tip. A pen that does not hover is a finger.
+// A finger acts when it is lifted where it came down. Until then it may become a zoom with a second
+// finger, drag a message, or be held for the tip. A pen that does not hover is a finger.
 const tip = text => Object.assign(byId("tip"), { textContent: text, hidden: !text });
 const finger = {
   from: null,
@@ -259,12 +255,12 @@ for (const kind of ["down", "move", "up", "cancel"]) {
   });
 }
 const on = (type, react, options) => screenBox.addEventListener(type, react, options);
-// While a list is open, pointing is enough.
+// While a list is open, pointing at another entry opens that one.
 on("pointerover", ({ target, pointerType }) => {
   if (target.matches(".MenuEntry") && pointerType === "mouse" && menu.isOpen()) menu.go(target, true);
 });
 on("focusin", event => { if (!menu.bar()?.contains(event.target)) menu.go(); });
-// A pointer on the board leaves the focus where it is.
+// Clicks on the board leave the focus where it is.
 on("mousedown", event => { if (!event.target.closest("input, button")) event.preventDefault(); });
 on("contextmenu", event => event.preventDefault());
 // A click without a pointer comes from a screen reader.
@@ -288,11 +284,11 @@ addEventListener("keydown", event => {
     if (!repeat) page.push("press", here.id);
     return;
   }
-  // The codes of the layer are the browser's old numbers for keys. What the arrow keys have led to is
-  // taken as by Delete.
+  // The layer's key codes are the browser's keyCode. Enter takes what the arrow keys lead to, as
+  // Delete does.
   const code = presses && here.dataset.highlight ? 46 : event.keyCode;
   const text = (ctrlKey ? "Control+" : altKey ? "Alt+" : "") + (code >= 65 && code <= 90 ? String.fromCharCode(code) : key);
-  // What a key opens, it must not type into; a letter with Alt is no letter.
+  // A key that opens a text box must not type into it, and Alt with a letter types nothing.
   const types = key.length === 1 && !ctrlKey && !altKey && here.localName !== "input";
   if (types || withKeys(text) || (altKey && /^[a-z]$/i.test(key))) event.preventDefault();
   page.push("key", "", { code, shift: shiftOf(event), held: repeat, text });
@@ -304,8 +300,8 @@ addEventListener("resize", () => {
 });
 addEventListener("beforeunload", event => { if (page.gameRuns && !start.over) event.preventDefault(); });
 
-// What the game needs comes while the picture that the page has come with is seen. Every picture is
-// drawn once before a control shows it, and not all of them in one go: reading the style draws.
+// The game loads behind the picture that is part of the page. Each of its pictures is drawn once
+// before a control shows it, in small steps: reading the computed style draws it.
 const build = src.replace(/^[^?]*/, "");
 const load = (tag, properties) => new Promise(onload => Object.assign(make(tag, document.head), { onload, ...properties }));
 const stock = async ({ target }) => {
@@ -321,16 +317,14 @@ const loadGame = () => Promise.all([
   load("script", { integrity: given.program, src: "malvone.js" + build }),
 ]);
 
-// One page of a browser has the game, so that lists never mix; the others wait for it or take it over.
+// Only one page of a browser runs the game, so that best lists never mix. The others wait for it, or
+// take it over.
 const begin = ([module]) => {
   const play = () => new Promise(release => {
     start.release = release;
     malvone({
       onAbort: () => start.fail(),
-      instantiateWasm(imports, ready) {
-        WebAssembly.instantiate(module, imports).then(ready);
-        return {};
-      },
+      instantiateWasm: (imports, ready) => (WebAssembly.instantiate(module, imports).then(ready), {}),
     });
   });
   const elsewhere = words => start.tell(words, "Hier weiterspielen", () => {
@@ -346,13 +340,13 @@ const begin = ([module]) => {
     navigator.locks.request("malvone", () => location.reload());
     return null;
   }).catch(fault => (fault.name === "AbortError" ? elsewhere("Malvone läuft jetzt in einem anderen Fenster oder Reiter.")
-    : play()));  // a browser that forbids the storage forbids locks too
+    : play()));  // a browser that forbids storage forbids locks too
 };
 
 if (typeof WebAssembly !== "object") {
   start.tell("Dieser Browser kann das Spiel nicht ausführen: WebAssembly fehlt oder ist abgeschaltet.");
 } else {
-  // A page that nobody sees paints nothing.
+  // Hidden pages never paint.
   new Promise(painted => (document.hidden ? painted() : requestAnimationFrame(() => setTimeout(painted))))
     .then(loadGame).then(begin, () => start.fail());
 }

@@ -1,8 +1,8 @@
-// start.js: what stands in the page itself, to be there before any other file: how large the game is
-// drawn, and a sentence for the player in place of a game that cannot run.
+// start.js: part of the page itself, so that it runs before any other file loads. Says how large the
+// game is drawn, and tells the player if it cannot run.
 const start = {
-  // The ways to lay out the main window: width and height of its client area in twips. The upright
-  // one is for telephones; where its parts lie, first-picture.mjs says.
+  // Width and height of the main window's client area in twips, across and upright. The upright
+  // layout is for telephones; first-picture.mjs says where its parts lie.
   layouts: [[11325, 6945], [7125, 10480]],
 
   // Cells are whole device pixels at every size.
@@ -28,7 +28,7 @@ const start = {
     for (const [name, value] of Object.entries(told)) style.setProperty(`--${name}`, value);
   },
 
-  // The first sentence stays. Whoever has the game gives it up.
+  // The first message stays. A page that runs the game gives it up.
   tell(words, label = "Noch einmal beginnen", act = () => location.reload()) {
     if (this.over) return;
     this.over = true;
@@ -39,8 +39,7 @@ const start = {
       const button = document.querySelector("button");
       Object.assign(button, { textContent: label, onclick: act }).focus();
     };
-    if (document.readyState === "loading") addEventListener("DOMContentLoaded", show);
-    else show();
+    document.readyState === "loading" ? addEventListener("DOMContentLoaded", show) : show();
   },
   fail() { this.tell("Das Spiel kann nicht laufen: Eine seiner Dateien fehlt oder ist beschädigt."); },
 };
@@ -49,10 +48,10 @@ if (location.protocol === "file:") {
   start.tell("Ein Browser lädt die Dateien des Spiels nicht aus einem Ordner, sondern nur von einem Webserver. " +
     "»./play --browser« startet einen.");
 }
-// A part of the game does not come, or not as it was built, or cannot be read by this browser.
+// A part of the game is missing, damaged, or more than this browser understands.
 addEventListener("error", ({ target, filename }) => {
   if (target.integrity || (!start.plays && /\/(page|malvone)\.js/.test(filename))) start.fail();
 }, true);
-// Others may have scripts on the page too; only the program's own fault ends it.
+// Extensions run scripts on the page too; only the game's own faults end it.
 addEventListener("unhandledrejection", ({ reason }) => { if (/(page|malvone)\.(js|wasm)/.test(reason?.stack)) start.fail(); });
 addEventListener("DOMContentLoaded", () => { if (!document.getElementById("stock")) start.fail(); });
