@@ -104,6 +104,7 @@ var page = {
 
   // Browsers play nothing before the first gesture; sounds until then are dropped.
   waves: {},
+  decoded: {},
   unmute() {
     if (navigator.userActivation?.isActive === false || !globalThis.AudioContext) return;
     page.speaker ??= new AudioContext();
@@ -113,8 +114,9 @@ var page = {
     page.playing?.disconnect();
     if (!path || !page.speaker) return;
     const playing = page.playing = new AudioBufferSourceNode(page.speaker);
-    const bytes = await page.waves[path.slice(3)];
-    playing.buffer = await page.speaker.decodeAudioData(bytes?.slice()).catch(() => null);
+    const name = path.slice(3);
+    page.decoded[name] ??= page.waves[name]?.then(bytes => page.speaker.decodeAudioData(bytes)).catch(() => null);
+    playing.buffer = await page.decoded[name];
     if (playing !== page.playing) return;
     playing.connect(page.speaker.destination);
     playing.start();
