@@ -313,6 +313,17 @@ TEST_F(Files, AFileWithoutPermissionIsKeptBesideTheNewOneAndOverNoOther)
     EXPECT_EQ(Names(Disk).size(), 3U);
 }
 
+TEST_F(Files, WhereThereAreNoSecondNamesACopyIsKept)
+{
+    Make();
+    ::chmod(File.c_str(), 0640);
+    System.Fault = Fails("link", EPERM);
+    EXPECT_EQ(System.ReplaceTextLines(kFile, kNew, OldFile::Kept), FileFault::None);
+    EXPECT_EQ(System.ReadTextLines(kFile, 2).Lines, kNew);
+    EXPECT_EQ(Contents(Disk / kKept), kOldContent);
+    EXPECT_EQ(fs::status(Disk / kKept).permissions(), fs::perms(0640));
+}
+
 TEST_F(Files, AfterTheEndNothingIsWrittenDeletedOrMade)
 {
     Make();

@@ -64,6 +64,8 @@ int Run(int argc, char** argv)
     }
     const std::optional<std::filesystem::path> root = DefaultDataRoot();
     SingleGame single(root.value_or("") / kDatenOrdnerName);
+    // By design (ein-spiel-je-ordner): one would expect a second game. The first one comes to the
+    // front instead. Test: display.qt.windows_e2e
     if (root && !single.MayPlay()) {
         return 0;
     }
