@@ -2,9 +2,7 @@
 #include "game/Main.h"
 
 #include <QApplication>
-#include <cerrno>
 #include <csignal>
-#include <cstdio>
 #include <filesystem>
 #include <optional>
 
@@ -28,7 +26,9 @@ void StartQt(std::optional<QApplication>& application, int& argc, char** argv)
     QApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);
     QApplication::setApplicationName(QStringLiteral("malvone"));
     QApplication::setDesktopFileName(QStringLiteral("malvone"));
+    const QtMessageHandler before = qInstallMessageHandler(OnQtMessage);
     application.emplace(argc, argv);
+    qInstallMessageHandler(before);
     const double ratio = LowestRatio();
     if (ratio < 1) {
         application.reset();
@@ -55,12 +55,9 @@ int Play(const std::optional<std::filesystem::path>& root, const SingleGame& sin
 
 int Run(int argc, char** argv)
 {
-    if (!DisplayReachable()) {
-        std::fprintf(stderr,
-                     "%s: there is no display to play on "
-                     "(neither DISPLAY nor WAYLAND_DISPLAY leads to one)\n",
-                     program_invocation_short_name);
-        return 1;
+    if (const char* const why = WhyNoDisplay()) {
+        TellNoDisplay(why);
+        return kNoDisplay;
     }
     const std::optional<std::filesystem::path> root = DefaultDataRoot();
     SingleGame single(root.value_or("") / kDatenOrdnerName);

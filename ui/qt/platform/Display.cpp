@@ -7,7 +7,10 @@
 
 #include <QGuiApplication>
 #include <QScreen>
+#include <QString>
 #include <algorithm>
+#include <cerrno>
+#include <cstdio>
 #include <cstdlib>
 #include <string>
 
@@ -27,24 +30,31 @@ std::string Environment(const char* name)
     return value != nullptr ? value : "";
 }
 
-bool AskX11()
+enum class Reached { No, WithFewColours, Yes };
+
+Reached AskX11()
 {
     if (Environment("DISPLAY").empty()) {
-        return false;
+        return Reached::No;
     }
 #ifdef MALVONE_XCB
+    constexpr int kLeastBits = 15;  // fewer leave Qt's windows black
+    Reached reached = Reached::No;
     xcb_connection_t* const connection = xcb_connect(nullptr, nullptr);
-    const bool reached = xcb_connection_has_error(connection) == 0;
+    if (xcb_connection_has_error(connection) == 0) {
+        const auto* const screen = xcb_setup_roots_iterator(xcb_get_setup(connection)).data;
+        reached = screen->root_depth < kLeastBits ? Reached::WithFewColours : Reached::Yes;
+    }
     xcb_disconnect(connection);
     return reached;
 #else
-    return true;
+    return Reached::Yes;
 #endif
 }
 
-bool X11Reachable()
+Reached X11()
 {
-    static const bool reached = AskX11();
+    static const Reached reached = AskX11();
     return reached;
 }
 
@@ -74,16 +84,39 @@ bool WaylandReachable()
 
 }  // namespace
 
-bool DisplayReachable()
+const char* WhyNoDisplay()
 {
-    return !Environment(kPlatform).empty() || X11Reachable() || WaylandReachable();
+    if (!Environment(kPlatform).empty() || X11() == Reached::Yes || WaylandReachable()) {
+        return nullptr;
+    }
+    return X11() == Reached::WithFewColours
+               ? "Der Bildschirm zeigt zu wenige Farben; das Spiel braucht mindestens 32768."
+               : "Es gibt keinen Bildschirm für das Spiel: "
+                 "Weder DISPLAY noch WAYLAND_DISPLAY führt zu einem.";
+}
+
+void TellNoDisplay(const char* why)
+{
+    std::fprintf(stderr, "%s: %s\n", program_invocation_short_name, why);
+}
+
+void OnQtMessage(QtMsgType type, const QMessageLogContext& context, const QString& text)
+{
+    if (type == QtFatalMsg) {
+        TellNoDisplay("Qt kann auf diesem Bildschirm keine Fenster öffnen. "
+                      "Für Wayland braucht es das Paket qt6-wayland.");
+        std::_Exit(kNoDisplay);
+    }
+    if (!QLatin1StringView(context.category).startsWith(QLatin1StringView("qt.qpa."))) {
+        std::fprintf(stderr, "%s\n", qPrintable(qFormatLogMessage(type, context, text)));
+    }
 }
 
 void PreferX11()
 {
     // Naming both would make Qt print a warning when the first one fails.
     if (Environment(kPlatform).empty()) {
-        qputenv(kPlatform, X11Reachable() ? "xcb" : "wayland");
+        qputenv(kPlatform, X11() == Reached::Yes ? "xcb" : "wayland");
     }
 }
 
