@@ -9,6 +9,8 @@
 #include <string>
 #include <string_view>
 
+#include "ui/qt/platform/Display.h"
+
 #ifdef MALVONE_XCB
 #include <xcb/xcb.h>
 #endif
@@ -106,6 +108,10 @@ std::string ManagerName(xcb_connection_t* connection)
 
 BackdropManner AskedFor()
 {
+    // A full-screen window lies above all others there, or beside none.
+    if (!WindowsCanBePlaced()) {
+        return BackdropManner::None;
+    }
 #ifdef MALVONE_XCB
     xcb_connection_t* const connection = Connection();
     if (connection == nullptr) {
