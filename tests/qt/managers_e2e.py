@@ -54,6 +54,7 @@ def message_is_torn_away(desktop, game):
         desktop.do("mousemove", x, y, "mousedown", 1, "mousemove", x + 40, y + 90, "mousemove",
                    x + 60, y + 120, "mouseup", 1)
         until(lambda: desktop.place(message)[:2] == [left + 60, top + 120], "the message to follow")
+    until(lambda: desktop.focused() == game.main, "the keyboard to come back")
 
 
 def design_grows(desktop, game):

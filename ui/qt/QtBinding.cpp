@@ -33,15 +33,17 @@ QtBinding::QtBinding()
     InstallAccessibility();
     const auto watch = [this](const QScreen* screen) {
         QObject::connect(
-            screen, &QScreen::availableGeometryChanged, &screens_, [this] { ScreensChanged(); },
+            screen, &QScreen::availableGeometryChanged, &receiver_, [this] { ScreensChanged(); },
             Qt::QueuedConnection);
     };
     for (const QScreen* const screen : QGuiApplication::screens()) {
         watch(screen);
     }
-    QObject::connect(qGuiApp, &QGuiApplication::screenAdded, &screens_, watch);
+    QObject::connect(qGuiApp, &QGuiApplication::primaryScreenChanged, &receiver_,
+                     [this] { PrimaryScreenChanged(); });
+    QObject::connect(qGuiApp, &QGuiApplication::screenAdded, &receiver_, watch);
     QObject::connect(
-        qGuiApp, &QGuiApplication::screenRemoved, &screens_, [this] { ScreensChanged(); },
+        qGuiApp, &QGuiApplication::screenRemoved, &receiver_, [this] { ScreensChanged(); },
         Qt::QueuedConnection);
 }
 
@@ -151,6 +153,15 @@ void QtBinding::Painted(FormWidget& form)
     }
 }
 
+// Places are counted from the corner of that screen: they change, and the windows stay.
+void QtBinding::PrimaryScreenChanged()
+{
+    for (FormWidget* const form : forms_) {
+        form->TellPlace();
+    }
+    QTimer::singleShot(0, &receiver_, [this] { ScreensChanged(); });
+}
+
 void QtBinding::ScreensChanged()
 {
     if (backdrop_ != nullptr && backdrop_->isVisible()) {
@@ -236,6 +247,7 @@ void QtBinding::WindowHidden(Window& window)
         backdrop_->hide();
     }
     if (FormWidget* const form = FormOf(window)) {
+        HandOnKeyboard(*form);
         form->hide();
     }
     LeaveLoop(window);
@@ -249,12 +261,28 @@ void QtBinding::WindowUnloaded(Window& window)
         backdrop_.release()->deleteLater();
     }
     if (FormWidget* const form = FormOf(window)) {
+        HandOnKeyboard(*form);
         std::erase(forms_, form);
         form->Detach();
         // One of its own events may be what unloads the window.
         form->deleteLater();
     }
     LeaveLoop(window);
+}
+
+// A window that goes is about to leave the keyboard to nobody, where no window manager sees to it.
+void QtBinding::HandOnKeyboard(const FormWidget& from)
+{
+    if (!from.isActiveWindow()) {
+        return;
+    }
+    QTimer::singleShot(0, &receiver_, [this] {
+        const Window* const modal = App.TopModal();
+        FormWidget* const next = modal != nullptr ? FormOf(*modal) : MainForm();
+        if (next != nullptr && next->isVisible() && !App.Ended()) {
+            next->activateWindow();
+        }
+    });
 }
 
 void QtBinding::WindowChanged(Window& window, Change what)

@@ -56,7 +56,7 @@ private:
     std::vector<FormWidget*> forms_;
     std::vector<ModalLoop> loops_;
     std::unique_ptr<BackdropWindow> backdrop_;
-    QObject screens_;  // ends the connections to the screens with the binding
+    QObject receiver_;  // ends the connections to screens and timers with the binding
 
     FormWidget* MainForm() const;
     // How large windows are drawn.
@@ -64,6 +64,7 @@ private:
     void FollowManager(FormWidget& form);
     void Rescaled(const FormWidget& form);
     void Painted(FormWidget& form);
+    void PrimaryScreenChanged();
     void ScreensChanged();
     FormWidget& Make(Window& window, ShowMode mode);
     QWindow* ParentOf(const Window& window, ShowMode mode) const;
@@ -73,6 +74,7 @@ private:
     // All windows of the game from the lowest to the topmost, or only one of them.
     void BringToFront(const Window* only);
     void CloseMainWindow();
+    void HandOnKeyboard(const FormWidget& from);
     void LeaveLoop(const Window& window);
 };
 

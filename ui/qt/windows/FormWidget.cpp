@@ -154,17 +154,38 @@ void FormWidget::ShowMenuLast()
     }
 }
 
+// Monitors that are switched off take their screens with them, and bring them back. A window that
+// was made smaller for that gets its size and place again, unless the player has resized it since.
 void FormWidget::FollowScreens()
 {
     if (!isVisible()) {
         return;
     }
-    const double fitting = FactorOnScreen(DesignOf(*window_), SizeAt(1).height());
-    if (menu_ != nullptr && !isMaximized() && fitting < scale_.Factor() && !placement_.Fits()) {
-        SetFactor(fitting);
+    if (menu_ != nullptr && !isMaximized()) {
+        FitOntoScreens();
     }
     placement_.OntoScreen();
     placement_.ToScreen();
+}
+
+void FormWidget::FitOntoScreens()
+{
+    const double fitting = FactorOnScreen(DesignOf(*window_), SizeAt(1).height());
+    if (fitting < scale_.Factor() && !placement_.Fits(size())) {
+        if (size() != small_) {
+            large_ = size();
+            largePlace_ = QPointF(window_->Left, window_->Top);
+        }
+        SetFactor(fitting);
+        small_ = size();
+    } else if (size() == small_ && placement_.Fits(large_)) {
+        small_ = QSize();
+        resize(large_);
+        window_->Move(static_cast<Twips>(largePlace_.x()), static_cast<Twips>(largePlace_.y()));
+    } else if (size() == small_ && fitting > scale_.Factor()) {
+        SetFactor(fitting);
+        small_ = size();
+    }
 }
 
 QRectF FormWidget::PlaceOnForm(const Visual& visual) const

@@ -33,6 +33,8 @@ public:
     void ToFront();
     // Call when screens have changed: moves the window onto a screen, and shrinks it if need be.
     void FollowScreens();
+    // Tells the model where the window is.
+    void TellPlace() { placement_.FromScreen(); }
     // Whether it has been painted since it was shown.
     bool WasPainted() const { return painted_; }
 
@@ -82,9 +84,14 @@ private:
     PointerInput pointer_;
     double ratio_ = 1;  // of the screen's pixels to Qt's, as the scale was made for
     bool painted_ = false;
+    // As it was before the screens became too small for it, and what it has become.
+    QSize large_;
+    QSize small_;
+    QPointF largePlace_;  // in twips
 
     QSize SizeAt(double factor) const;
     QRectF Room() const;  // all below the menu
+    void FitOntoScreens();
     void Rescale();
     void ShowMenuLast();
     bool RouteKey(const QKeyEvent& event);

@@ -72,9 +72,10 @@ QRect Placement::Outer() const
             QSize(ToWholePixels(window_.Width), ToWholePixels(window_.Height))};
 }
 
-bool Placement::Fits() const
+bool Placement::Fits(QSize size) const
 {
-    const QRect outer = Outer();
+    const QWindow* const handle = widget_.windowHandle();
+    const QSize outer = size.grownBy(handle != nullptr ? handle->frameMargins() : QMargins());
     const QList<QScreen*> screens = QGuiApplication::screens();
     return std::any_of(screens.begin(), screens.end(), [&outer](const QScreen* screen) {
         const QSize room = screen->availableSize();

@@ -23,7 +23,8 @@ public:
     void ToScreen();
     // Moves the model's place to the nearest one that lies wholly on a screen.
     void OntoScreen();
-    bool Fits() const;
+    // Whether a window of this size, with its frame, has room on a screen.
+    bool Fits(QSize size) const;
     // Tells the model the place, and the size with the frame, that the player or the window manager
     // has chosen.
     void FromScreen();
