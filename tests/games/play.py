@@ -3,9 +3,9 @@
 
     play.py [--write] PROGRAM NAME.drehbuch      PROGRAM: drehbuch, or drehbuch.js
 
-A script is its own transcript. Behind the line that says who waits, `> WINDOW`, stands the command
-that is given there; the other lines are what it has changed, as the option --changes tells it. A
-difference ends with status 1. --write writes what is told today into the script, which is worth
+A script is its own transcript. After `> WINDOW`, which says who waits, comes the command that is
+given there; the other lines are what it has changed, as the option --changes reports it. A
+difference ends with status 1. --write writes what is reported today into the script, which is worth
 nothing until somebody has read it; for a new command any window will do.
 
 Each script is played in fresh folders: `daten` stands for the root of the drive and `programm` for
@@ -19,7 +19,7 @@ while it waits.
     #: plain                      without --changes, as any other program would drive it
     #: spoken                     with --spoken instead: what a screen reader says
     #: options --klanggeraete 0   further options of the program
-    #: restart [OPTIONS]          ends the program by the end of its input and starts it anew
+    #: restart [OPTIONS]          ends the program by the end of its input and starts it again
     #: times 4                    the next command is given four times; what is told each time is
                                   told once
     #: without TADA.WAV           removes files of the program's folder
@@ -209,9 +209,9 @@ class Play:
 
 
 def difference(source, wanted, played):
-    """What is told otherwise, with the lines around it and marks below what differs in a line."""
+    """What differs, with the lines around it and marks below what differs within a line."""
     for group in difflib.SequenceMatcher(None, wanted, played, autojunk=False).get_grouped_opcodes(3):
-        yield f"{source}:{group[0][1] + 1}:   - stands in the script   + is told now"
+        yield f"{source}:{group[0][1] + 1}:   - in the script   + now"
         for kind, i1, i2, j1, j2 in group:
             for old, new in itertools.zip_longest(wanted[i1:i2], played[j1:j2]):
                 if kind == "equal":

@@ -1,4 +1,4 @@
-// BesteTest.cpp: the best list where no script comes: results of any size, numbers that are none,
+// BesteTest.cpp: the best list where no script reaches: results of any size, numbers that are none,
 // and files that fail. What the player sees and types stands in the played games.
 #include <gtest/gtest.h>
 
@@ -36,7 +36,7 @@ TEST(BesteFenster, ARowShowsItsPoints)
         {"007", "...007"},
         {"654321", "654321"},
         {"7654321", "654321"},     // the first digit lies in the place that is never visible
-        {"12345678", "999999"},    // more than seven digits: at least so much
+        {"12345678", "999999"},    // more than seven digits: at least that
         {"2147483647", "999999"},  //
         {"2147483648", "......"},  // no number counts as 0
         {"", "......"},

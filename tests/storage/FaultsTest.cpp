@@ -19,7 +19,7 @@ const std::string kEntered = "A\r\nB\r\nC\r\nx\r\nD\r\n5000\r\n400\r\n300\r\n254
 const std::string kWiped = "Niemand\r\nNiemand\r\nNiemand\r\nNiemand\r\nNiemand\r\n"
                            "5000\r\n4700\r\n4400\r\n4100\r\n3800\r\n";
 
-// Says yes to everything, enters a name where one is asked for, and else wipes the list.
+// Says yes to everything, enters a name where one is asked for, and otherwise wipes the list.
 class Player final : public script::Script
 {
 public:

@@ -12,7 +12,7 @@
 
 namespace malvone {
 
-// For the names of failed comparisons.
+// For the messages of failed comparisons.
 void PrintTo(FileFault fault, std::ostream* os)
 {
     *os << static_cast<int>(fault);
@@ -253,7 +253,7 @@ TEST_F(Files, WhatLiesInThePlaceOfTheNewFileIsNotWrittenThrough)
     }
 }
 
-// Nothing is read-only for root: the test then goes on as a user who is nobody.
+// Nothing is read-only for root: the test then goes on as the user nobody.
 class WithoutPrivileges
 {
 public:

@@ -14,7 +14,7 @@
 
 namespace malvone::test {
 
-// A folder of its own that goes with the test.
+// A temporary folder that is removed with the test.
 class Folder
 {
 public:

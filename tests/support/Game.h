@@ -1,4 +1,4 @@
-// Game.h: the one kit of the core's tests: the whole program behind the binding of the script
+// Game.h: the test kit of the core: the whole program behind the binding of the script
 // program, in folders of its own. A test says what happens in the lines of a script and compares
 // the lines that come back.
 #pragma once

@@ -12,7 +12,7 @@ pictures. All of it ends with the script, however that ends.
             game.end()                                      # status 0, silence on standard error
         desktop.run("import", "-window", "root", "all.png")
 
-HOME, the runtime folder and the data lie in a passing folder, or in one that is handed in and stays.
+HOME, the runtime folder and the data lie in a temporary folder, or in one that is handed in and stays.
 MALVONE_BUILD names the folder of the built game. Needs xvfb, xdotool, x11-utils, imagemagick.
 """
 import contextlib
@@ -46,8 +46,8 @@ def cell(number):
 
 class Desktop:
     def __init__(self, manager=("openbox",), size=(1920, 1200), folder=None, **environment):
-        self.passing = None if folder else tempfile.mkdtemp(prefix="malvone-")
-        self.folder, self.size, self.manager = folder or self.passing, size, None
+        self.temporary = None if folder else tempfile.mkdtemp(prefix="malvone-")
+        self.folder, self.size, self.manager = folder or self.temporary, size, None
         read, write = os.pipe()
         self.processes = [start(
             # Without -noreset the server starts anew whenever its last client leaves, and drops
@@ -82,8 +82,8 @@ class Desktop:
     def close(self):
         for process in reversed(self.processes):
             end(process)
-        if self.passing:
-            shutil.rmtree(self.passing, ignore_errors=True)
+        if self.temporary:
+            shutil.rmtree(self.temporary, ignore_errors=True)
 
     def start(self, *command, **options):
         self.processes.append(start(command, env=self.env, **options))

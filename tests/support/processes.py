@@ -1,5 +1,5 @@
-"""What every script needs that starts other programs: they end with it, however it ends, and it waits
-for what it wants to observe, with a limit that fails.
+"""For scripts that start other programs: these end with the script, however it ends, and the script
+waits for what it wants to see, with a limit that fails.
 
     sys.path.append(os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", "support"))
     from processes import expect, script, start, until
@@ -48,7 +48,7 @@ def until(condition, what, seconds=30.0):
 
 def start(command, **options):
     """Starts a program that the system kills when the thread that started it is gone: so start
-    nothing from a passing thread."""
+    nothing from a short-lived thread."""
     return subprocess.Popen(["setpriv", "--pdeathsig", "KILL", "--", *map(str, command)], **options)
 
 
