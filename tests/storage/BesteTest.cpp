@@ -148,17 +148,6 @@ TEST(BesteLesen, AFileThatCannotBeReadIsToldByItsNumber)
     }
 }
 
-TEST(BesteSpeichern, AFailureIsToldAndLeavesTheFile)
-{
-    Game game;
-    frmBeste->lstName.SetList(0, "neu");
-    game.Platform.Fault = Fails("sync", ENOSPC);
-    const std::string told = game("key Esc\n", &BesteSpeichern);
-    EXPECT_NE(told.find("konnten nicht gespeichert werden."), std::string::npos) << told;
-    EXPECT_EQ(Contents(game.BestList), kDefault);
-    EXPECT_EQ(frmBeste->lstName.List(0), "neu");
-}
-
 // What this run knows of the file is old: somebody else has written it before the save.
 TEST(BesteSpeichern, AnEntryGoesIntoTheListThatIsThereNow)
 {

@@ -118,12 +118,9 @@ TEST_F(Files, AFileIsReadLineByLineAsFarAsItGoes)
         {"a\n\rb\r\nc", {"a", "", "b"}},
         {"a\r\r\n\nb", {"a", "", ""}},
         {"a\nb\nc", {"a", "b", "c"}},  // the last line needs no end
-        {"a\nb\nc\nd", {"a", "b", "c"}},
-        {"\n\n\n", {"", "", ""}},
         {block + "\r\nb\nc", {block, "b", "c"}},
         {std::string("a\0b\n\x1A\n\xFC", 7), {std::string("a\0b", 3), "\x1A", "ü"}},
         {"", {}, FileFault::PastEnd},
-        {"\n", {""}, FileFault::PastEnd},
         {"a\nb", {"a", "b"}, FileFault::PastEnd},
         {name + "\r\nb\nc", {name, "b", "c"}},
     };
