@@ -87,10 +87,10 @@ const player = tab => {
       const lengths = [window.left, window.top, window.width, cell.left, cell.top, cell.width, cell.height].map(length => length * ratio);
       assert.ok(lengths.every(length => Math.abs(length - Math.round(length)) < 0.05), `${text}: ${lengths}`);
       assert.ok(window.left >= 0 && window.top >= 0 && window.right <= width && window.bottom <= height, text);
-      const upright = 3 * height > 4 * width;
+      const upright = 3 * height >= 4 * width;
       const possible = upright ? height : Math.min(width * 487 / 755, height);
       assert.ok(window.height >= 0.95 * possible || (upright && window.width >= 0.95 * width), `${text}: ${window.width} x ${window.height}`);
-      assert.ok(cell.width >= 20 && bar.height >= 24, text);
+      assert.ok(cell.width >= Math.max(20, upright && width / 18) && bar.height >= 24, text);
     },
     begin: () => game.click("frmTessel.lblNeu").has("frmTessel.Image4", "ariaLabel", "Level: 1"),
     // A stone with a neighbour of its colour below or to the right, or nothing.

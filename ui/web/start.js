@@ -14,7 +14,7 @@ const start = {
     const cell = ([width, height]) => whole(480 * Math.max(1 / 60,
       Math.min(clientWidth / width, (clientHeight - leastBar) / height, clientHeight / (height + 360))));
     const [wide, upright] = this.layouts;
-    const layout = cell(upright) > 1.4 * cell(wide) ? upright : wide;
+    const layout = cell(upright) > 1.25 * cell(wide) ? upright : wide;
     const twip = this.twip = cell(layout) / 480;
     const bar = Math.max(leastBar, whole(360 * twip)) / twip;
     const [screenWidth, screenHeight] = [clientWidth / twip, clientHeight / twip];
