@@ -245,7 +245,7 @@ std::string Changes::DisplayLine(Window& window)
     for (const Spoken& spoken : SpokenOn(window)) {
         const std::string number = spoken.Display == nullptr ? "" : NumberOn(*spoken.Display);
         if (std::exchange(displays_[spoken.Painted], number) != number) {
-            line += (line.empty() ? "~ " : ", ") + spoken.Painted + ": " + number;
+            line += (line.empty() ? "~ " : ", ") + spoken.Display->Name() + ": " + number;
         }
     }
     return line.empty() ? "" : line + "\n";

@@ -11,7 +11,7 @@ if importlib.util.find_spec("pyatspi") is None and sys.executable != "/usr/bin/p
     os.execv("/usr/bin/python3", ["/usr/bin/python3", *sys.argv])   # where Debian's modules are
 
 sys.path.append(os.path.join(os.path.dirname(os.path.abspath(__file__)), os.pardir, "support"))
-from desktop import PAIR, Desktop, Game
+from desktop import MENU, PAIR, Desktop, Game
 from processes import expect, script, until
 
 COLOURS = ["leer", "orange", "hellgrün", "gelb", "himmelblau"]
@@ -141,6 +141,17 @@ def message(reader, main):
     reader.wait(lambda: len(reader.windows()) == 1, "the message to close")
 
 
+def best_list(reader, game):
+    game.key("alt+i")
+    until(lambda: game.desktop.windows(MENU), "the menu")
+    game.desktop.do("key", "Down", "Down", "Return")
+    window = reader.window("dialog")
+    expect(reader.words(window) == ["Name des Spielers", "Punkte", *[
+        f"Platz {number}: Niemand, {5300 - 300 * number} Punkte" for number in range(1, 6)], "OK"],
+        reader.words(window))
+    reader.press(window, "OK")
+
+
 def end_of_level(reader, game, main):
     game.play_to_end()
     expect("Nächster Level" in reader.words(main), "the offer")
@@ -163,6 +174,7 @@ def main():
             main = tree(reader)
             board_by_keys(reader, game, main)
             message(reader, main)
+            best_list(reader, game)
             end_of_level(reader, game, main)
             reader.press(main, "Beenden")
             reader.hears("activate", "alert", TITLE)

@@ -69,10 +69,11 @@ std::vector<Spoken> On(FrmBeste& window)
     using enum SpokenKind;
     std::vector<Spoken> all = {{Words, &window.Label1}, {Words, &window.Label2}};
     for (int platz = 0; platz < kPlaetze; ++platz) {
-        const std::string number = std::to_string(platz + 1);
-        all.push_back({NameBox, &window.txtSpieler(platz), "Name, Platz " + number});
-        all.push_back(Row(window.imgDiggi(platz * kZiffernJePlatz),
-                          window.Punkte[static_cast<std::size_t>(platz)]));
+        const std::string place = "Platz " + std::to_string(platz + 1);
+        TextBox& name = window.txtSpieler(platz);
+        all.push_back({NameBox, &name, "Name, " + place});
+        all.push_back({Words, &window.imgDiggi(platz * kZiffernJePlatz), place,
+                       &window.Punkte[static_cast<std::size_t>(platz)], &name});
     }
     all.push_back({Button, &window.lblTessel, "Einträge löschen"});
     all.push_back({Button, &window.cmdEnde, "OK"});
@@ -118,6 +119,11 @@ std::span<Image* const> Spoken::Digits() const
     return Display == nullptr ? std::span<Image* const>() : Display->Stellen();
 }
 
+bool Spoken::TellsOwner() const
+{
+    return Owner != nullptr && Owner->Locked;
+}
+
 std::vector<Spoken> SpokenOn(const Window& window)
 {
     if (&window == frmTessel.Current()) {
@@ -142,9 +148,15 @@ std::string NameOf(const Spoken& spoken)
         return OneLine(label->Caption.Get());
     }
     if (spoken.Display == nullptr) {
-        return spoken.Painted;
+        const auto* const box = dynamic_cast<const TextBox*>(spoken.Where);
+        return box != nullptr && box->Locked ? std::string() : spoken.Painted;
     }
     const std::string number = spoken.Display->Gezeigt();
+    if (spoken.Owner != nullptr) {
+        const std::string name = spoken.TellsOwner() ? spoken.Owner->Text.Get() : std::string();
+        return spoken.Painted + ": " + (name.empty() ? "" : name + ", ") +
+               (number.empty() ? "keine" : number) + (number == "1" ? " Punkt" : " Punkte");
+    }
     return spoken.Painted + ": " + (number.empty() ? "dunkel" : number);
 }
 

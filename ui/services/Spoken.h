@@ -35,15 +35,19 @@ struct Spoken
     Visual* Where = nullptr;   // where it stands on the window, and what a press presses
     std::string Painted = {};  // the words in its picture; empty: it has a caption
     const Ziffernreihe* Display = nullptr;  // the row of digits that it names
+    const TextBox* Owner = nullptr;         // whose points the row shows; null where it has none
 
     // The places of the row, from the units upward; empty where it is none.
     std::span<Image* const> Digits() const;
+    // Whether the name of the owner is told with the row: a locked text box is none by itself.
+    bool TellsOwner() const;
 };
 
 // Everything on a window that has words, in reading order. Empty for the backdrop.
 std::vector<Spoken> SpokenOn(const Window& window);
 
-// Its name at the moment: "Neues Spiel", "Punkte: 36", "Spalte 3, Reihe 5, orange".
+// Its name at the moment: "Neues Spiel", "Punkte: 36", "Spalte 3, Reihe 5, orange",
+// "Platz 1: Berta, 25 Punkte".
 std::string NameOf(const Spoken& spoken);
 // The tool tip, or what a move is worth at the stone that the arrow keys have led to. Empty if
 // there is nothing to add.

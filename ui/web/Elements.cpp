@@ -199,7 +199,7 @@ void Put(const Spoken& spoken, const std::string& name, const std::string& descr
     const bool presses = cell || spoken.Kind == SpokenKind::Button;
     const bool caption = dynamic_cast<const Label*>(spoken.Where) && spoken.Painted.empty();
     const Element element;
-    element("aria-hidden", "")("aria-label", caption ? "" : name);
+    element("aria-hidden", name.empty())("aria-label", caption ? "" : name);
     element("aria-description", cell ? description : "");
     if (spoken.Kind != SpokenKind::NameBox && !caption) {
         element("role", presses ? "button" : "img");

@@ -57,6 +57,7 @@ QRect AccessiblePart::rect() const
     for (const Image* const digit : part_.Digits()) {
         place |= digit->Visible ? PlaceOf(*digit) : QRectF();
     }
+    place |= part_.TellsOwner() ? PlaceOf(*part_.Owner) : QRectF();
     const QRect pixels = OnScreen(form->DesignScale().ToWindow(place), 1);
     return {form->mapToGlobal(pixels.topLeft()), pixels.size()};
 }
@@ -182,6 +183,12 @@ QAccessible::Role AccessibleForm::role() const
     return window != nullptr && window->Modal() ? QAccessible::Dialog : QAccessible::Window;
 }
 
+// A text box that no key reaches is told with its points.
+bool AccessibleForm::IsReadable(const Node& node)
+{
+    return node.Id != 0 || IsSpokenNow(node.Part);
+}
+
 QAccessibleInterface* AccessibleForm::InterfaceOf(const Node& node) const
 {
     return node.Id != 0 ? QAccessible::accessibleInterface(node.Id)
@@ -193,7 +200,8 @@ QAccessibleInterface* AccessibleForm::InterfaceOf(const Visual* visual) const
     const std::vector<Node>& nodes = Nodes();
     const auto found = std::find_if(nodes.begin(), nodes.end(), [visual](const Node& node) {
         const std::span<Image* const> digits = node.Part.Digits();
-        return node.Part.Where == visual ||
+        return (node.Part.Where == visual && IsReadable(node)) ||
+               (node.Part.TellsOwner() && node.Part.Owner == visual) ||
                std::find(digits.begin(), digits.end(), visual) != digits.end();
     });
     return visual == nullptr || found == nodes.end() ? nullptr : InterfaceOf(*found);
@@ -209,7 +217,9 @@ std::vector<QAccessibleInterface*> AccessibleForm::Children() const
         children.push_back(QAccessible::queryAccessibleInterface(menu));
     }
     for (const Node& node : Nodes()) {
-        children.push_back(InterfaceOf(node));
+        if (IsReadable(node)) {
+            children.push_back(InterfaceOf(node));
+        }
     }
     if (news_ != 0) {
         children.push_back(QAccessible::accessibleInterface(news_));

@@ -104,6 +104,7 @@ private:
 
     FormWidget* Form() const;
     std::vector<Node>& Nodes() const;
+    static bool IsReadable(const Node& node);
     QAccessibleInterface* InterfaceOf(const Node& node) const;
     QAccessibleInterface* InterfaceOf(const Visual* visual) const;
     std::vector<QAccessibleInterface*> Children() const;
