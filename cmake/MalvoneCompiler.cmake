@@ -27,7 +27,7 @@ if(MALVONE_WERROR)
     target_compile_options(malvone_flags INTERFACE -Werror)
     if(MALVONE_SANITIZE AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
         # The sanitizers' own code hides initialisations from GCC.
-        target_compile_options(malvone_flags INTERFACE -Wno-error=maybe-uninitialized)
+        target_compile_options(malvone_flags INTERFACE -Wno-maybe-uninitialized)
     endif()
 endif()
 
