@@ -10,6 +10,7 @@
 #include "ui/layer/App.h"
 #include "ui/qt/QtBinding.h"
 #include "ui/qt/platform/Display.h"
+#include "ui/qt/platform/Launch.h"
 #include "ui/qt/platform/QtPlatform.h"
 #include "ui/qt/platform/SingleGame.h"
 #include "ui/qt/windows/MenuBar.h"
@@ -64,6 +65,7 @@ int Run(int argc, char** argv)
     // By design (ein-spiel-je-ordner): one would expect a second game. The first one comes to the
     // front instead. Test: display.qt.windows_e2e
     if (root && !single.MayPlay()) {
+        EndLaunch();
         return 0;
     }
     Sound sound;
