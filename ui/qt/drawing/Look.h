@@ -5,8 +5,8 @@
 #include <QPoint>
 #include <QSize>
 #include <QString>
-#include <compare>
 #include <string_view>
+#include <tuple>
 
 #include "ui/layer/Picture.h"
 
@@ -24,7 +24,15 @@ struct Look
     int Left = 0;
     int Top = 0;
 
-    friend auto operator<=>(const Look&, const Look&) = default;
+    friend bool operator==(const Look&, const Look&) = default;
+    friend bool operator<(const Look& a, const Look& b)
+    {
+        const auto all = [](const Look& look) {
+            return std::tie(look.File, look.Width, look.Height, look.SeenWidth, look.SeenHeight,
+                            look.Left, look.Top);
+        };
+        return all(a) < all(b);
+    }
 };
 
 Look LookOf(std::string_view file, QSize size, QSize seen, QPoint corner = {});
