@@ -6,6 +6,7 @@ import os
 import re
 import subprocess
 import sys
+import time
 
 if importlib.util.find_spec("pyatspi") is None and sys.executable != "/usr/bin/python3":
     os.execv("/usr/bin/python3", ["/usr/bin/python3", *sys.argv])   # where Debian's modules are
@@ -16,6 +17,8 @@ from processes import expect, script, until
 
 COLOURS = ["leer", "orange", "hellgrün", "gelb", "himmelblau"]
 TITLE = r"Malvone Vers\.: \d+\.\d+\.\d+"
+LONGEST = 50    # Screen readers drop a longer queue of events whole,
+IN_TIME = 0.8   # and look at it more often than this, in seconds.
 
 
 class Reader:
@@ -31,7 +34,7 @@ class Reader:
             "org.a11y.Bus", "/org/a11y/bus", "org.freedesktop.DBus.Properties", "Set",
             GLib.Variant("(ssv)", ("org.a11y.Status", "ScreenReaderEnabled", GLib.Variant("b", True))),
             None, Gio.DBusCallFlags.NONE, -1)
-        self.queue, self.heard = [], []
+        self.queue, self.heard, self.listened = [], [], 0
         pyatspi.Registry.registerEventListener(
             lambda event: self.queue.append(event), "window:activate",
             "object:state-changed:focused", "object:state-changed:showing",
@@ -41,7 +44,9 @@ class Reader:
         while GLib.MainContext.default().iteration(False):
             pass
         queue, self.queue = self.queue, []
-        for event in queue if len(queue) <= 50 else []:     # screen readers drop a longer one whole
+        late = time.monotonic() - self.listened > IN_TIME
+        self.listened = time.monotonic()
+        for event in queue if late or len(queue) <= LONGEST else []:
             try:
                 self.heard.append((event.type.name or str(event.type), event.detail1,
                                    event.source.getRoleName(), event.source.name))
@@ -84,7 +89,9 @@ class Reader:
 
     def press(self, window, name):
         """The call comes back at once, also where a message opens: nobody closes it meanwhile."""
-        expect(next(one for one in window if one.name == name).queryAction().doAction(0), name)
+        action = next(one for one in window if one.name == name).queryAction()
+        self.listen()
+        expect(action.doAction(0), name)
 
 
 def all_below(node):
