@@ -7,7 +7,7 @@ if(MALVONE_XCB)
     pkg_check_modules(XCB REQUIRED IMPORTED_TARGET xcb)
 endif()
 
-# libpulse is loaded at run time, beside the start; only its headers are needed here.
+# libpulse is loaded while the game runs; only its headers are needed here.
 malvone_library(malvone_sound ui/sound)
 target_include_directories(malvone_sound SYSTEM PRIVATE ${LIBPULSE_INCLUDE_DIRS})
 target_link_libraries(malvone_sound PUBLIC Threads::Threads ${CMAKE_DL_LIBS})
