@@ -15,6 +15,7 @@ public:
     // `ratio`: the screen's pixels to Qt's.
     Scale(const QSizeF& design, const QRectF& room, double ratio);
 
+    double Ratio() const { return ratio_; }
     double Factor() const { return factor_; }
     QPointF Corner() const { return corner_; }
     QRectF ToWindow(const QRectF& design) const

@@ -49,6 +49,12 @@ Key ToKey(const QKeyEvent& event)
     return {ToCode(event.key()), ToShift(event.modifiers())};
 }
 
+bool RouteKey(Window& window, const QKeyEvent& event)
+{
+    const Key key = ToKey(event);
+    return key.Code != 0 && (!event.isAutoRepeat() || MayRepeat(key)) && RouteKey(window, key);
+}
+
 std::int16_t ToShift(Qt::KeyboardModifiers modifiers)
 {
     int shift = 0;

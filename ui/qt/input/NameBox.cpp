@@ -12,6 +12,7 @@
 #include "ui/qt/drawing/Conversions.h"
 #include "ui/qt/drawing/Painting.h"
 #include "ui/qt/drawing/Scale.h"
+#include "ui/qt/input/KeyTable.h"
 
 namespace malvone::qt {
 namespace {
@@ -84,8 +85,7 @@ bool TypesWithCommandKey(const QKeyEvent& event)
 
 }  // namespace
 
-NameBox::NameBox(TextBox& model, KeyRoute route, QWidget* parent)
-    : QLineEdit(parent), model_(&model), route_(std::move(route))
+NameBox::NameBox(TextBox& model, QWidget* parent) : QLineEdit(parent), model_(&model)
 {
     setValidator(new Sieve(model, this));
     setMaxLength(std::numeric_limits<int>::max());
@@ -98,7 +98,7 @@ NameBox::NameBox(TextBox& model, KeyRoute route, QWidget* parent)
 
 void NameBox::Follow(const Scale& scale)
 {
-    if (model_ == nullptr || following_) {
+    if (following_) {
         return;
     }
     const QScopedValueRollback guard(following_, true);
@@ -133,7 +133,7 @@ void NameBox::FollowText()
 
 void NameBox::TellModel()
 {
-    if (model_ == nullptr || following_) {
+    if (following_) {
         return;
     }
     const QScopedValueRollback guard(following_, true);
@@ -144,7 +144,7 @@ void NameBox::TellModel()
 
 bool NameBox::event(QEvent* event)
 {
-    if (IsInput(*event) && (model_ == nullptr || !App.TakesInput(model_->Owner()))) {
+    if (model_ == nullptr || (IsInput(*event) && !App.TakesInput(model_->Owner()))) {
         return true;
     }
     if (event->type() == QEvent::ShortcutOverride) {
@@ -154,7 +154,7 @@ bool NameBox::event(QEvent* event)
     if (event->type() == QEvent::KeyPress) {
         // An ignored key would reach the parent and be routed a second time.
         const auto& key = *static_cast<QKeyEvent*>(event);
-        if (!route_(key) && !TypesWithCommandKey(key)) {
+        if (!RouteKey(model_->Owner(), key) && !TypesWithCommandKey(key)) {
             QLineEdit::event(event);
         }
         event->accept();
@@ -166,9 +166,7 @@ bool NameBox::event(QEvent* event)
 void NameBox::focusInEvent(QFocusEvent* event)
 {
     QLineEdit::focusInEvent(event);
-    if (model_ != nullptr) {
-        model_->SetFocus();
-    }
+    model_->SetFocus();
 }
 
 }  // namespace malvone::qt

@@ -2,11 +2,8 @@
 #pragma once
 
 #include <QLineEdit>
-#include <functional>
 
 #include "ui/layer/Controls.h"
-
-class QKeyEvent;
 
 namespace malvone::qt {
 
@@ -17,14 +14,11 @@ class NameBox final : public QLineEdit
     Q_OBJECT
 
 public:
-    // Whether the window takes a key before the box sees it.
-    using KeyRoute = std::function<bool(const QKeyEvent&)>;
-
-    NameBox(TextBox& model, KeyRoute route, QWidget* parent);
+    NameBox(TextBox& model, QWidget* parent);
 
     // Updates the box from the model, at the window's scale.
     void Follow(const Scale& scale);
-    // Call before the model is destroyed.
+    // Call before the model is destroyed; the box takes no event from then on.
     void Detach() { model_ = nullptr; }
 
 protected:
@@ -33,7 +27,6 @@ protected:
 
 private:
     TextBox* model_;
-    KeyRoute route_;
     bool following_ = false;
 
     void FollowText();

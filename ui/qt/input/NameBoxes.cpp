@@ -1,23 +1,19 @@
 // NameBoxes.cpp: makes and finds the line edits of a window.
 #include "ui/qt/input/NameBoxes.h"
 
-#include "ui/layer/Window.h"
-
 namespace malvone::qt {
 
-void NameBoxes::Follow(TextBox& model, const Scale& scale)
+NameBoxes::NameBoxes(QWidget& form, Window& window)
 {
-    auto found = boxes_.find(&model);
-    if (found == boxes_.end()) {
-        if (!model.Owner().InClient(model.Left, model.Top)) {
-            return;
+    for (Visual* const visual : window.FrontToBack()) {
+        auto* const model = dynamic_cast<TextBox*>(visual);
+        if (model != nullptr && window.InClient(model->Left, model->Top)) {
+            boxes_.emplace(model, new NameBox(*model, &form));
         }
-        found = boxes_.emplace(&model, new NameBox(model, route_, &form_)).first;
     }
-    found->second->Follow(scale);
 }
 
-void NameBoxes::Follow(const Scale& scale)
+void NameBoxes::Follow(const Scale& scale) const
 {
     for (const auto& [model, box] : boxes_) {
         box->Follow(scale);

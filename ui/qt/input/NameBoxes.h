@@ -3,6 +3,7 @@
 
 #include <unordered_map>
 
+#include "ui/layer/Window.h"
 #include "ui/qt/input/NameBox.h"
 
 namespace malvone::qt {
@@ -10,22 +11,17 @@ namespace malvone::qt {
 class NameBoxes
 {
 public:
-    // The boxes belong to the form, which must outlive this.
-    NameBoxes(QWidget& form, NameBox::KeyRoute route) : form_(form), route_(std::move(route)) {}
+    // The boxes belong to the form. A text box outside the client area only holds data.
+    NameBoxes(QWidget& form, Window& window);
 
-    // Updates a box from the model; makes it on the first call. Text boxes outside the client area
-    // only hold data and have no widget.
-    void Follow(TextBox& model, const Scale& scale);
-    // Call when the scale of the window has changed.
-    void Follow(const Scale& scale);
+    // Updates all boxes from the model, at the window's scale.
+    void Follow(const Scale& scale) const;
     // Null if there is none.
     NameBox* Of(const Control* model) const;
     // Call before the models are destroyed.
     void Detach();
 
 private:
-    QWidget& form_;
-    NameBox::KeyRoute route_;
     std::unordered_map<const Control*, NameBox*> boxes_;
 };
 

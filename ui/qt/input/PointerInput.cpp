@@ -30,16 +30,30 @@ std::int16_t ToButtons(Qt::MouseButtons buttons)
 
 }  // namespace
 
-Mouse PointerInput::ToMouse(const QMouseEvent& event, std::int16_t button) const
+bool PointerInput::Handle(const QEvent& event)
+{
+    switch (event.type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:  // its second press counts as a press
+        Pressed(static_cast<const QMouseEvent&>(event));
+        return true;
+    case QEvent::MouseMove: Moved(static_cast<const QMouseEvent&>(event)); return true;
+    case QEvent::MouseButtonRelease: Released(static_cast<const QMouseEvent&>(event)); return true;
+    case QEvent::ToolTip: ShowTip(static_cast<const QHelpEvent&>(event)); return true;
+    default: return false;
+    }
+}
+
+Mouse PointerInput::ToMouse(const QMouseEvent& event, Qt::MouseButtons buttons) const
 {
     const QPointF place = scale_.PaintedAt(event.position());
-    return {button, ToShift(event.modifiers()), ToTwips(place.x()), ToTwips(place.y())};
+    return {ToButtons(buttons), ToShift(event.modifiers()), ToTwips(place.x()), ToTwips(place.y())};
 }
 
 Visual* PointerInput::ControlUnder(QPointF position) const
 {
     const QPointF place = scale_.PaintedAt(position);
-    return model_ != nullptr ? ControlAt(*model_, ToTwips(place.x()), ToTwips(place.y())) : nullptr;
+    return ControlAt(*model_, ToTwips(place.x()), ToTwips(place.y()));
 }
 
 const Visual* PointerInput::Target(QPointF position) const
@@ -52,16 +66,14 @@ void PointerInput::Pressed(const QMouseEvent& event)
     QToolTip::hideText();
     pressedAt_ = event.globalPosition().toPoint();
     frameAtPress_ = widget_.windowHandle()->framePosition();
-    if (model_ != nullptr) {
-        PointerPressed(*model_, ToMouse(event, ToButtons(event.button())));
-    }
+    PointerPressed(*model_, ToMouse(event, event.button()));
 }
 
 void PointerInput::Moved(const QMouseEvent& event)
 {
     dragging_ = dragging_ && event.buttons().testFlag(Qt::LeftButton);
-    if (!dragging_ && model_ != nullptr) {
-        PointerMoved(*model_, ToMouse(event, ToButtons(event.buttons())));
+    if (!dragging_) {
+        PointerMoved(*model_, ToMouse(event, event.buttons()));
     }
     // The movement that begins a drag counts: a fast one may be the only one.
     if (dragging_) {
@@ -74,8 +86,8 @@ void PointerInput::Released(const QMouseEvent& event)
 {
     if (dragging_) {
         dragging_ = event.buttons().testFlag(Qt::LeftButton);
-    } else if (model_ != nullptr) {
-        PointerReleased(*model_, ToMouse(event, ToButtons(event.button())));
+    } else {
+        PointerReleased(*model_, ToMouse(event, event.button()));
     }
 }
 
@@ -90,17 +102,17 @@ void PointerInput::Drag()
     }
 }
 
-void PointerInput::UpdateCursor(QPointF position)
+void PointerInput::UpdateCursor(QPointF position) const
 {
     const Visual* const target = Target(position);
     if (target != nullptr && target->MousePointer == Pointer::Hand) {
         widget_.setCursor(HandCursor(widget_.devicePixelRatioF()));
-    } else if (model_ != nullptr) {
+    } else {
         widget_.unsetCursor();
     }
 }
 
-void PointerInput::ShowTip(const QHelpEvent& event)
+void PointerInput::ShowTip(const QHelpEvent& event) const
 {
     const Visual* const target = Target(event.pos());
     if (target == nullptr || target->ToolTipText.Get().empty()) {

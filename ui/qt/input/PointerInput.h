@@ -6,6 +6,7 @@
 
 #include "ui/layer/Window.h"
 
+class QEvent;
 class QHelpEvent;
 class QMouseEvent;
 class QWidget;
@@ -22,10 +23,8 @@ public:
         : widget_(widget), model_(&model), scale_(scale)
     {}
 
-    void Pressed(const QMouseEvent& event);
-    void Moved(const QMouseEvent& event);
-    void Released(const QMouseEvent& event);
-    void ShowTip(const QHelpEvent& event);
+    // Returns whether the event was one of the pointer's. Call before Detach only.
+    bool Handle(const QEvent& event);
 
     // The window follows the pointer until the button is released.
     void Drag();
@@ -44,10 +43,14 @@ private:
     QPoint frameAtPress_;
     bool dragging_ = false;
 
-    Mouse ToMouse(const QMouseEvent& event, std::int16_t button) const;
-    // What the pointer can act on now.
+    void Pressed(const QMouseEvent& event);
+    void Moved(const QMouseEvent& event);
+    void Released(const QMouseEvent& event);
+    void ShowTip(const QHelpEvent& event) const;
+    Mouse ToMouse(const QMouseEvent& event, Qt::MouseButtons buttons) const;
+    // What the pointer can act on now: nothing once a handler has taken the window away.
     const Visual* Target(QPointF position) const;
-    void UpdateCursor(QPointF position);
+    void UpdateCursor(QPointF position) const;
 };
 
 }  // namespace malvone::qt

@@ -2,7 +2,7 @@
 #include "ui/qt/windows/FormWidget.h"
 
 #include <QCloseEvent>
-#include <QHelpEvent>
+#include <QKeyEvent>
 #include <QPainter>
 #include <QWindow>
 
@@ -16,9 +16,6 @@
 
 namespace malvone::qt {
 namespace {
-
-// At half the designed size the game can still be played.
-constexpr double kSmallestFactor = 0.5;
 
 // Managers that tile windows leave dialogs their size.
 Qt::WindowFlags FlagsOf(const Window& window, ShowMode mode)
@@ -39,62 +36,32 @@ Qt::WindowFlags FlagsOf(const Window& window, ShowMode mode)
 
 FormWidget::FormWidget(Window& window, ShowMode mode, PictureStore& pictures, double factor)
     : QWidget(nullptr, FlagsOf(window, mode)), window_(&window), pictures_(pictures),
-      placement_(*this, window),
-      boxes_(*this, [this](const QKeyEvent& event) { return RouteKey(event); }),
-      pointer_(*this, window, scale_)
+      menu_(window.MenuEntries().empty() ? nullptr : new MenuBar(window, this)),
+      placement_(*this, window), sizing_(*this, window, menu_, placement_), boxes_(*this, window),
+      pointer_(*this, window, sizing_.DesignScale())
 {
     setAttribute(Qt::WA_OpaquePaintEvent);
     setMouseTracking(true);
-    if (!window.MenuEntries().empty()) {
-        menu_ = new MenuBar(window, this);
-    }
-    SetFactor(menu_ == nullptr ? factor : FactorOnScreen(DesignOf(window), SizeAt(1).height()));
+    SetFactor(window.Role == WindowRole::Main ? sizing_.FactorOnScreen() : factor);
     placement_.TellSize();
     Follow(Change::Text);
-    for (Visual* const visual : window.FrontToBack()) {
-        if (auto* const box = dynamic_cast<TextBox*>(visual)) {
-            boxes_.Follow(*box, scale_);
-        }
-    }
 }
 
 FormWidget::~FormWidget() = default;
 
-QSize FormWidget::SizeAt(double factor) const
-{
-    const QSize client = SizeOf(*window_, factor);
-    const int menu = menu_ != nullptr ? menu_->heightForWidth(client.width()) : 0;
-    return client.grownBy(QMargins(0, menu, 0, 0));
-}
-
 void FormWidget::SetFactor(double factor)
 {
-    if (window_->BorderStyle == Border::Sizable) {
-        setMinimumSize(SizeAt(kSmallestFactor));
-        resize(SizeAt(factor));
-    } else {
-        setFixedSize(SizeAt(factor));
-    }
+    sizing_.SetFactor(factor);
     Rescale();
 }
 
-QRectF FormWidget::Room() const
-{
-    return rect().adjusted(0, menu_ != nullptr ? menu_->height() : 0, 0, 0);
-}
-
-// The whole design is drawn in a window of any size.
 void FormWidget::Rescale()
 {
-    if (menu_ != nullptr) {
-        menu_->setGeometry(0, 0, width(), menu_->heightForWidth(width()));
-    }
-    const double before = scale_.Factor();
-    ratio_ = devicePixelRatioF();
-    scale_ = Scale(DesignOf(*window_), Room(), ratio_);
-    boxes_.Follow(scale_);
+    const double before = DesignScale().Factor();
+    sizing_.LayOut();
+    boxes_.Follow(DesignScale());
     update();
-    if (scale_.Factor() != before) {
+    if (DesignScale().Factor() != before) {
         Q_EMIT Rescaled();
     }
 }
@@ -102,9 +69,6 @@ void FormWidget::Rescale()
 void FormWidget::Detach()
 {
     window_ = nullptr;
-    if (menu_ != nullptr) {
-        menu_->Detach();
-    }
     boxes_.Detach();
     pointer_.Detach();
     hide();
@@ -124,7 +88,10 @@ void FormWidget::Present(QWindow* below)
         if (!window_->ShowInTaskbar) {
             KeepOffTaskBar(winId());
         }
-        ShowMenuLast();
+        show();
+        if (menu_ != nullptr) {
+            menu_->show();
+        }
         placement_.FromScreen();
     }
     ToFront();
@@ -139,76 +106,37 @@ void FormWidget::ToFront()
     activateWindow();
 }
 
-// The first widget that is shown makes Qt look for a screen reader on the session bus. A menu is
-// shown before the window that holds it: shown after it, the bus is asked while the window manager
-// is at work on the window. This saves 4 of 59 ms to the first frame, with a bus and without one
-// (medians of 25).
-void FormWidget::ShowMenuLast()
-{
-    if (menu_ != nullptr) {
-        menu_->hide();
-    }
-    show();
-    if (menu_ != nullptr) {
-        menu_->show();
-    }
-}
-
-// Monitors that are switched off take their screens with them, and bring them back. A window that
-// was made smaller for that gets its size and place again, unless the player has resized it since.
 void FormWidget::FollowScreens()
 {
     if (!isVisible()) {
         return;
     }
-    if (menu_ != nullptr && !isMaximized()) {
-        FitOntoScreens();
+    if (window_->Role == WindowRole::Main && !isMaximized()) {
+        sizing_.FitOntoScreens();
     }
     placement_.OntoScreen();
     placement_.ToScreen();
 }
 
-void FormWidget::FitOntoScreens()
-{
-    const double fitting = FactorOnScreen(DesignOf(*window_), SizeAt(1).height());
-    if (fitting < scale_.Factor() && !placement_.Fits(size())) {
-        if (size() != small_) {
-            large_ = size();
-            largePlace_ = QPointF(window_->Left, window_->Top);
-        }
-        SetFactor(fitting);
-        small_ = size();
-    } else if (size() == small_ && placement_.Fits(large_)) {
-        small_ = QSize();
-        resize(large_);
-        window_->Move(static_cast<Twips>(largePlace_.x()), static_cast<Twips>(largePlace_.y()));
-    } else if (size() == small_ && fitting > scale_.Factor()) {
-        SetFactor(fitting);
-        small_ = size();
-    }
-}
-
 QRectF FormWidget::PlaceOnForm(const Visual& visual) const
 {
-    return scale_.ToWindow(PlaceOf(visual));
+    return DesignScale().ToWindow(PlaceOf(visual));
 }
 
 void FormWidget::paintEvent(QPaintEvent* event)
 {
-    if (window_ == nullptr) {
-        return;
-    }
-    if (ratio_ != devicePixelRatioF()) {
+    const Scale& scale = DesignScale();
+    if (scale.Ratio() != devicePixelRatioF()) {
         Rescale();  // another screen
     }
     QRegion dirty;
     for (const QRect& part : event->region()) {
-        dirty += scale_.ToDesign(QRectF(part)).toAlignedRect();
+        dirty += scale.ToDesign(QRectF(part)).toAlignedRect();
     }
     QPainter painter(this);
-    painter.translate(scale_.Corner());
-    painter.scale(scale_.Factor(), scale_.Factor());
-    PaintWindow(painter, *window_, pictures_, dirty, scale_.ToDesign(Room()));
+    painter.translate(scale.Corner());
+    painter.scale(scale.Factor(), scale.Factor());
+    PaintWindow(painter, *window_, pictures_, dirty, scale.ToDesign(sizing_.Room()));
     if (!painted_) {
         painted_ = true;
         QMetaObject::invokeMethod(this, &FormWidget::Painted, Qt::QueuedConnection);
@@ -236,9 +164,9 @@ void FormWidget::Follow(Control& control, Change what)
 {
     if (const auto* const entry = dynamic_cast<const MenuEntry*>(&control)) {
         menu_->Follow(*entry);
-    } else if (auto* const box = dynamic_cast<TextBox*>(&control)) {
-        boxes_.Follow(*box, scale_);
-        if (window_->Focus() == box) {
+    } else if (NameBox* const box = boxes_.Of(&control)) {
+        box->Follow(DesignScale());
+        if (window_->Focus() == &control) {
             FollowFocus();
         }
     } else if (const auto* const visual = dynamic_cast<const Visual*>(&control)) {
@@ -281,57 +209,29 @@ void FormWidget::Repaint(const Visual& visual, Change what)
     }
 }
 
-void FormWidget::mousePressEvent(QMouseEvent* event)
-{
-    pointer_.Pressed(*event);
-}
-
-// The second press of a double click counts as a press.
-void FormWidget::mouseDoubleClickEvent(QMouseEvent* event)
-{
-    mousePressEvent(event);
-}
-
-void FormWidget::mouseMoveEvent(QMouseEvent* event)
-{
-    pointer_.Moved(*event);
-}
-
-void FormWidget::mouseReleaseEvent(QMouseEvent* event)
-{
-    pointer_.Released(*event);
-}
-
-bool FormWidget::RouteKey(const QKeyEvent& event)
-{
-    const Key key = ToKey(event);
-    if (window_ == nullptr || key.Code == 0) {
-        return false;
-    }
-    if ((!event.isAutoRepeat() || MayRepeat(key)) && malvone::RouteKey(*window_, key)) {
-        return true;
-    }
-    return menu_ != nullptr && window_ != nullptr && App.TakesInput(*window_) && menu_->Open(key);
-}
-
 bool FormWidget::event(QEvent* event)
 {
+    if (window_ == nullptr && event->type() != QEvent::DeferredDelete) {
+        return true;
+    }
     switch (event->type()) {
     case QEvent::ShortcutOverride:
         event->accept();  // makes it a key press, which the layer sees first
         return true;
-    case QEvent::KeyPress: RouteKey(*static_cast<QKeyEvent*>(event)); return true;
-    case QEvent::ToolTip: pointer_.ShowTip(*static_cast<QHelpEvent*>(event)); return true;
-    default: return QWidget::event(event);
+    case QEvent::KeyPress: {
+        const auto& key = *static_cast<QKeyEvent*>(event);
+        if (!RouteKey(*window_, key) && menu_ != nullptr) {
+            menu_->Open(ToKey(key));
+        }
+        return true;
+    }
+    default: return pointer_.Handle(*event) || QWidget::event(event);
     }
 }
 
 void FormWidget::changeEvent(QEvent* event)
 {
     QWidget::changeEvent(event);
-    if (window_ == nullptr) {
-        return;
-    }
     if (event->type() == QEvent::ActivationChange && isActiveWindow()) {
         Q_EMIT Activated();
     } else if (event->type() == QEvent::WindowStateChange) {
@@ -343,7 +243,7 @@ void FormWidget::changeEvent(QEvent* event)
 void FormWidget::closeEvent(QCloseEvent* event)
 {
     event->setAccepted(App.Ended());
-    if (!App.Ended() && window_ != nullptr) {
+    if (!App.Ended()) {
         Q_EMIT CloseRequested();
     }
 }
@@ -351,9 +251,7 @@ void FormWidget::closeEvent(QCloseEvent* event)
 void FormWidget::moveEvent(QMoveEvent* event)
 {
     QWidget::moveEvent(event);
-    if (window_ != nullptr) {
-        placement_.FromScreen();
-    }
+    placement_.FromScreen();
 }
 
 // By design (waechst-mit): one would expect a larger window to have more ground around the design.
@@ -361,10 +259,8 @@ void FormWidget::moveEvent(QMoveEvent* event)
 void FormWidget::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);
-    if (window_ != nullptr) {
-        Rescale();
-        placement_.FromScreen();
-    }
+    Rescale();
+    placement_.FromScreen();
 }
 
 }  // namespace malvone::qt

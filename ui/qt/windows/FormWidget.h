@@ -4,10 +4,10 @@
 #include <QWidget>
 
 #include "ui/layer/Window.h"
-#include "ui/qt/drawing/Scale.h"
 #include "ui/qt/input/NameBoxes.h"
 #include "ui/qt/input/PointerInput.h"
 #include "ui/qt/windows/Placement.h"
+#include "ui/qt/windows/Sizing.h"
 
 namespace malvone::qt {
 
@@ -23,7 +23,8 @@ public:
     FormWidget(Window& window, ShowMode mode, PictureStore& pictures, double factor);
     ~FormWidget() override;
 
-    // Null once the window has been unloaded and the widget waits to be deleted.
+    // Null once the window has been unloaded. The widget takes no event then and waits to be
+    // deleted.
     Window* Model() const { return window_; }
     void Detach();
 
@@ -45,7 +46,7 @@ public:
     PointerInput& Pointer() { return pointer_; }
     const PointerInput& Pointer() const { return pointer_; }
 
-    const Scale& DesignScale() const { return scale_; }
+    const Scale& DesignScale() const { return sizing_.DesignScale(); }
     // Resizes the window to its design at another scale.
     void SetFactor(double factor);
     // A control's place on this widget.
@@ -65,10 +66,6 @@ Q_SIGNALS:
 protected:
     bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
-    void mousePressEvent(QMouseEvent* event) override;
-    void mouseDoubleClickEvent(QMouseEvent* event) override;
-    void mouseMoveEvent(QMouseEvent* event) override;
-    void mouseReleaseEvent(QMouseEvent* event) override;
     void changeEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void moveEvent(QMoveEvent* event) override;
@@ -77,24 +74,14 @@ protected:
 private:
     Window* window_;
     PictureStore& pictures_;
+    MenuBar* menu_;
     Placement placement_;
-    MenuBar* menu_ = nullptr;
+    Sizing sizing_;
     NameBoxes boxes_;
-    Scale scale_;
     PointerInput pointer_;
-    double ratio_ = 1;  // of the screen's pixels to Qt's, as the scale was made for
     bool painted_ = false;
-    // As it was before the screens became too small for it, and what it has become.
-    QSize large_;
-    QSize small_;
-    QPointF largePlace_;  // in twips
 
-    QSize SizeAt(double factor) const;
-    QRectF Room() const;  // all below the menu
-    void FitOntoScreens();
     void Rescale();
-    void ShowMenuLast();
-    bool RouteKey(const QKeyEvent& event);
     void Repaint(const Visual& visual, Change what);
     QRect Touched(const Visual& visual) const;
 };

@@ -82,8 +82,9 @@ void UseMenuStyle()
     QApplication::setStyle(new MenuStyle(QApplication::style()));
 }
 
-MenuBar::MenuBar(const Window& window, QWidget* parent) : QMenuBar(parent), window_(&window)
+MenuBar::MenuBar(const Window& window, QWidget* parent) : QMenuBar(parent), window_(window)
 {
+    hide();
     QCoreApplication::installTranslator(new KeyNames(this));
     if (auto* const button = findChild<QToolButton*>(QStringLiteral("qt_menubar_ext_button"))) {
         button->setArrowType(Qt::RightArrow);
@@ -137,14 +138,8 @@ void MenuBar::Follow(const MenuEntry& entry)
 
 void MenuBar::Chosen(MenuEntry& entry)
 {
-    if (window_ == nullptr) {
-        return;
-    }
     RaiseClick(entry);
-    // Qt has toggled the entry's mark; the model decides about it.
-    if (window_ != nullptr) {
-        Follow(entry);
-    }
+    Follow(entry);  // Qt has toggled its mark; the model decides about it
 }
 
 QAction* MenuBar::OpenedBy(Key key) const
@@ -163,29 +158,22 @@ QAction* MenuBar::OpenedBy(Key key) const
 }
 
 // The first entry is selected as if by an arrow key, which opens no submenu.
-bool MenuBar::Open(Key key)
+void MenuBar::Open(Key key)
 {
     QAction* const action = OpenedBy(key);
-    if (action == nullptr) {
-        return false;
+    if (action == nullptr || Shut()) {
+        return;
     }
     setActiveAction(action);
     if (QMenu* const menu = action->menu()) {
         QKeyEvent down(QEvent::KeyPress, Qt::Key_Down, Qt::NoModifier);
         QCoreApplication::sendEvent(menu, &down);
     }
-    return true;
-}
-
-void MenuBar::Detach()
-{
-    window_ = nullptr;
-    actions_.clear();
 }
 
 bool MenuBar::Shut() const
 {
-    return window_ == nullptr || !App.TakesInput(*window_);
+    return !App.TakesInput(window_);
 }
 
 bool MenuBar::event(QEvent* event)

@@ -9,7 +9,6 @@
 #include <algorithm>
 
 #include "ui/qt/drawing/Conversions.h"
-#include "ui/qt/drawing/Scale.h"
 #include "ui/qt/platform/Display.h"
 
 namespace malvone::qt {
@@ -34,30 +33,6 @@ QPoint CornerOf(const Window& window)
 }
 
 }  // namespace
-
-QSizeF DesignOf(const Window& window)
-{
-    return {ToPixels(window.ClientWidth), ToPixels(window.ClientHeight)};
-}
-
-QSize SizeOf(const Window& window, double factor)
-{
-    constexpr double kRounding = 0.01;
-    const QSizeF size = DesignOf(window) * factor;
-    return {static_cast<int>(std::ceil(size.width() - kRounding)),
-            static_cast<int>(std::ceil(size.height() - kRounding))};
-}
-
-double FactorOnScreen(const QSizeF& design, int height)
-{
-    // About the size of a frame.
-    constexpr QSizeF kFrame(10, 36);
-    const QScreen& screen = *QGuiApplication::primaryScreen();
-    const QSizeF menu(0, height - design.height());
-    const QSizeF room = QSizeF(screen.availableSize()) - kFrame - menu;
-    return std::min(1.0,
-                    Scale(design, QRectF(QPointF(), room), screen.devicePixelRatio()).Factor());
-}
 
 void Placement::ToScreen()
 {

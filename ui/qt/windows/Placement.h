@@ -3,7 +3,7 @@
 
 #include <QMargins>
 #include <QRect>
-#include <QSizeF>
+#include <QSize>
 
 #include "ui/layer/Window.h"
 
@@ -40,13 +40,5 @@ private:
     QRect Outer() const;
     void KeepCentred(const QMargins& frame);
 };
-
-// The size of a window's designed client area in Qt's pixels, and at another scale.
-QSizeF DesignOf(const Window& window);
-QSize SizeOf(const Window& window, double factor);
-
-// The largest scale up to 1 at which a design with menu and frame fits on the primary screen.
-// `height` is that of design and menu.
-double FactorOnScreen(const QSizeF& design, int height);
 
 }  // namespace malvone::qt
