@@ -52,7 +52,7 @@ struct Table
     }
     ~Table() { App.Finish(); }
 
-    FormWidget& Form() const { return *binding.FormOf(*frmTessel); }
+    FormWidget& Form() { return *binding.Windows().FormOf(&*frmTessel); }
 };
 
 // All stones of one colour are the largest group there can be.
@@ -65,7 +65,7 @@ void FillWithOneColour()
 
 void PointerToRepaint(benchmark::State& state)
 {
-    const Table table;
+    Table table;
     FormWidget& form = table.Form();
     Click(form, frmTessel->lblNeu);
     if (state.range(0) != 0) {
@@ -84,7 +84,7 @@ BENCHMARK(PointerToRepaint)->ArgName("one_colour")->Arg(0)->Arg(1)->Unit(benchma
 
 void WholeWindow(benchmark::State& state)
 {
-    const Table table;
+    Table table;
     Click(table.Form(), frmTessel->lblNeu);
     for (auto step : state) {
         (void)step;

@@ -49,7 +49,7 @@ protected:
         binding_.reset();
     }
 
-    FormWidget& Form(const Window& window) const { return *binding_->FormOf(window); }
+    FormWidget& Form(const Window& window) const { return *binding_->Windows().FormOf(&window); }
 
     static QPointF Middle(const FormWidget& form, const Visual& visual)
     {

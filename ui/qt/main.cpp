@@ -43,7 +43,7 @@ int Play(const std::optional<std::filesystem::path>& root, const SingleGame& sin
 {
     QtPlatform platform(root, ProgramFolder(), sound);
     QtBinding binding;
-    single.Listen([&binding] { binding.ComeForward(); });
+    single.Listen([&binding] { binding.Windows().ComeForward(); });
     App.Begin(binding, platform);
     {
         const EventScope scope;

@@ -42,7 +42,6 @@ void BackdropWindow::Present()
     CoverScreen();
     create();
     KeepOffTaskBar(winId());
-    pictured_ = false;
     if (MannerOfBackdrop() == BackdropManner::FullScreen) {
         setWindowStates(Qt::WindowFullScreen);
     }

@@ -80,7 +80,6 @@ void FormWidget::Present(QWindow* below)
         // Until its frame is known, an existing native window takes its position for that of the
         // client area. So each show begins with a new one.
         destroy();
-        painted_ = false;
         placement_.OntoScreen();
         placement_.ToScreen();
         winId();

@@ -36,8 +36,6 @@ public:
     void FollowScreens();
     // Tells the model where the window is.
     void TellPlace() { placement_.FromScreen(); }
-    // Whether it has been painted since it was shown.
-    bool WasPainted() const { return painted_; }
 
     void Follow(Control& control, Change what);
     void Follow(Change what);
@@ -60,7 +58,7 @@ Q_SIGNALS:
     void Rescaled();
     // The window has been minimised or restored.
     void StateChanged();
-    // Sent once after each show, when the window has been painted.
+    // Sent once, when the window has been painted for the first time.
     void Painted();
 
 protected:
