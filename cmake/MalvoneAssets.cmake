@@ -1,5 +1,4 @@
 # Puts the sounds and the manuals beside the executable, where the game looks for them.
-find_package(Python3 REQUIRED COMPONENTS Interpreter)
 malvone_glob(sounds assets/sounds/*.wav assets/sounds/*.WAV)
 set(sounds_copied "")
 foreach(sound IN LISTS sounds)

@@ -2,8 +2,6 @@
 if(NOT CMAKE_CXX_COMPILER_ID MATCHES "Clang")
     message(FATAL_ERROR "MALVONE_FUZZ needs clang, which brings libFuzzer")
 endif()
-malvone_library(malvone_drehbuch tests/drehbuch)
-target_link_libraries(malvone_drehbuch PUBLIC malvone_core)
 malvone_glob(fuzz_sources tests/fuzz/*.cpp)
 add_executable(fuzz_files ${fuzz_sources})
 malvone_target(fuzz_files)

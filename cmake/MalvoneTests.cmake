@@ -1,6 +1,5 @@
 # The tests: GoogleTest programs, played games, and scripts that drive real windows.
 find_package(GTest REQUIRED)
-find_package(Python3 REQUIRED COMPONENTS Interpreter)
 include(GoogleTest)
 
 # Every test gets this environment, and so does listing the tests at build time.
@@ -12,12 +11,6 @@ if(MALVONE_SANITIZE)
         "LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tools/lsan.supp:print_suppressions=0"
         "UBSAN_OPTIONS=print_stacktrace=1")
 endif()
-
-malvone_library(malvone_drehbuch tests/drehbuch)
-target_link_libraries(malvone_drehbuch PUBLIC malvone_core)
-add_executable(drehbuch tests/drehbuch/main.cpp)
-malvone_target(drehbuch)
-target_link_libraries(drehbuch PRIVATE malvone_drehbuch)
 
 # malvone_tests(NAME LIBRARY... SOURCES PATTERN... [ENVIRONMENT VAR=VALUE...])
 # A test program of all sources that match.
@@ -57,17 +50,8 @@ if(MALVONE_QT)
     endforeach()
 endif()
 
-# Played games: each script is its own transcript.
-malvone_glob(scripts tests/games/*.drehbuch)
-foreach(script IN LISTS scripts)
-    cmake_path(GET script STEM name)
-    add_test(NAME games.${name}
-        COMMAND "${Python3_EXECUTABLE}" "${PROJECT_SOURCE_DIR}/tests/games/play.py"
-                "$<TARGET_FILE:drehbuch>" "${script}"
-        WORKING_DIRECTORY "${PROJECT_SOURCE_DIR}")
-    set_tests_properties(games.${name} PROPERTIES
-        ENVIRONMENT "${test_environment}" LABELS games TIMEOUT 120)
-endforeach()
+malvone_played_games(games)
+set_tests_properties(${played_games} PROPERTIES ENVIRONMENT "${test_environment}" LABELS games)
 
 # malvone_script_tests(LABEL SOURCES PATTERN... [ARGUMENTS ARG...])
 # One test for each script that matches; names with a leading underscore are modules.

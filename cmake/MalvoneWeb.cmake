@@ -19,20 +19,10 @@ add_custom_command(OUTPUT "${PROJECT_BINARY_DIR}/web.stamp"
 add_custom_target(page ALL DEPENDS "${PROJECT_BINARY_DIR}/web.stamp")
 
 # The script program under Node reads and writes the real files of the machine.
-malvone_library(malvone_drehbuch tests/drehbuch)
-add_executable(drehbuch tests/drehbuch/main.cpp)
-malvone_target(drehbuch)
-target_link_libraries(drehbuch PRIVATE malvone_drehbuch malvone_core)
 target_link_options(drehbuch PRIVATE -sENVIRONMENT=node -sNODERAWFS -sEXIT_RUNTIME
     "SHELL:--pre-js ${PROJECT_SOURCE_DIR}/tests/web/node.js")
 
 # The same scripts as everywhere, and the page in a real browser.
-malvone_glob(scripts tests/games/*.drehbuch)
-foreach(script IN LISTS scripts)
-    cmake_path(GET script STEM name)
-    add_test(NAME node.${name} COMMAND "${Python3_EXECUTABLE}" "${PROJECT_SOURCE_DIR}/tests/games/play.py"
-        "$<TARGET_FILE:drehbuch>" "${script}")
-    set_tests_properties(node.${name} PROPERTIES TIMEOUT 120)
-endforeach()
+malvone_played_games(node)
 add_test(NAME page COMMAND "${MALVONE_NODE}" --test "${PROJECT_SOURCE_DIR}/tests/web/page.test.mjs")
 set_tests_properties(page PROPERTIES TIMEOUT 600 RUN_SERIAL ON)
