@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
-"""Holds the game against the table of floors in docs/architecture.md.
+"""Compares the game with the table of floors in docs/architecture.md.
 
-    tools/floors.py BUILD_FOLDER...
+    floors.py BUILD_FOLDER
 
 A file may include what lies on its own floor or below, headers of the standard library and, where
 the table says so, those of its platform; no two files include each other in a circle. The same
@@ -26,7 +26,7 @@ def folder_of(name):
 
 
 def circles(graph):
-    """The ways through a graph that lead back to where they began, each told once."""
+    """The ways through a graph that lead back to where they began."""
     found, done = [], set()
 
     def follow(node, trail):
@@ -70,7 +70,9 @@ def objects_in(build, floors):
     for folder in sorted({folder_of(source) for source in found}):
         missing = {str(p.relative_to(ROOT)) for p in (ROOT / folder).glob("*.cpp")} - found.keys()
         faults += [f"{source} is not built in {build}" for source in sorted(missing)]
-    return found, faults or [] if found else [f"{build} holds no object files: build it first"]
+    if not found:
+        faults.append(f"{build} holds no object files: build it first")
+    return found, faults
 
 
 def symbols_of(build, objects):
@@ -95,7 +97,7 @@ def look_at_symbols(build, floors, rooms):
     if faults:
         return faults, 0
     defined, wanted = symbols_of(build, objects)
-    constructed = collections.defaultdict(set)
+    constructed = collections.defaultdict(set)  # the classes whose constructors a source defines
     for symbol, sources in defined.items():
         if match := CONSTRUCTOR.match(symbol):
             for source in sources:
@@ -103,9 +105,8 @@ def look_at_symbols(build, floors, rooms):
     for source, symbols in sorted(wanted.items()):
         for symbol in sorted(symbols & defined.keys()):
             target = min(defined[symbol], key=lambda name: floors[folder_of(name)])
-            handler = any(re.match(rf"_ZNK?{name}\d", symbol) for name in constructed[source])
-            if handler:
-                continue
+            if any(re.match(rf"_ZNK?{name}\d", symbol) for name in constructed[source]):
+                continue  # a handler of the window's own class
             rooms[folder_of(source)].add(folder_of(target))
             if floors[folder_of(target)] > floors[folder_of(source)]:
                 faults.append(f"{source}: {symbol} is defined on a higher floor, in {target}")
@@ -113,26 +114,23 @@ def look_at_symbols(build, floors, rooms):
 
 
 def main():
+    if len(sys.argv) != 2:
+        sys.exit(__doc__)
     floors, systems = {}, {}
     for floor, folders, allowed in ROW.findall((ROOT / "docs/architecture.md").read_text()):
         for folder in re.findall(r"`([^`]+)/`", folders):
             floors[folder] = int(floor)
             systems[folder] = re.findall(r"`<([^>]*)>`", allowed)
     rooms = collections.defaultdict(set)
-    faults, files = look_at_includes(floors, systems, rooms)
-    objects = 0
-    for build in sys.argv[1:]:
-        told, count = look_at_symbols(pathlib.Path(build), floors, rooms)
-        faults += told
-        objects += count
+    include_faults, files = look_at_includes(floors, systems, rooms)
+    symbol_faults, objects = look_at_symbols(pathlib.Path(sys.argv[1]), floors, rooms)
+    faults = include_faults + symbol_faults
     faults += circles({room: reached - {room} for room, reached in rooms.items()})
-    if not sys.argv[1:]:
-        faults.append("no build folder is named: calls are not looked at")
     text = "\n".join(faults) or (f"{files} files and {objects} object files in {len(floors)} "
                                  f"folders stand on {len(set(floors.values()))} floors.")
     print(subprocess.run(["c++filt"], input=text, text=True, check=True,
                          stdout=subprocess.PIPE).stdout)
-    return bool(faults) or not files
+    return bool(faults)
 
 
 if __name__ == "__main__":
