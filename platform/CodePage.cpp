@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
+#include <vector>
 
 namespace malvone {
 
@@ -22,7 +23,7 @@ constexpr char32_t kNoCharacter = 0xFFFFFFFF;  // a byte that is not UTF-8
 struct Decoded
 {
     char32_t Character;
-    std::size_t Length;  // in bytes; 1 for a byte that is not UTF-8
+    std::string_view Bytes;  // that it is made of
 };
 
 constexpr std::uint8_t Byte(char c)
@@ -47,19 +48,30 @@ Decoded Decode(std::string_view text)
         std::find_if(std::begin(kForms), std::end(kForms),
                      [lead](const Form& known) { return (lead & known.Mask) == known.Lead; });
     const auto extra = static_cast<std::size_t>(form - std::begin(kForms));
+    const Decoded none{kNoCharacter, text.substr(0, 1)};
     if (form == std::end(kForms) || text.size() <= extra) {
-        return {kNoCharacter, 1};
+        return none;
     }
     char32_t character = lead & static_cast<std::uint8_t>(~form->Mask);
     for (std::size_t i = 1; i <= extra; ++i) {
         if ((Byte(text[i]) & 0xC0U) != 0x80U) {
-            return {kNoCharacter, 1};
+            return none;
         }
         character = (character << 6U) | (Byte(text[i]) & 0x3FU);
     }
     const bool surrogate = character >= 0xD800 && character <= 0xDFFF;
     const bool known = character >= form->Smallest && character <= 0x10FFFF && !surrogate;
-    return known ? Decoded{character, extra + 1} : Decoded{kNoCharacter, 1};
+    return known ? Decoded{character, text.substr(0, extra + 1)} : none;
+}
+
+std::vector<Decoded> DecodeAll(std::string_view text)
+{
+    std::vector<Decoded> characters;
+    while (!text.empty()) {
+        characters.push_back(Decode(text));
+        text.remove_prefix(characters.back().Bytes.size());
+    }
+    return characters;
 }
 
 void AppendUtf8(std::string& text, char32_t character)
@@ -111,61 +123,44 @@ std::string FromWindows1252(std::string_view bytes)
 std::string ToWindows1252(std::string_view utf8)
 {
     std::string bytes;
-    bytes.reserve(utf8.size());
-    while (!utf8.empty()) {
-        const Decoded next = Decode(utf8);
+    for (const Decoded& next : DecodeAll(utf8)) {
         bytes += ToByte(next.Character);
-        utf8.remove_prefix(next.Length);
     }
     return bytes;
 }
 
 bool IsUtf8(std::string_view text)
 {
-    while (!text.empty()) {
-        const Decoded next = Decode(text);
-        if (next.Character == kNoCharacter) {
-            return false;
-        }
-        text.remove_prefix(next.Length);
-    }
-    return true;
+    const std::vector<Decoded> all = DecodeAll(text);
+    return std::none_of(all.begin(), all.end(),
+                        [](const Decoded& next) { return next.Character == kNoCharacter; });
 }
 
 std::string KeepTypable(std::string_view utf8)
 {
     std::string kept;
-    while (!utf8.empty()) {
-        const Decoded next = Decode(utf8);
+    for (const Decoded& next : DecodeAll(utf8)) {
         const bool held = next.Character == U'?' || ToByte(next.Character) != '?';
         if (held && !IsControl(next.Character)) {
-            kept += utf8.substr(0, next.Length);
+            kept += next.Bytes;
         }
-        utf8.remove_prefix(next.Length);
     }
     return kept;
 }
 
 std::size_t CharacterCount(std::string_view utf8)
 {
-    std::size_t count = 0;
-    for (; !utf8.empty(); ++count) {
-        utf8.remove_prefix(Decode(utf8).Length);
-    }
-    return count;
+    return DecodeAll(utf8).size();
 }
 
-std::string_view Characters(std::string_view utf8, std::size_t first, std::size_t count)
+std::string Characters(std::string_view utf8, std::size_t first, std::size_t count)
 {
-    const auto skip = [](std::string_view text, std::size_t characters) {
-        std::size_t bytes = 0;
-        for (; characters > 0 && bytes < text.size(); --characters) {
-            bytes += Decode(text.substr(bytes)).Length;
-        }
-        return bytes;
-    };
-    utf8.remove_prefix(skip(utf8, first));
-    return utf8.substr(0, skip(utf8, count));
+    const std::vector<Decoded> all = DecodeAll(utf8);
+    std::string part;
+    for (std::size_t i = first; i < all.size() && i - first < count; ++i) {
+        part += all[i].Bytes;
+    }
+    return part;
 }
 
 }  // namespace malvone

@@ -18,8 +18,8 @@ bool IsUtf8(std::string_view text);
 // The characters of a text that a player may type and a file can hold: no control characters.
 std::string KeepTypable(std::string_view utf8);
 
-// The number of characters, and a part of a text by characters.
+// The length of a text, and a part of it, in characters.
 std::size_t CharacterCount(std::string_view utf8);
-std::string_view Characters(std::string_view utf8, std::size_t first, std::size_t count);
+std::string Characters(std::string_view utf8, std::size_t first, std::size_t count);
 
 }  // namespace malvone

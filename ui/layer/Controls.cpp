@@ -50,17 +50,17 @@ void TextBox::Type(std::string_view text)
     const auto length = static_cast<std::int32_t>(CharacterCount(old));
     const std::int32_t start = std::clamp(SelStart.Get(), 0, length);
     const std::int32_t end = start + std::clamp(SelLength.Get(), 0, length - start);
-    const auto head = Characters(old, 0, static_cast<std::size_t>(start));
-    const auto tail = Characters(old, static_cast<std::size_t>(end), old.size());
-    // By design (nur-was-die-datei-haelt): one would expect every letter. What the file has no
-    // place for is not typed. Test: Layer.PlaysAsItsScriptSays
+    const std::string head = Characters(old, 0, static_cast<std::size_t>(start));
+    const std::string tail = Characters(old, static_cast<std::size_t>(end), old.size());
+    // By design (nur-was-die-datei-haelt): one would expect every letter. What the file cannot
+    // hold is not typed. Test: Layer.PlaysAsItsScriptSays
     const std::string typed = KeepTypable(text);
     if (typed.empty() && !text.empty()) {
         return;
     }
 
     SelLength = 0;
-    Text = std::string(head) + typed + std::string(tail);
+    Text = head + typed + tail;
     SelStart = start + static_cast<std::int32_t>(CharacterCount(typed));
 }
 
