@@ -1,10 +1,11 @@
-// Files.cpp: files and folders by the calls of the system, with every outcome looked at.
+// Files.cpp: files and folders by system calls; the outcome of each is checked.
 #include "platform/Files.h"
 
 #include <fcntl.h>
 #include <pwd.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <chrono>
@@ -31,7 +32,7 @@ constexpr int kMostKept = 999;
 constexpr int kLockAttempts = 400;
 constexpr std::chrono::milliseconds kLockWait(5);
 
-// Opening must neither wait for the other end of a pipe nor hand the file on to a viewer.
+// Opening neither waits for the other end of a pipe nor passes the file on to a viewer.
 constexpr int kOpenFlags = O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
 
 FileFault FaultOf(int error)
@@ -55,15 +56,8 @@ fs::path HomeFolder()
     if (home != nullptr && *home != '\0') {
         return home;
     }
-    std::array<char, 4096> buffer{};
-    struct passwd account
-    {};
-    struct passwd* found = nullptr;
-    if (::getpwuid_r(::getuid(), &account, buffer.data(), buffer.size(), &found) != 0 ||
-        found == nullptr || found->pw_dir == nullptr) {
-        return {};
-    }
-    return found->pw_dir;
+    const struct passwd* const account = ::getpwuid(::getuid());
+    return account == nullptr ? fs::path() : fs::path(account->pw_dir);
 }
 
 }  // namespace
@@ -86,10 +80,9 @@ std::optional<fs::path> DefaultDataRoot()
 class FilePlatform::Handle
 {
 public:
-    Handle(FilePlatform& system, int file) : system_(&system), file_(file) {}
-    Handle(Handle&& other) noexcept : system_(other.system_), file_(std::exchange(other.file_, -1))
-    {}
-    Handle& operator=(Handle&&) = delete;
+    Handle(FilePlatform& system, int file) : system_(system), file_(file) {}
+    Handle(const Handle&) = delete;
+    Handle& operator=(const Handle&) = delete;
     ~Handle() { Close(); }
 
     bool Valid() const { return file_ >= 0; }
@@ -98,11 +91,11 @@ public:
     bool Close()
     {
         const int file = std::exchange(file_, -1);
-        return file < 0 || system_->SystemCalls::Close(file) == 0;
+        return file < 0 || system_.SystemCalls::Close(file) == 0;
     }
 
 private:
-    FilePlatform* system_;
+    FilePlatform& system_;
     int file_;
 };
 
@@ -118,9 +111,7 @@ std::optional<fs::path> FilePlatform::Translate(std::string_view path) const
 {
     const auto below = [&path](const fs::path& folder, std::size_t prefix) {
         std::string rest(path.substr(prefix));
-        for (char& c : rest) {
-            c = c == '\\' ? '/' : c;
-        }
+        std::replace(rest.begin(), rest.end(), '\\', '/');
         return rest.empty() ? folder : folder / rest;
     };
     if (root_ && path.starts_with("C:\\")) {
@@ -135,18 +126,16 @@ std::optional<fs::path> FilePlatform::Translate(std::string_view path) const
     return std::nullopt;
 }
 
-bool FilePlatform::IsFolder(const fs::path& path)
+mode_t FilePlatform::KindOf(const fs::path& path)
 {
     struct stat found
     {};
-    return Stat(path, found) == 0 && S_ISDIR(found.st_mode);
+    return Stat(path, found) == 0 ? found.st_mode & S_IFMT : 0;
 }
 
-bool FilePlatform::IsRegular(const fs::path& path)
+bool FilePlatform::IsFolder(const fs::path& path)
 {
-    struct stat found
-    {};
-    return Stat(path, found) == 0 && S_ISREG(found.st_mode);
+    return KindOf(path) == S_IFDIR;
 }
 
 // What cannot be made is noticed when a file in it is opened.
@@ -206,13 +195,13 @@ std::int32_t FilePlatform::OpenFileExist(const std::string& path)
 bool FilePlatform::HasFile(const std::string& path)
 {
     const std::optional<fs::path> place = Translate(path);
-    return place && IsRegular(*place);
+    return place && KindOf(*place) == S_IFREG;
 }
 
 void FilePlatform::DeleteFileA(const std::string& path)
 {
     std::optional<fs::path> place = Translate(path);
-    if (place && !Over && FollowLinks(*place) == FileFault::None && IsRegular(*place)) {
+    if (place && !Over && FollowLinks(*place) == FileFault::None && KindOf(*place) == S_IFREG) {
         Remove(*place);
     }
 }
@@ -224,28 +213,17 @@ ReadLines FilePlatform::ReadTextLines(const std::string& path, std::size_t count
         return {FileFault::PathAccess, {}};
     }
     const Handle file = OpenFile(*place, O_RDONLY);
-    if (!file.Valid()) {
-        return {FaultOf(errno), {}};
+    ReadLines result{Opened(file), {}};
+    if (result.Fault != FileFault::None) {
+        return result;
     }
-    if (!IsRegular(file)) {
-        return {FileFault::PathAccess, {}};
-    }
-    ReadLines result;
     LineCollector collector(count, result.Lines);
     std::array<char, kBlock> block{};
-    while (!collector.Complete()) {
-        const ssize_t got = Read(file.Get(), block);
-        if (got < 0) {
-            result.Fault = FaultOf(errno);
-            return result;
-        }
-        if (got == 0) {
-            collector.EndOfFile();
-            result.Fault = collector.Complete() ? FileFault::None : FileFault::PastEnd;
-            return result;
-        }
+    ssize_t got = 0;
+    while (!collector.Complete() && (got = Read(file.Get(), block)) > 0) {
         collector.Take({block.data(), static_cast<std::size_t>(got)});
     }
+    result.Fault = got < 0 ? FaultOf(errno) : collector.EndOfFile();
     return result;
 }
 
@@ -260,17 +238,12 @@ FileFault FilePlatform::WriteTextLines(const std::string& path,
         return FileFault::PathAccess;
     }
     Handle file = OpenFile(*place, O_WRONLY | O_CREAT | O_TRUNC, kNewFile);
-    if (!file.Valid()) {
-        return FaultOf(errno);
-    }
-    if (!IsRegular(file)) {
-        return FileFault::PathAccess;
-    }
-    const FileFault fault = WriteAll(file.Get(), FileContent(lines));
+    const FileFault fault = Opened(file);
     if (fault != FileFault::None) {
         return fault;
     }
-    return file.Close() ? FileFault::None : FaultOf(errno);
+    const bool good = WriteAll(file.Get(), FileContent(lines)) && file.Close();
+    return good ? FileFault::None : FaultOf(errno);
 }
 
 FileFault FilePlatform::RenewTextLines(const std::string& path, std::size_t count,
@@ -299,8 +272,8 @@ FileFault FilePlatform::RenewTextLines(const std::string& path, std::size_t coun
     }
     fault = Replace(target, *next);
     if (fault == FileFault::None) {
-        // The new name is to survive a power cut. Should this fail, the file is replaced all the
-        // same, and after a power cut it would be the old one, whole.
+        // The new name is to survive a power cut. If this fails, the file has been replaced all the
+        // same; after a power cut it would be the old one, whole.
         Sync(folder.Get());
     }
     return fault;
@@ -332,8 +305,8 @@ FileFault FilePlatform::Replace(const fs::path& target, const NewFile& next)
     return fault;
 }
 
-// Gives the permissions that the new file takes over; none where there is no old file, which two
-// calls have to agree on.
+// Finds the permissions that the new file takes over; none where there is no old file, on which two
+// calls have to agree.
 FileFault FilePlatform::LookAtOld(const fs::path& target, OldFile old, std::optional<mode_t>& mode)
 {
     const bool writable = OpenFile(target, O_WRONLY).Valid();
@@ -356,7 +329,7 @@ FileFault FilePlatform::LookAtOld(const fs::path& target, OldFile old, std::opti
     return writable ? FileFault::None : FaultOf(refused);
 }
 
-// A complete new file, on the disk. It is never open to more users than the old one.
+// Writes a complete new file to the disk. It is never open to more users than the old one.
 FileFault FilePlatform::WriteNew(const fs::path& name, std::string_view content,
                                  std::optional<mode_t> mode)
 {
@@ -367,28 +340,26 @@ FileFault FilePlatform::WriteNew(const fs::path& name, std::string_view content,
     if (mode) {  // not every file system has permissions
         ChangeMode(file.Get(), *mode);
     }
-    const FileFault fault = WriteAll(file.Get(), content);
-    if (fault != FileFault::None) {
-        return fault;
-    }
-    return Sync(file.Get()) == 0 && file.Close() ? FileFault::None : FaultOf(errno);
+    const bool good = WriteAll(file.Get(), content) && Sync(file.Get()) == 0 && file.Close();
+    return good ? FileFault::None : FaultOf(errno);
 }
 
-FileFault FilePlatform::WriteAll(int file, std::string_view content)
+// False leaves the reason in errno.
+bool FilePlatform::WriteAll(int file, std::string_view content)
 {
     while (!content.empty()) {
         const ssize_t written = Write(file, content);
         if (written <= 0) {
             errno = written < 0 ? errno : EIO;
-            return FaultOf(errno);
+            return false;
         }
         content.remove_prefix(static_cast<std::size_t>(written));
     }
-    return FileFault::None;
+    return true;
 }
 
-// Gives the file a second name that no file has yet: at no moment is it without one. A file system
-// that knows no second names gets a copy.
+// Gives the file a second name that no file has yet, so that it is never without one. A file system
+// without second names gets a copy.
 FileFault FilePlatform::KeepBeside(const fs::path& file, fs::path& kept)
 {
     for (int i = 1; i <= kMostKept; ++i) {
@@ -407,7 +378,7 @@ FileFault FilePlatform::KeepBeside(const fs::path& file, fs::path& kept)
     return FileFault::PathAccess;
 }
 
-// A whole copy, on the disk, or none. Gives the error number, 0 for success.
+// Makes a whole copy on the disk, or none. Returns the error number, 0 for success.
 int FilePlatform::Copy(const fs::path& from, const fs::path& to)
 {
     const Handle source = OpenFile(from, O_RDONLY);
@@ -424,8 +395,7 @@ int FilePlatform::Copy(const fs::path& from, const fs::path& to)
     bool good = true;
     ssize_t got = 0;
     while (good && (got = Read(source.Get(), block)) > 0) {
-        good =
-            WriteAll(copy.Get(), {block.data(), static_cast<std::size_t>(got)}) == FileFault::None;
+        good = WriteAll(copy.Get(), {block.data(), static_cast<std::size_t>(got)});
     }
     good = good && got == 0 && Sync(copy.Get()) == 0 && copy.Close();
     const int error = good ? 0 : errno;
@@ -435,8 +405,8 @@ int FilePlatform::Copy(const fs::path& from, const fs::path& to)
     return error;
 }
 
-// Leads on to the file behind a link, which may be missing. That the last one is no link is looked
-// at twice, since the new file will take its place.
+// Leads on to the file behind a link, which may be missing. Whether the last one is a link is asked
+// twice, since the new file will take its place.
 FileFault FilePlatform::FollowLinks(fs::path& path)
 {
     std::array<char, kBlock> next{};
@@ -453,8 +423,8 @@ FileFault FilePlatform::FollowLinks(fs::path& path)
     return FileFault::PathAccess;
 }
 
-// False where another run has held the lock for too long. A folder that knows no locks, on a
-// network say, holds nobody up.
+// False if another run has held the lock for too long. A folder without locks, on a network say,
+// delays nobody.
 bool FilePlatform::Locked(int folder)
 {
     for (int i = 0; i < kLockAttempts; ++i) {
@@ -466,11 +436,17 @@ bool FilePlatform::Locked(int folder)
     return false;
 }
 
-bool FilePlatform::IsRegular(const Handle& file)
+// What is wrong with a file that has just been opened: pipes, devices and folders are no place for
+// lines.
+FileFault FilePlatform::Opened(const Handle& file)
 {
+    if (!file.Valid()) {
+        return FaultOf(errno);
+    }
     struct stat found
     {};
-    return FileStat(file.Get(), found) == 0 && S_ISREG(found.st_mode);
+    const bool regular = FileStat(file.Get(), found) == 0 && S_ISREG(found.st_mode);
+    return regular ? FileFault::None : FileFault::PathAccess;
 }
 
 FilePlatform::Handle FilePlatform::OpenFile(const fs::path& path, int flags, mode_t mode)

@@ -1,5 +1,5 @@
-// Files.h: the platform's services around files and folders, the same below all bindings. What
-// plays sounds and opens documents is left to those who derive from it.
+// Files.h: the files and folders of a platform, the same for all bindings. Derived classes play
+// sounds and open documents.
 #pragma once
 
 #include <sys/types.h>
@@ -15,9 +15,9 @@
 
 namespace malvone {
 
-// The folder that stands for the root of the drive where nothing else is wished: $XDG_DATA_HOME if
-// it is absolute, else .local/share in the home folder, which is $HOME, or without it the one of
-// the user's account. Nothing where the home folder does not exist.
+// The folder that stands for the root of the drive by default: $XDG_DATA_HOME if it is absolute,
+// else .local/share in the home folder, which is $HOME or, without it, that of the user's account.
+// Nothing if the home folder does not exist.
 std::optional<std::filesystem::path> DefaultDataRoot();
 
 class FilePlatform : public Platform, protected SystemCalls
@@ -38,17 +38,17 @@ public:
     // Follows links, which stay, and leaves alone whatever is no regular file.
     void DeleteFileA(const std::string& path) override;
 
-    // Lines have any length. Only a regular file is read, so that the reading comes to an end;
-    // anything else is PathAccess, and a pipe holds nobody up.
+    // Lines may have any length. Only a regular file is read, so that reading comes to an end and
+    // never waits for a pipe; anything else is PathAccess.
     ReadLines ReadTextLines(const std::string& path, std::size_t count) override;
     // Does not wait for the disk.
     FileFault WriteTextLines(const std::string& path,
                              const std::vector<std::string>& lines) override;
     // The new file is complete on the disk before it gets the name of the old one, whose
-    // permissions it takes over. Links are followed, and a file that may not be written stays as it
-    // is unless it is kept. The new file is written under the name of the old one and ".neu"; what
-    // a killed run has left there goes. Two runs wait for each other, at most two seconds. A kept
-    // file lies beside the new one, with "-nicht-gelesen-" and a number in its name.
+    // permissions it takes over. Links are followed, and a read-only file stays as it is unless it
+    // is kept. The new file is written under the old name with ".neu" appended, over what a killed
+    // run may have left there. Two runs wait for each other, for two seconds at most. A kept file
+    // lies beside the new one, with "-nicht-gelesen-" and a number in its name.
     FileFault RenewTextLines(const std::string& path, std::size_t count,
                              const Renewal& renewal) override;
 
@@ -58,21 +58,21 @@ private:
     std::optional<std::filesystem::path> root_;
     std::filesystem::path programFolder_;
 
+    mode_t KindOf(const std::filesystem::path& path);  // S_IFREG and its like; 0 for nothing
     bool IsFolder(const std::filesystem::path& path);
-    bool IsRegular(const std::filesystem::path& path);
     void MakeFoldersAbove(const std::filesystem::path& path);
     // Where a file is to be written; the root is made if the file lies directly in it.
     std::optional<std::filesystem::path> PlaceToWrite(const std::string& path);
     FileFault FollowLinks(std::filesystem::path& path);
     bool Locked(int folder);
     Handle OpenFile(const std::filesystem::path& path, int flags, mode_t mode = 0);
-    bool IsRegular(const Handle& file);
+    FileFault Opened(const Handle& file);
     FileFault Replace(const std::filesystem::path& target, const NewFile& next);
     FileFault LookAtOld(const std::filesystem::path& target, OldFile old,
                         std::optional<mode_t>& mode);
     FileFault WriteNew(const std::filesystem::path& name, std::string_view content,
                        std::optional<mode_t> mode);
-    FileFault WriteAll(int file, std::string_view content);
+    bool WriteAll(int file, std::string_view content);
     FileFault KeepBeside(const std::filesystem::path& file, std::filesystem::path& kept);
     int Copy(const std::filesystem::path& from, const std::filesystem::path& to);
 };

@@ -1,4 +1,4 @@
-// Platform.h: what the game asks of the system under it, by the names that the game uses.
+// Platform.h: what the game asks of the system below it, under the names that the game uses.
 #pragma once
 
 #include <chrono>
@@ -29,10 +29,10 @@ struct ReadLines
     friend bool operator==(const ReadLines&, const ReadLines&) = default;
 };
 
-// What becomes of a file in the place of which a new one is written.
+// What becomes of a file that a new one is to replace.
 enum class OldFile {
     Goes,   // the new one takes its place
-    Kept,   // the same, and the old one is kept beside it, over no other file
+    Kept,   // the same, but the old one is kept beside it under a free name
     Stays,  // the new one is not written
 };
 
@@ -42,7 +42,7 @@ struct NewFile
     OldFile Old = OldFile::Goes;
 };
 
-// Works out a new file from what the old one holds now; nothing leaves the old one alone.
+// Works out a new file from what the old one holds now; without a value the old one stays.
 using Renewal = std::function<std::optional<NewFile>(const ReadLines& now)>;
 
 // Answers of OpenFile with OF_EXIST.
@@ -73,7 +73,7 @@ public:
     virtual std::int32_t OpenFileExist(const std::string& path) = 0;
     // Whether a folder lists a file of that name, be it readable or not.
     virtual bool HasFile(const std::string& path) { return OpenFileExist(path) == kFileExists; }
-    // Removes a file; nobody looks at the outcome.
+    // Removes a file, if it can.
     virtual void DeleteFileA(const std::string& path) = 0;
 
     // Reads the first `count` lines of a text file (Windows-1252; lines end with CR LF, LF or CR).
@@ -82,9 +82,9 @@ public:
     // Writes a new file line by line, each ended by CR LF. A fault may leave a part of it behind.
     virtual FileFault WriteTextLines(const std::string& path,
                                      const std::vector<std::string>& lines) = 0;
-    // The same in one step: a complete new file takes the place of the old one, or the old one
-    // stays as it was, which is a fault. What goes there is decided from the first `count` lines of
-    // the old file, and no other run changes it in between. A count of 0 reads nothing.
+    // The same in one step: a complete new file replaces the old one, or the old one stays as it
+    // was, which is a fault. The new file is worked out from the first `count` lines of the old
+    // one, which no other run changes in between. A count of 0 reads nothing.
     virtual FileFault RenewTextLines(const std::string& path, std::size_t count,
                                      const Renewal& renewal) = 0;
     FileFault ReplaceTextLines(const std::string& path, const std::vector<std::string>& lines,
@@ -96,7 +96,7 @@ public:
     // Hands a wave file to the player and returns at once; the empty path is silence.
     virtual void sndPlaySoundA(const std::string& path) = 0;
     virtual std::int32_t waveOutGetNumDevs() { return 1; }
-    // Opens a document in the system's viewer; nobody looks at the outcome.
+    // Opens a document in the system's viewer, if it can.
     virtual void ShellExecuteA(const std::string& path) = 0;
 
     // Nanoseconds of the system's clock. It may stand still between two calls.

@@ -11,8 +11,8 @@
 
 namespace malvone {
 
-// A call that a signal has interrupted is made again. Each answers as the system does: a negative
-// number and errno where it has failed.
+// A call that a signal has interrupted is made again. Each returns what the system does: a negative
+// number if it has failed, with the reason in errno.
 class SystemCalls
 {
 public:

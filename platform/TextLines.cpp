@@ -23,11 +23,12 @@ void LineCollector::Take(std::string_view block)
     }
 }
 
-void LineCollector::EndOfFile()
+FileFault LineCollector::EndOfFile()
 {
     if (!line_.empty() && !Complete()) {
         EndLine();
     }
+    return Complete() ? FileFault::None : FileFault::PastEnd;
 }
 
 void LineCollector::EndLine()
@@ -41,8 +42,7 @@ ReadLines FirstLines(std::string_view content, std::size_t count)
     ReadLines result;
     LineCollector collector(count, result.Lines);
     collector.Take(content);
-    collector.EndOfFile();
-    result.Fault = collector.Complete() ? FileFault::None : FileFault::PastEnd;
+    result.Fault = collector.EndOfFile();
     return result;
 }
 

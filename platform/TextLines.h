@@ -1,5 +1,5 @@
-// TextLines.h: between the bytes of a text file and its lines, the same wherever files are kept:
-// Windows-1252 and CR LF out, LF and CR alone taken too.
+// TextLines.h: converts between the bytes of a text file and its lines, wherever files are kept.
+// Written are Windows-1252 and CR LF; LF or CR alone is read too.
 #pragma once
 
 #include <cstddef>
@@ -11,7 +11,7 @@
 
 namespace malvone {
 
-// Puts the first lines of a file together from blocks of its bytes.
+// Collects the first lines of a file from blocks of its bytes.
 class LineCollector
 {
 public:
@@ -22,8 +22,8 @@ public:
     bool Complete() const { return lines_.size() >= wanted_; }
 
     void Take(std::string_view block);
-    // The last line needs no end.
-    void EndOfFile();
+    // The last line needs no end. Fewer lines than wanted are PastEnd.
+    FileFault EndOfFile();
 
 private:
     std::size_t wanted_;
@@ -34,7 +34,7 @@ private:
     void EndLine();
 };
 
-// The first lines of a whole file, and the same way back.
+// The first lines of a whole file, and the bytes of such lines.
 ReadLines FirstLines(std::string_view content, std::size_t count);
 std::string FileContent(const std::vector<std::string>& lines);
 
