@@ -39,26 +39,6 @@ bool Paar(int zelle, int nachbar)
     return Zellwert(zelle) != 0 && frmTessel->imgFeld(zelle).Tag == frmTessel->imgFeld(nachbar).Tag;
 }
 
-bool SenkrechtesPaar()
-{
-    for (int i = 1; i <= kZellen; ++i) {
-        if (Reihe(i) < kReihen - 1 && Paar(i, i + 1)) {
-            return true;
-        }
-    }
-    return false;
-}
-
-bool WaagerechtesPaar()
-{
-    for (int i = 1; i <= kZellen - kReihen; ++i) {
-        if (Paar(i, i + kReihen)) {
-            return true;
-        }
-    }
-    return false;
-}
-
 }  // namespace
 
 void SpaltenSchliessen()
@@ -74,7 +54,15 @@ void SpaltenSchliessen()
 
 void ZugVorhanden(Flag& Ergebnis)
 {
-    Ergebnis = SenkrechtesPaar() || WaagerechtesPaar() ? True : False;
+    Ergebnis = False;
+    for (int i = 1; i <= kZellen; ++i) {
+        const bool senkrecht = Reihe(i) < kReihen - 1 && Paar(i, i + 1);
+        const bool waagerecht = Spalte(i) < kSpalten - 1 && Paar(i, i + kReihen);
+        if (senkrecht || waagerecht) {
+            Ergebnis = True;
+            return;
+        }
+    }
 }
 
 }  // namespace malvone

@@ -1,7 +1,6 @@
 // SteuereBilder.cpp: what is marked, how it looks, and what it is worth.
 #include "board/SteuereBilder.h"
 
-#include <cmath>
 #include <string>
 
 #include "state/Spielstand.h"
@@ -17,23 +16,9 @@ namespace {
 constexpr Colour kDunkelblau = 0x00C00000;
 constexpr Colour kRot = 255;
 
-// Set when a test to the side finds the colour, even if the neighbour was marked already.
-bool RechtsGefunden = false;
-bool LinksGefunden = false;
-
 bool HatFarbe(int zelle, std::int16_t farbe)
 {
     return Zellwert(zelle) == farbe;
-}
-
-bool HatRechts(int zelle)
-{
-    return zelle < ObersteZelle(kSpalten - 1);
-}
-
-bool HatLinks(int zelle)
-{
-    return zelle > kReihen;
 }
 
 void MarkierenWennFarbe(int zelle, std::int16_t farbe)
@@ -43,20 +28,26 @@ void MarkierenWennFarbe(int zelle, std::int16_t farbe)
     }
 }
 
-void RechtsPruefenMelden(int zelle, std::int16_t farbe)
+// The tests to the sides mark the neighbour if it has the colour. They return whether it has, be it
+// newly marked or not.
+bool RechtsPruefen(int zelle, std::int16_t farbe)
 {
-    RechtsPruefen(zelle, farbe);
-    if (HatFarbe(zelle + kReihen, farbe)) {
-        RechtsGefunden = true;
+    const int rechts = zelle + kReihen;
+    if (rechts > kZellen || !HatFarbe(rechts, farbe)) {
+        return false;
     }
+    Satz(rechts).Markiert = True;
+    return true;
 }
 
-void LinksPruefenMelden(int zelle, std::int16_t farbe)
+bool LinksPruefen(int zelle, std::int16_t farbe)
 {
-    LinksPruefen(zelle, farbe);
-    if (HatFarbe(zelle - kReihen, farbe)) {
-        LinksGefunden = true;
+    const int links = zelle - kReihen;
+    if (links < 1 || !HatFarbe(links, farbe)) {
+        return false;
     }
+    Satz(links).Markiert = True;
+    return true;
 }
 
 // A direction within a column: a step, and the edge at which it ends.
@@ -72,12 +63,8 @@ constexpr Richtung kAbwaerts{+1, &Zelle::UntererRand};
 void StartGang(int zelle, std::int16_t farbe, Richtung richtung)
 {
     for (int i = zelle;; i += richtung.Schritt) {
-        if (HatRechts(i)) {
-            RechtsPruefenMelden(i, farbe);
-        }
-        if (HatLinks(i)) {
-            LinksPruefenMelden(i, farbe);
-        }
+        RechtsPruefen(i, farbe);
+        LinksPruefen(i, farbe);
         if (Satz(i).*richtung.Rand != False) {
             return;
         }
@@ -88,22 +75,32 @@ void StartGang(int zelle, std::int16_t farbe, Richtung richtung)
     }
 }
 
-// A pass goes on to the edge of the column and acts on each marked cell that it meets.
-template<class SeitenPruefen>
-void Durchgang(int zelle, std::int16_t farbe, Richtung richtung, SeitenPruefen seitenPruefen)
+// A pass goes on to the edge of the column and acts on each marked cell that it meets. Returns
+// whether a test forward has found the colour.
+using Seitentest = bool (*)(int zelle, std::int16_t farbe);
+bool Durchgang(int zelle, std::int16_t farbe, Richtung richtung, Seitentest vor, Seitentest zurueck)
 {
+    bool gefunden = false;
     for (int k = zelle;; k += richtung.Schritt) {
         const bool markiert = Satz(k).Markiert != False;
         if (markiert) {
-            seitenPruefen(k);
+            gefunden = vor(k, farbe) || gefunden;
+            zurueck(k, farbe);
         }
         if (Satz(k).*richtung.Rand != False) {
-            return;
+            return gefunden;
         }
         if (markiert) {
             MarkierenWennFarbe(k + richtung.Schritt, farbe);
         }
     }
+}
+
+bool Spaltengang(int zelle, std::int16_t farbe, Seitentest vor, Seitentest zurueck)
+{
+    const bool oben = Durchgang(zelle, farbe, kAufwaerts, vor, zurueck);
+    const bool unten = Durchgang(zelle, farbe, kAbwaerts, vor, zurueck);
+    return oben || unten;
 }
 
 int HoechsteMarkierte()
@@ -151,7 +148,7 @@ std::int32_t Markierte()
 
 std::int32_t Zugwert(std::int32_t steine)
 {
-    return static_cast<std::int32_t>(std::lround(std::pow(static_cast<double>(steine), 2.0)));
+    return steine * steine;
 }
 
 }  // namespace
@@ -195,16 +192,6 @@ void FeldLeeren()
     frmTessel->cmdSchalt(kSchaltWiederholen).Visible = true;
 }
 
-void RechtsPruefen(int zelle, std::int16_t farbe)
-{
-    MarkierenWennFarbe(zelle + kReihen, farbe);
-}
-
-void LinksPruefen(int zelle, std::int16_t farbe)
-{
-    MarkierenWennFarbe(zelle - kReihen, farbe);
-}
-
 void StartSpalteMarkieren(int zelle)
 {
     const auto farbe = static_cast<std::int16_t>(Zellwert(zelle));
@@ -215,38 +202,14 @@ void StartSpalteMarkieren(int zelle)
 
 void NachRechtsAusbreiten(std::int16_t farbe)
 {
-    const auto seitenPruefen = [farbe](int k) {
-        if (HatRechts(k)) {
-            RechtsPruefenMelden(k, farbe);
-        }
-        if (HatLinks(k)) {
-            LinksPruefen(k, farbe);
-        }
-    };
-    do {
-        RechtsGefunden = false;
-        const int hoechste = HoechsteMarkierte();
-        Durchgang(hoechste, farbe, kAufwaerts, seitenPruefen);
-        Durchgang(hoechste, farbe, kAbwaerts, seitenPruefen);
-    } while (RechtsGefunden);
+    while (Spaltengang(HoechsteMarkierte(), farbe, RechtsPruefen, LinksPruefen)) {
+    }
 }
 
 void NachLinksAusbreiten(std::int16_t farbe)
 {
-    const auto seitenPruefen = [farbe](int k) {
-        if (HatLinks(k)) {
-            LinksPruefenMelden(k, farbe);
-        }
-        if (HatRechts(k)) {
-            RechtsPruefen(k, farbe);
-        }
-    };
-    do {
-        LinksGefunden = false;
-        const int niedrigste = NiedrigsteMarkierte();
-        Durchgang(niedrigste, farbe, kAufwaerts, seitenPruefen);
-        Durchgang(niedrigste, farbe, kAbwaerts, seitenPruefen);
-    } while (LinksGefunden);
+    while (Spaltengang(NiedrigsteMarkierte(), farbe, LinksPruefen, RechtsPruefen)) {
+    }
 }
 
 void GruppeVorschauen(std::int16_t farbe)

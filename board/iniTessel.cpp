@@ -19,17 +19,13 @@ void ZelleAnlegen(int zelle)
 {
     Image& feld = frmTessel->imgFeld.Load(zelle);
     feld.Visible = true;
-    Satz(zelle) = Zelle();
+    feld.Move(kRand + kRaster * static_cast<Twips>(Spalte(zelle)),
+              kRand + kRaster * static_cast<Twips>(Reihe(zelle)));
     feld.Picture = frmBilder->imgGrund.Picture;
     feld.Tag = "0";
-}
-
-void RaenderSetzen()
-{
-    for (int spalte = 0; spalte < kSpalten; ++spalte) {
-        Satz(ObersteZelle(spalte)).ObererRand = True;
-        Satz(UntersteZelle(spalte)).UntererRand = True;
-    }
+    Satz(zelle) = Zelle();
+    Satz(zelle).ObererRand = Reihe(zelle) == 0 ? True : False;
+    Satz(zelle).UntererRand = Reihe(zelle) == kReihen - 1 ? True : False;
 }
 
 }  // namespace
@@ -39,13 +35,8 @@ void FeldAnlegen()
     for (int i = 1; i <= kZellen; ++i) {
         ZelleAnlegen(i);
     }
-    for (int i = 1; i <= kZellen; ++i) {
-        frmTessel->imgFeld(i).Left = kRand + kRaster * static_cast<Twips>(Spalte(i));
-        frmTessel->imgFeld(i).Top = kRand + kRaster * static_cast<Twips>(Reihe(i));
-    }
     frmTessel->imgFeld(0).Visible = false;
     frmTessel->imgFeld(0).Enabled = false;
-    RaenderSetzen();
 }
 
 void FeldFuellen()
