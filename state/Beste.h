@@ -16,7 +16,7 @@ struct Bestenstand
     ReadLines Datei;                // the file as this run has last read or written it
 };
 
-extern Bestenstand Beste;
+inline Bestenstand Beste;
 
 inline constexpr const char* kFreierPlatz = "Niemand";  // the name of a free place
 inline constexpr const char* kNeuerName = "Spieler";    // of an entry until a name is typed

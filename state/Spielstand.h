@@ -18,6 +18,6 @@ struct Spielstand
     bool KeinSpielBegonnen = false;     // true from the start until the first level has begun
 };
 
-extern Spielstand Stand;
+inline Spielstand Stand;
 
 }  // namespace malvone

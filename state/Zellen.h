@@ -42,7 +42,7 @@ struct Zelle
 };
 
 // Index 1 to 140; record 0 belongs to no cell.
-extern std::array<Zelle, kZellen + 1> Zellen;
+inline std::array<Zelle, kZellen + 1> Zellen;
 
 inline Zelle& Satz(int zelle)
 {
