@@ -1,4 +1,4 @@
-// App.cpp: the program from its beginning to its end, modal loops, and events from outside.
+// App.cpp: the program from start to end, modal loops, and events from outside.
 #include "ui/layer/App.h"
 
 #include "Version.h"
@@ -25,7 +25,7 @@ void Application::Begin(malvone::Binding& binding, Platform& platform)
 
 void Application::Finish()
 {
-    ended_ = true;  // so that the windows' destructors tell no binding
+    ended_ = true;  // so that no destructor of a window calls the binding
     modals_.clear();
     gone_.clear();
     for (InstanceBase* const instance : InstanceBase::All()) {
@@ -62,7 +62,7 @@ bool Application::TakesInput(const Window& window) const
 void Application::RunModal(Window& window)
 {
     // By design (meldung-nimmt-druck): one would expect a press to last until its release. That
-    // happens elsewhere now, or nowhere, and what is pressed would look so for good.
+    // happens elsewhere now, or not at all, and the control would look pressed for good.
     // Test: Layer.PlaysAsItsScriptSays
     for (InstanceBase* const instance : InstanceBase::All()) {
         if (Window* const other = instance->Current()) {

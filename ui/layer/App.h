@@ -80,7 +80,7 @@ struct ScreenObject
 };
 inline const ScreenObject Screen;
 
-// Put around everything that runs handlers, Main included: windows that were unloaded in the
+// Goes around everything that runs handlers, Main included: windows that were unloaded in the
 // meantime are destroyed at the end of the outermost scope.
 class EventScope
 {

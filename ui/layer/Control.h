@@ -60,7 +60,6 @@ public:
 
 protected:
     explicit Control(const Seat& seat);
-    const Events& AllEvents() const { return *events_; }
     Events& AllEvents() { return *events_; }
 
 private:
@@ -70,8 +69,8 @@ private:
     std::int16_t index_;
 };
 
-// The text of an image's Tag together with its value as a number: the board is read a thousand
-// times for each movement of the pointer.
+// The text of an image's Tag together with its value as a number: each movement of the pointer
+// reads the board a thousand times.
 class TagText
 {
 public:
@@ -85,7 +84,7 @@ public:
     // The value of decimal digits with an optional minus sign; 0 for any other text.
     std::int32_t Number() const { return number_; }
 
-    // Nearly all are one digit long; for them a call of the library would cost most of the time.
+    // Nearly all are one digit long; for those, calling the library would take most of the time.
     friend bool operator==(const TagText& a, const TagText& b)
     {
         const bool single = a.text_.size() == 1 && b.text_.size() == 1;
@@ -132,7 +131,7 @@ public:
     std::int16_t TabIndex = 0;
     Property<bool> TabStop{*this, Change::State, true};
 
-    // Takes over from another control what a copy of it needs.
+    // Takes from another control what a copy of it needs.
     void CopyFrom(const Visual& other);
 
 protected:

@@ -1,4 +1,4 @@
-// Event.h: what controls tell their window.
+// Event.h: the events of controls, which their window handles.
 #pragma once
 
 #include <concepts>
@@ -51,8 +51,6 @@ public:
         }
         return *this;
     }
-
-    bool Connected() const { return static_cast<bool>(handler_); }
 
     void Raise(std::int16_t index, const Args&... args) const
     {

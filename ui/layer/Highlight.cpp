@@ -43,14 +43,14 @@ Visual* BottomLeft(const Window& window)
     return best;
 }
 
-// How far two stretches overlap; 0 or less if they do not.
+// By how much two stretches overlap; 0 or less if they do not.
 Twips Overlap(Twips a, Twips aLength, Twips b, Twips bLength)
 {
     return std::min(a + aLength, b + bLength) - std::max(a, b);
 }
 
-// The nearest control straight ahead, and of several at the same distance the one that is least
-// aside. Without any, the highlight stays.
+// The nearest control straight ahead; of several at the same distance, the one least off to the
+// side. If there is none, the highlight stays.
 Visual& Next(const Window& window, Visual& from, const Direction& direction)
 {
     const Mouse here = MiddleOf(from, 0);
@@ -75,7 +75,7 @@ Visual& Next(const Window& window, Visual& from, const Direction& direction)
     return *nearest;
 }
 
-// The movement takes the frame away, as every movement does.
+// The movement takes the frame away, as every movement does, so it is put back.
 void PointAt(Window& window, Visual& visual)
 {
     Hover(window, MiddleOf(visual, 0));
@@ -99,9 +99,9 @@ bool TakenByArrow(Window& window, const Direction& direction)
 // By design (spiel-mit-tasten): one would expect Delete to do nothing here. It is the left button
 // of players who use no pointer. Test: games.arrow_keys
 //
-// What lies there when all is done is pointed at, so that the next press takes what is shown; but
-// not where a window has come in between, which ends the press as well as the preview. A control
-// that has gone with the press keeps no highlight.
+// What lies there afterwards is pointed at, so that the next press takes what is shown; but not if
+// a window has come up in between, which ends both the press and the preview. A control that has
+// gone with the press keeps no highlight.
 bool TakenByPress(Window& window)
 {
     Visual* const here = window.Highlighted();

@@ -1,4 +1,4 @@
-// Instance.cpp: the list of all windows by name, and how a window is announced to the binding.
+// Instance.cpp: the list of all windows by name; tells the binding of a new window.
 #include "ui/layer/Instance.h"
 
 #include <algorithm>
@@ -37,7 +37,7 @@ InstanceBase* InstanceBase::Find(std::string_view name)
 void InstanceBase::Announce(Window& window)
 {
     window.instance_ = this;
-    // After the end a touch still has to give an object, but nothing is loaded any more.
+    // After the end a touch must still return a window, but nothing is loaded any more.
     if (App.Ended()) {
         return;
     }

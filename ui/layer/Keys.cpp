@@ -10,16 +10,18 @@
 namespace malvone {
 namespace {
 
-std::vector<CommandButton*> ReachableButtons(const Window& window)
+// Clicks the first button that takes input and is the wanted one.
+template<class Wanted>
+bool ClickButton(const Window& window, Wanted wanted)
 {
-    std::vector<CommandButton*> buttons;
     for (Visual* const visual : window.FrontToBack()) {
         auto* const button = dynamic_cast<CommandButton*>(visual);
-        if (button != nullptr && button->Reachable()) {
-            buttons.push_back(button);
+        if (button != nullptr && button->Reachable() && wanted(*button)) {
+            button->RaiseClick();
+            return true;
         }
     }
-    return buttons;
+    return false;
 }
 
 bool TakenByShortcut(const Window& window, Key key)
@@ -35,40 +37,22 @@ bool TakenByShortcut(const Window& window, Key key)
 
 bool TakenByAccessKey(const Window& window, Key key)
 {
-    if (key.Shift != kAltKey) {
-        return false;
-    }
-    for (CommandButton* const button : ReachableButtons(window)) {
-        if (AccessKey(button->Caption.Get()) == key.Code) {
-            button->RaiseClick();
-            return true;
-        }
-    }
-    return false;
+    return key.Shift == kAltKey && ClickButton(window, [key](const CommandButton& button) {
+               return AccessKey(button.Caption.Get()) == key.Code;
+           });
 }
 
 bool TakenByDefaultButton(const Window& window, Key key)
 {
-    if (key != Key{kKeyEnter, 0}) {
-        return false;
-    }
-    for (CommandButton* const button : ReachableButtons(window)) {
-        if (button->Default) {
-            button->RaiseClick();
-            return true;
-        }
-    }
-    return false;
+    return key == Key{kKeyEnter, 0} &&
+           ClickButton(window, [](const CommandButton& button) { return button.Default.Get(); });
 }
 
 bool TakenByFocusedButton(const Window& window, Key key)
 {
-    auto* const button = dynamic_cast<CommandButton*>(window.Focus());
-    if (key != Key{kKeySpace, 0} || button == nullptr || !button->Reachable()) {
-        return false;
-    }
-    button->RaiseClick();
-    return true;
+    return key == Key{kKeySpace, 0} && ClickButton(window, [&](const CommandButton& button) {
+               return &button == window.Focus();
+           });
 }
 
 // By design (tab-bleibt): one would expect Tab to reach every button. One beyond the window's edge

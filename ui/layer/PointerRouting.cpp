@@ -1,4 +1,4 @@
-// PointerRouting.cpp: which control hears of the pointer.
+// PointerRouting.cpp: which control gets the events of the pointer.
 #include "ui/layer/PointerRouting.h"
 
 #include "ui/layer/App.h"
@@ -16,13 +16,13 @@ Mouse Within(const Visual& visual, const Mouse& mouse)
     return inside;
 }
 
-// While something is pressed it hears of the pointer anywhere, else only within the client area.
-bool HearsOf(const Window& window, const Mouse& mouse)
+// While something is pressed, it gets events from anywhere, else only from the client area.
+bool GetsPointer(const Window& window, const Mouse& mouse)
 {
     return App.TakesInput(window) && (window.Pressed() || window.InClient(mouse.X, mouse.Y));
 }
 
-// Whether the pointer is where it was, and where it is from now on.
+// Notes where the pointer is. Returns whether it was there before.
 bool Rests(Window& window, const Mouse& mouse)
 {
     auto& routed = Routing::Of(window);
@@ -66,7 +66,7 @@ Mouse MiddleOf(const Visual& visual, std::int16_t button)
 
 void PointerPressed(Window& window, const Mouse& mouse)
 {
-    if (!HearsOf(window, mouse)) {
+    if (!GetsPointer(window, mouse)) {
         return;
     }
     const EventScope scope;
@@ -74,8 +74,8 @@ void PointerPressed(Window& window, const Mouse& mouse)
     if (!pressed) {
         pressed = ControlAt(window, mouse.X, mouse.Y);
     }
-    // Keys may have pointed elsewhere in the meantime, and only what was pointed at last may be
-    // clicked.
+    // Keys may have pointed elsewhere in the meantime, but a click acts on what was pointed at
+    // last.
     if (mouse.Button == kLeftButton && window.Highlighted() != nullptr &&
         window.Highlighted() != pressed) {
         Hover(window, mouse);
@@ -95,7 +95,7 @@ void PointerMoved(Window& window, const Mouse& mouse)
 
 void Hover(Window& window, const Mouse& mouse)
 {
-    if (!HearsOf(window, mouse)) {
+    if (!GetsPointer(window, mouse)) {
         return;
     }
     const EventScope scope;
@@ -127,8 +127,8 @@ void PointerReleased(Window& window, const Mouse& mouse)
             target->RaiseClick();
         }
     }
-    // The pointer has slid onto something else: without this movement the next press would act on
-    // what it no longer points at. If it has stayed, it has been heard of, and a click stays one.
+    // The pointer has slid onto something else: without this movement, the next press would act on
+    // what it no longer points at.
     if (left) {
         Hover(window, Mouse{0, mouse.Shift, mouse.X, mouse.Y});
     }

@@ -22,19 +22,20 @@ void PointerReleased(Window& window, const Mouse& mouse);
 
 // Forgets a press that will not see its release.
 void LetGo(Window& window);
-// The same for a control that is to look as if it had been released: it hears that, and no click.
+// The same, but the pressed control gets a release, so that it no longer looks pressed, and no
+// click.
 void TakePressFrom(Window& window);
 
-// What a movement does. A pointer that rests leaves the highlight of the arrow keys alone, though
-// browsers tell of a movement when something changes below it.
+// What a movement does. PointerMoved spares the highlight of the arrow keys if the pointer rests:
+// browsers report a movement, too, when something changes below it.
 void Hover(Window& window, const Mouse& mouse);
 
-// A finger cannot point without touching. If its coming changes what is seen, it has pointed; if
-// nothing changes, it presses.
+// A finger cannot point without touching. If its touch as a pointer changes what is seen, it has
+// pointed; if nothing changes, it presses.
 void FingerPressed(Window& window, const Mouse& mouse);
 
-// For players who cannot point: as if the pointer had come to the middle of a control and clicked.
-// The movement, the press or the release may take the window away; what is left does nothing then.
+// For players who cannot use a pointer: as if it had come to the middle of a control and clicked.
+// The movement, the press or the release may take the window away; the rest then does nothing.
 void Press(Visual& visual);
 
 }  // namespace malvone

@@ -1,4 +1,4 @@
-// Property.h: values of windows and controls, which tell of every change.
+// Property.h: values of windows and controls, which report every change.
 #pragma once
 
 #include <string>

@@ -1,5 +1,5 @@
-// Routing.h: the way of pointer and highlight into what a window remembers of them. For those who
-// route them alone: PointerRouting.cpp and Highlight.cpp.
+// Routing.h: access to what a window remembers of pointer and highlight, for PointerRouting.cpp and
+// Highlight.cpp alone.
 #pragma once
 
 #include "ui/layer/Window.h"
@@ -10,7 +10,7 @@ struct Routing
 {
     static auto& Of(Window& window) { return window.routed_; }
 
-    // Moves the highlight, null takes it away; the binding hears of both controls.
+    // Moves the highlight, or takes it away if null; the binding is told of both controls.
     static void SetHighlight(Window& window, Visual* control);
 };
 

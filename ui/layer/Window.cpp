@@ -180,23 +180,6 @@ bool Window::Unload(UnloadMode mode)
     return true;
 }
 
-void Window::Form_KeyDown(std::int16_t& KeyCode, std::int16_t Shift)
-{
-    (void)KeyCode;
-    (void)Shift;
-}
-
-void Window::Form_QueryUnload(std::int16_t& Cancel, UnloadMode mode)
-{
-    (void)Cancel;
-    (void)mode;
-}
-
-void Window::Form_MouseMove(const Mouse& mouse)
-{
-    (void)mouse;
-}
-
 void Window::Changed(Change what)
 {
     if (instance_ != nullptr && !App.Ended()) {

@@ -114,21 +114,21 @@ public:
 
     // What is pressed: a control, or with null the window's own surface. No value: nothing.
     std::optional<Visual*> Pressed() const { return routed_.Pressed; }
-    // Where the arrow keys have led to; null: nowhere. Bindings draw a frame there, and hear of its
-    // coming and going as Change::Highlight.
+    // Where the arrow keys have led to; null: nowhere. Bindings draw a frame there, and are told
+    // when it comes and goes by Change::Highlight.
     Visual* Highlighted() const { return routed_.Highlighted; }
     // Lets the player drag the window by its surface: it follows the pointer until the button is
-    // released, which no control hears of.
+    // released; no control gets that release.
     void Drag();
 
     virtual void Form_Load() {}
     virtual void Form_Activate() {}
     // A handler that sets KeyCode to 0 has taken the key.
-    virtual void Form_KeyDown(std::int16_t& KeyCode, std::int16_t Shift);
+    virtual void Form_KeyDown(std::int16_t& /*KeyCode*/, std::int16_t /*Shift*/) {}
     // A handler that sets Cancel to anything but 0 refuses the closing.
-    virtual void Form_QueryUnload(std::int16_t& Cancel, UnloadMode mode);
+    virtual void Form_QueryUnload(std::int16_t& /*Cancel*/, UnloadMode /*mode*/) {}
     virtual void Form_Unload() {}
-    virtual void Form_MouseMove(const Mouse& mouse);
+    virtual void Form_MouseMove(const Mouse& /*mouse*/) {}
 
     void Changed(Change what) override;
 
@@ -155,7 +155,7 @@ private:
         Visual* Highlighted = nullptr;
         // The control with ByArrows that the pointer, or a key, was on last.
         Visual* LastByArrows = nullptr;
-        Twips PointerX = -1;  // where a binding said last that it is
+        Twips PointerX = -1;  // where a binding last said it was
         Twips PointerY = -1;
     };
 

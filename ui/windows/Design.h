@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "ui/layer/Window.h"
+#include "ui/windows/Pictures.h"
 
 namespace malvone::design {
 
@@ -75,7 +76,12 @@ inline void Apply(std::span<const Tip> rows)
     }
 }
 
-void Apply(std::span<const Shows> rows);
+inline void Apply(std::span<const Shows> rows)
+{
+    for (const Shows& row : rows) {
+        row.image.Picture = PictureNamed(row.picture);
+    }
+}
 
 inline void Apply(std::span<const Entry> rows)
 {

@@ -4,7 +4,6 @@
 #include <string>
 
 #include "ui/windows/Design.h"
-#include "ui/windows/Pictures.h"
 
 namespace malvone {
 

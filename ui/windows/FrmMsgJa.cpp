@@ -2,7 +2,6 @@
 #include "ui/windows/FrmMsgJa.h"
 
 #include "ui/windows/Design.h"
-#include "ui/windows/Pictures.h"
 
 namespace malvone {
 
