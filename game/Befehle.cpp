@@ -1,4 +1,4 @@
-// Befehle.cpp: the commands of the main window outside the board, but for the new game.
+// Befehle.cpp: the commands of the main window outside the board, except for the new game.
 #include "board/iniTessel.h"
 #include "state/Beste.h"
 #include "state/Spielstand.h"
@@ -55,8 +55,7 @@ void FrmTessel::imgNaechsterLevel_Click()
     Stand.LevelPunkte = 0;
     Stand.LevelWiederholt = 0;
     // By design (level-anzeige-spaeter): one would expect the new number at once. The displays are
-    // painted before it rises and show it with the first removal of the level.
-    // Test: games.levels
+    // painted before it rises, and show it with the level's first removal. Test: games.levels
     AnzeigenAktualisieren();
     cmdSchalt_Click(kSchaltWeiter);
 }
@@ -68,8 +67,7 @@ void FrmTessel::imgWiederholen_Click()
     PfeileAus();
     AngebotAus();
     // By design (wiederholung-nimmt-alles): one would expect only the points of this level to go.
-    // An emptied level before it has noted nothing, so its points go too.
-    // Test: games.levels
+    // Emptying the level before it has noted nothing, so its points go too. Test: games.levels
     Stand.PunkteGesamt = Stand.PunkteLevelStart;
     Stand.LevelPunkte = 0;
     --Stand.RundenZahl;
@@ -117,10 +115,9 @@ void FrmTessel::lblEnde_Click()
     Unload();
 }
 
-// F1 is also the shortcut of a menu entry. The key is taken here, so that the manual opens once.
-void FrmTessel::Form_KeyDown(std::int16_t& KeyCode, std::int16_t Shift)
+// F1 is also the shortcut of a menu entry. It is handled here, so that the manual opens once.
+void FrmTessel::Form_KeyDown(std::int16_t& KeyCode, std::int16_t /*Shift*/)
 {
-    (void)Shift;
     if (KeyCode == kKeyF1) {
         KeyCode = 0;
         lblHilfe_Click();

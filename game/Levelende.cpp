@@ -56,7 +56,7 @@ void FrmTessel::LevelAuswerten()
     MeldungZeigen("\r\nEs ist kein weiterer Zug mehr möglich.\r\n" + RestText(Stand.BelegtZahl),
                   "\r\nSie erhalten keine Bonuspunkte in diesem Level.", Versatz{-1000, -1000});
     // By design (level-sechs): one would expect every level from 5 on to end the game. Only level 5
-    // does; who empties it plays on without an end. Test: games.empty_board
+    // does; a player who empties it can play on forever. Test: games.empty_board
     if (Stand.RundenZahl == kLetzterLevel) {
         BestePruefen();
         ExternesEnde();
@@ -65,8 +65,7 @@ void FrmTessel::LevelAuswerten()
     }
     lblSumme.Caption = "";
     // By design (nur-einmal): one would expect a new level to be offered in full. The mark of a
-    // repeat outlives a level that is emptied.
-    // Test: games.empty_board
+    // repeat outlives a level that is emptied. Test: games.empty_board
     const bool volles = Stand.LevelWiederholt == 0;
     imgNaechsterLevel.Visible = true;
     imgWiederholen.Visible = volles;

@@ -49,8 +49,8 @@ void FrmTessel::AngebotAus()
 }
 
 // By design (frage-nimmt-angebot): one would expect the answer no to leave everything as it was.
-// The offer of the next level is gone from the window before the question is asked, and stays gone;
-// menu and keyboard still lead on. Test: games.new_game
+// The offer of the next level is taken away before the question is asked, and stays away; menu and
+// keyboard still offer it. Test: games.new_game
 void FrmTessel::lblNeu_Click()
 {
     PfeileAus();
@@ -73,10 +73,7 @@ void FrmTessel::Timer1_Timer()
 
 void FrmTessel::PfeilBlinken()
 {
-    ++PfeilPhase;
-    if (PfeilPhase == 2) {
-        PfeilPhase = 0;
-    }
+    PfeilPhase = PfeilPhase == 0 ? 1 : 0;
     imgStart.Picture = frmBilder->imgPfeil(PfeilPhase).Picture;
 }
 

@@ -6,10 +6,9 @@
 
 namespace malvone {
 
-// The question is the same whoever closes the window, and why.
-void FrmTessel::Form_QueryUnload(std::int16_t& Cancel, UnloadMode mode)
+// The question is the same, whoever closes the window and why.
+void FrmTessel::Form_QueryUnload(std::int16_t& Cancel, UnloadMode /*mode*/)
 {
-    (void)mode;
     SoundSpielen(kTonBeginn);
     if (!FrageStellen("\r\nSind Sie sicher,\r\ndass Sie das Spiel beenden möchten?\"",
                       "\r\n»Beenden« bestätigen")) {

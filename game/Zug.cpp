@@ -28,8 +28,8 @@ void FrmTessel::imgFeld_MouseMove(std::int16_t Index)
 }
 
 // By design (klick-auf-marken): one would expect the clicked group to go. The click acts on the
-// marks of the last pointer event; the cell is only tested for being a stone. Test:
-// games.preview_and_move
+// marks of the last pointer event; the cell only has to hold a stone.
+// Test: games.preview_and_move
 void FrmTessel::imgFeld_MouseDown(std::int16_t Index, const Mouse& mouse)
 {
     if (Zellwert(Index) == 0 || mouse.Button != kLeftButton) {

@@ -2,7 +2,6 @@
 // name of a new entry.
 #include "ui/windows/FrmBeste.h"
 
-#include <cmath>
 #include <string>
 
 #include "platform/CodePage.h"
@@ -39,23 +38,19 @@ void FrmBeste::Form_Load()
 
 void FrmBeste::ZeilenAnordnen()
 {
-    txtSpieler(0).Move(kNamenLeft, kNamenTop);
-    Twips top = kNamenTop;
-    for (int i = 1; i < kPlaetze; ++i) {
-        const TextBox& darueber = txtSpieler(i - 1);
-        top = std::nearbyint(top + txtSpieler(0).Height + kZeilenabstand);
-        txtSpieler(i).Move(kNamenLeft, top, darueber.Width, darueber.Height);
-    }
+    const TextBox& name = txtSpieler(0);
     for (int platz = 0; platz < kPlaetze; ++platz) {
-        const int einer = platz * kZiffernJePlatz;
-        if (platz > 0) {
-            const Image& darueber = imgDiggi(einer - kZiffernJePlatz);
-            imgDiggi(einer).Move(darueber.Left, darueber.Top + darueber.Height + kZeilenabstand);
-        }
-        for (int stelle = einer + 1; stelle < einer + kZiffernJePlatz; ++stelle) {
-            const Image& rechts = imgDiggi(stelle - 1);
-            imgDiggi(stelle).Move(rechts.Left - imgDiggi(stelle).Width, rechts.Top);
-        }
+        const Twips top = kNamenTop + static_cast<Twips>(platz) * (name.Height + kZeilenabstand);
+        txtSpieler(platz).Move(kNamenLeft, top, name.Width, name.Height);
+    }
+    const Twips einerLeft = imgDiggi(0).Left;
+    const Twips ersteTop = imgDiggi(0).Top;
+    for (int i = 0; i < imgDiggi.End(); ++i) {
+        const int platz = i / kZiffernJePlatz;
+        const int stelle = i % kZiffernJePlatz;
+        Image& ziffer = imgDiggi(i);
+        ziffer.Move(einerLeft - static_cast<Twips>(stelle) * ziffer.Width,
+                    ersteTop + static_cast<Twips>(platz) * (ziffer.Height + kZeilenabstand));
     }
 }
 
@@ -143,9 +138,8 @@ void FrmBeste::cmdTessel_Click()
     for (int platz = 0; platz < kPlaetze; ++platz) {
         alleFrei = alleFrei && txtSpieler(platz).Text.Get() == kFreierPlatz;
     }
-    // By design (niemand-ist-frei): one would expect an entry of a player who calls himself
-    // "Niemand" to be worth a wipe. His name counts as a free place.
-    // Test: games.best_list
+    // By design (niemand-ist-frei): one would expect to be asked about an entry of a player who
+    // calls himself "Niemand". The name counts as a free place. Test: games.best_list
     if (!alleFrei && FrageStellen(kAlleLoeschen)) {
         BesteLoeschen();
         BesteLesen();
@@ -153,8 +147,7 @@ void FrmBeste::cmdTessel_Click()
         shpTessel.Visible = false;
     }
     // By design (fenster-geht-zu): one would expect the answer no to lead back to the list. The
-    // window closes whatever the answer was. Test:
-    // games.best_list
+    // window closes whatever the answer was. Test: games.best_list
     Visible = false;
 }
 

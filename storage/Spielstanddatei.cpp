@@ -63,7 +63,7 @@ std::optional<Zellwerte> WerteLesen(const std::string& pfad)
     return werte;
 }
 
-// False at the first value without a picture; the cells before it hold their new values by then.
+// False at the first value without a picture; the cells before it then hold their new values.
 // By design (halber-stand): one would expect the board to be left alone, or put back. That cell
 // keeps the bad value in its Tag under its old picture, and the cells after it are unchanged.
 // Test: games.repeat_fails

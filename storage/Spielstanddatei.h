@@ -3,10 +3,10 @@
 
 namespace malvone {
 
-// Writes the values of all cells to a new file. Tells the player, not the caller, of a failure.
+// Writes the values of all cells to a new file. The player, not the caller, is told of a failure.
 void StandSpeichern();
-// Puts the board of the file back and counts the level. A failure, too, is told to the player;
-// after it only the next level is offered.
+// Puts the board of the file back and counts the level. After a failure, of which the player is
+// told, only the next level is offered.
 void StandLaden();
 
 }  // namespace malvone

@@ -1,4 +1,4 @@
-// Zahlen.cpp: reads numbers without trusting their text.
+// Zahlen.cpp: reads numbers without trusting the text.
 #include "storage/Zahlen.h"
 
 #include "ui/layer/Number.h"

@@ -93,8 +93,8 @@ std::int32_t Punktzahl(const Eintrag& eintrag)
     return Zahl32(eintrag.Punkte).value_or(0);
 }
 
-// The list as a new result meets it: places without a number stand behind all others, so that they
-// are the first to go.
+// The list as a new result finds it: places without a number come last, so that they are the first
+// to go.
 Liste Rangliste(Liste liste)
 {
     std::stable_partition(liste.begin(), liste.end(), [](const Eintrag& eintrag) {
@@ -103,16 +103,17 @@ Liste Rangliste(Liste liste)
     return liste;
 }
 
-// The place 0 to 4 that a result takes, -1 for none.
+// The place 0 to 4 that a result takes; -1 if none.
 // By design (der-aeltere-zuerst): one would expect the newer of two equal results to take the
 // place. Only a greater one does. Test: games.entry
 std::int16_t PlatzFuer(std::int32_t punkte, const Liste& rangliste)
 {
-    const auto geschlagen =
-        std::find_if(rangliste.begin(), rangliste.end(),
-                     [&](const Eintrag& eintrag) { return punkte > Punktzahl(eintrag); });
-    const bool keiner = geschlagen == rangliste.end();
-    return static_cast<std::int16_t>(keiner ? -1 : geschlagen - rangliste.begin());
+    for (std::int16_t platz = 0; platz < kPlaetze; ++platz) {
+        if (punkte > Punktzahl(rangliste[static_cast<std::size_t>(platz)])) {
+            return platz;
+        }
+    }
+    return -1;
 }
 
 void Einfuegen(const Eintrag& eintrag, std::int16_t platz, Liste& rangliste)
@@ -130,18 +131,18 @@ std::vector<std::string> Vorgabe()
     return zeilen;
 }
 
-// What a save makes of the file that it finds.
+// What saving makes of the file that it finds.
 struct Speicherung
 {
     Liste Inhalt;  // of the file afterwards
     OldFile Alte = OldFile::Goes;
     bool Eingetragen = true;                 // else the file stays as it is
-    FileFault Lesefehler = FileFault::None;  // to be told
+    FileFault Lesefehler = FileFault::None;  // that the player is told
 };
 
-// By design (liste-von-jetzt): one would expect the list as this run knows it. A file that it has
-// not read or written last is somebody else's, and the new entry goes into that list, by the same
-// rule. A file that is gone was wiped; two calls have to agree on that.
+// By design (liste-von-jetzt): one would expect the list as this run knows it. If another run has
+// written the file since, the new entry goes into that list, by the same rule. A file that is gone
+// was wiped; two calls have to agree that it is.
 // Test: BesteSpeichern.AnEntryGoesIntoTheListThatIsThereNow
 Speicherung WasZuSpeichernIst(const ReadLines& jetzt)
 {
@@ -150,8 +151,9 @@ Speicherung WasZuSpeichernIst(const ReadLines& jetzt)
         return {ImFenster(), ganz ? OldFile::Goes : OldFile::Kept};
     }
     const bool geloescht = jetzt.Fault == FileFault::NotFound && !ExistiertDatei(BesteDatei());
-    // By design (ungelesenes-bleibt): one would expect the new list in its place. What has not been
-    // read whole is kept beside it. Test: BesteSpeichern.AnEntryGoesIntoTheListThatIsThereNow
+    // By design (ungelesenes-bleibt): one would expect the new list in its place. A file that could
+    // not be read whole is kept beside it. Test:
+    // BesteSpeichern.AnEntryGoesIntoTheListThatIsThereNow
     if (!ganz && !geloescht) {
         return {ImFenster(), OldFile::Kept, true, jetzt.Fault};
     }
@@ -188,7 +190,7 @@ std::string BesteDatei()
 void BesteVorgabe()
 {
     // By design (stille-vorgabe): one would expect a message when this fails. There is none; the
-    // window of the best players tells it when it reads the list.
+    // player is told when the window of the best players reads the list.
     // Test: BesteVorgabe.ADefaultListThatCannotBeWrittenIsSilent
     static_cast<void>(App.System().ReplaceTextLines(BesteDatei(), Vorgabe(), OldFile::Stays));
 }
@@ -197,8 +199,8 @@ void BesteLoeschen()
 {
     const std::string datei = BesteDatei();
     FileFault fehler = App.System().ReplaceTextLines(datei, Vorgabe(), OldFile::Goes);
-    // A file that may not be written can still be deleted. Emptying it in place is no way: a fault
-    // in between would leave half a list.
+    // A read-only file can still be deleted. It is not emptied in place: a fault in between would
+    // leave half a list.
     if (fehler == FileFault::NoPermission && ExistiertDatei(datei)) {
         App.System().DeleteFileA(datei);
         fehler = App.System().ReplaceTextLines(datei, Vorgabe(), OldFile::Stays);
@@ -257,7 +259,7 @@ void BesteEintragen(std::int16_t platz)
 
 std::int32_t PunkteDesPlatzes(int platz)
 {
-    return Punktzahl({frmBeste->lstName.List(platz), frmBeste->lstPunkte.List(platz)});
+    return Zahl32(frmBeste->lstPunkte.List(platz)).value_or(0);
 }
 
 void BestePruefen()
@@ -265,7 +267,7 @@ void BestePruefen()
     Beste.EintragModus = False;
     Beste.EndPunkte = Stand.PunkteGesamt;
     // By design (keine-zahl-ist-null): one would expect a damaged list to be refused. A place whose
-    // points are missing or no number counts as 0 and as the last one, so that it goes first.
+    // points are missing or not a number counts as 0 and as the last, so that it goes first.
     // Test: BestePruefen.APlaceWithoutANumberCountsAsNothing
     Beste.EintragPlatz = PlatzFuer(Beste.EndPunkte, Rangliste(ImFenster()));
     if (Beste.EintragPlatz == -1) {

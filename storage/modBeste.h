@@ -11,15 +11,15 @@ std::string BesteDatei();
 void BesteVorgabe();
 // Replaces the file by the list of a first start. Fails silently.
 void BesteLoeschen();
-// From the file to the lists. After a failure, which the player is told, they hold what was read
+// From the file to the lists. After a failure, of which the player is told, they hold what was read
 // before it.
 void BesteLesen();
 // From the lists to the file, in one step. A file that was not read whole is kept beside it. After
-// a failure, which the player is told, the file is the old one.
+// a failure, of which the player is told, the file is the old one.
 void BesteSpeichern();
 // Inserts Beste.EndPunkte at a place 0 to 4 and lets the player type a name.
 void BesteEintragen(std::int16_t platz);
-// Decides whether the finished game comes into the list, and lets the player enter it.
+// Decides whether the finished game enters the list, and lets the player enter a name.
 void BestePruefen();
 
 // The points at a place; 0 where it is missing or holds no number.

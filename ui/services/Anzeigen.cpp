@@ -12,8 +12,8 @@ namespace malvone {
 namespace {
 
 // By design (volle-anzeige): one would expect the digits that fit. A number with more digits than
-// the display has places shows a 9 in every place, which says "at least so many" and never names
-// fewer points than there are. Test: Anzeigen.NumbersStandAtTheRightAndNinesWhereTheyEnd
+// the display has places shows a 9 in every place, which says "at least so many"; some of its
+// digits would say far fewer. Test: Anzeigen.NumbersStandAtTheRightAndNinesWhereTheyEnd
 void PunkteZeigen(Ziffernreihe& reihe, std::int32_t punkte)
 {
     reihe.Zeigen(punkte < 0 ? "" : std::to_string(std::min(punkte, reihe.Groesste())));

@@ -5,7 +5,7 @@
 
 namespace malvone {
 
-// Opens a manual of the program's folder in the system's viewer. Ignores one that is missing.
+// Opens a manual from the program's folder in the system's viewer. A missing one is ignored.
 void HandbuchOeffnen(std::string_view name);
 
 }  // namespace malvone

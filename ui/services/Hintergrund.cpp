@@ -1,4 +1,4 @@
-// Hintergrund.cpp: the backdrop covers the screen and gives the front back to the game.
+// Hintergrund.cpp: the backdrop covers the screen and leaves the front to the game.
 #include "ui/layer/App.h"
 #include "ui/windows/FrmHintergrund.h"
 #include "ui/windows/FrmTessel.h"

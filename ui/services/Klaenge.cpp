@@ -22,12 +22,8 @@ constexpr const char* kDateien[kToene] = {
 void SoundListeAnlegen()
 {
     for (std::size_t i = 0; i < SoundDateien.size(); ++i) {
-        SoundDateien[i] = ProgrammOrdner() + kDateien[i];
-    }
-    for (std::string& datei : SoundDateien) {
-        if (!App.System().HasFile(datei)) {
-            datei.clear();
-        }
+        const std::string datei = ProgrammOrdner() + kDateien[i];
+        SoundDateien[i] = App.System().HasFile(datei) ? datei : "";
     }
 }
 

@@ -30,7 +30,7 @@ void Zentrieren(Window& fenster)
                  frmTessel->Top + (frmTessel->Height - fenster.Height) / 2);
 }
 
-// Without a title bar the window is dragged by its surface, with the left button alone.
+// The window has no title bar and is dragged by its surface, with the left button alone.
 void FensterZiehen(Window& fenster, const Mouse& mouse)
 {
     if (mouse.Button == kLeftButton) {
@@ -73,9 +73,8 @@ void FrmMsgOk::Form_Activate()
     lblName.Caption = TitelMitVersion();
 }
 
-void FrmMsgOk::Form_KeyDown(std::int16_t& KeyCode, std::int16_t Shift)
+void FrmMsgOk::Form_KeyDown(std::int16_t& KeyCode, std::int16_t /*Shift*/)
 {
-    (void)Shift;
     switch (KeyCode) {
     case kKeyEsc: Unload(); break;
     case kKeyF1: HandbuchOeffnen(kHandbuch); break;
@@ -108,9 +107,8 @@ void FrmMsgJa::Form_Activate()
     lblName.Caption = TitelMitVersion();
 }
 
-void FrmMsgJa::Form_KeyDown(std::int16_t& KeyCode, std::int16_t Shift)
+void FrmMsgJa::Form_KeyDown(std::int16_t& KeyCode, std::int16_t /*Shift*/)
 {
-    (void)Shift;
     switch (KeyCode) {
     case kKeyEsc: Antworten(kAntwortGeschlossen); break;
     case 'J': Antworten(kAntwortJa); break;
@@ -130,10 +128,9 @@ void FrmMsgJa::lblName_MouseMove(const Mouse& mouse)
     FensterZiehen(*this, mouse);
 }
 
-// A question that the system closes has no answer: that of an earlier question must not count.
-void FrmMsgJa::Form_QueryUnload(std::int16_t& Cancel, UnloadMode mode)
+// A question that the system closes has no answer; that to an earlier question must not count.
+void FrmMsgJa::Form_QueryUnload(std::int16_t& /*Cancel*/, UnloadMode mode)
 {
-    (void)Cancel;
     if (mode != UnloadMode::Code) {
         MsgAntwort = kAntwortGeschlossen;
     }

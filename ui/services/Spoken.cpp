@@ -1,4 +1,4 @@
-// Spoken.cpp: the words for screen readers, and what has them.
+// Spoken.cpp: the words for screen readers, and what they belong to.
 #include "ui/services/Spoken.h"
 
 #include <algorithm>
@@ -80,7 +80,7 @@ std::vector<Spoken> On(FrmBeste& window)
     return all;
 }
 
-// Messages have line breaks, and begin with an empty line; only the words are spoken.
+// Messages have line breaks and may begin with an empty line; only the words are spoken.
 std::string OneLine(std::string_view text)
 {
     std::string line;
@@ -184,7 +184,7 @@ std::string TitleOf(const Window& window)
 }
 
 // The number of stones rises only when a board is filled. When it falls, a move has earned points
-// for them; at the end of a level they go for nothing. The bonus comes when no stone is left.
+// for them, or the level has ended and they go without any.
 std::string Reporter::News()
 {
     if (!frmTessel.Loaded() || !frmTessel->imgFeld.Has(kZellen)) {

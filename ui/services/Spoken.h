@@ -1,13 +1,11 @@
-// Spoken.h: what a screen reader says about the windows, and when, for every binding that draws. A
-// binding asks and passes it on to its screen readers; the game knows nothing of it.
-//
-// What a binding does with it:
-// - It offers SpokenOn(window) for each window, in this order, with NameOf and DescriptionOf. The
-//   list stays the same for the life of the window, apart from the cells that the start adds. It
-//   also holds what cannot be seen now; IsSpokenNow says so, and the reader skips it.
-// - Before it waits for input it reports the names that have changed, and says Reporter::News aloud
-//   unless that is empty.
-// - A window whose Role is Message is an alert. Its title, TitleOf, is not in SpokenOn.
+// Spoken.h: what a screen reader says about the windows, and when, for every binding that draws.
+// The game knows nothing of it. A binding:
+// - offers its screen readers SpokenOn(window) for each window, in this order, with NameOf and
+//   DescriptionOf. The list stays the same for the life of the window, apart from the cells that
+//   the start adds. Screen readers skip what IsSpokenNow denies;
+// - reports the names that have changed before it waits for input, and says Reporter::News aloud
+//   unless that is empty;
+// - makes a window whose Role is Message an alert. Its title, TitleOf, is not in SpokenOn.
 #pragma once
 
 #include <array>
@@ -26,7 +24,7 @@ enum class SpokenKind {
     Words,    // a text on the window, or a row of digits with what it counts
     Button,   // answers a press
     Cell,     // a cell of the board; answers a press
-    NameBox,  // a text box; the binding tells its text
+    NameBox,  // a text box; the binding adds its text
 };
 
 struct Spoken
@@ -39,7 +37,7 @@ struct Spoken
 
     // The places of the row, from the units upward; empty where it is none.
     std::span<Image* const> Digits() const;
-    // Whether the name of the owner is told with the row: a locked text box is none by itself.
+    // Whether the row's name includes the owner's: a locked text box has none of its own.
     bool TellsOwner() const;
 };
 
