@@ -121,11 +121,6 @@ int NiedrigsteMarkierte()
     return zelle;
 }
 
-bool HatBild(std::int32_t wert)
-{
-    return wert >= 0 && wert <= kFarben;
-}
-
 // All marked cells have just been emptied, so no mark is left behind.
 void LeereZellenEntmarken()
 {

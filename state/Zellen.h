@@ -15,6 +15,12 @@ inline constexpr int kZellen = kSpalten * kReihen;
 
 inline constexpr std::int16_t kFarben = 4;  // values 1 to 4 are stones, 0 is an empty cell
 
+// Whether a value is one that a cell can have; a damaged snapshot may hold others.
+constexpr bool HatBild(std::int32_t wert)
+{
+    return wert >= 0 && wert <= kFarben;
+}
+
 constexpr int Spalte(int zelle)  // 0 to 13
 {
     return (zelle - 1) / kReihen;

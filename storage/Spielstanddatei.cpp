@@ -1,7 +1,6 @@
 // Spielstanddatei.cpp: "tessel.ini", one line for each of the 140 cells.
 #include "storage/Spielstanddatei.h"
 
-#include <array>
 #include <optional>
 #include <string>
 #include <vector>
@@ -30,8 +29,6 @@ constexpr Meldungstext kNichtLesbar = {
     "\r\nBeim Einlesen der Werte für die Wiederholung des Levels ist ein Fehler aufgetreten.",
     "\r\n»Level wiederholen« ist nicht möglich."};
 
-using Zellwerte = std::array<std::int16_t, kZellen + 1>;  // index 1 to 140
-
 std::string StandDatei()
 {
     return DatenPfad() + "tessel.ini";
@@ -45,40 +42,35 @@ void NurNaechsterLevel()
 }
 
 // Reads the whole file before the board is touched: a short file changes nothing.
-std::optional<Zellwerte> WerteLesen(const std::string& pfad)
+std::optional<std::vector<std::int16_t>> WerteLesen(const std::string& pfad)
 {
     const ReadLines gelesen = App.System().ReadTextLines(pfad, kZellen);
-    if (gelesen.Fault != FileFault::None) {
-        return std::nullopt;
-    }
-    Zellwerte werte{};
-    for (int zelle = 1; zelle <= kZellen; ++zelle) {
-        const auto stelle = static_cast<std::size_t>(zelle);
-        const std::optional<std::int16_t> wert = Zahl16(gelesen.Lines[stelle - 1]);
+    std::vector<std::int16_t> werte;
+    for (const std::string& zeile : gelesen.Lines) {
+        const std::optional<std::int16_t> wert = Zahl16(zeile);
         if (!wert) {
             return std::nullopt;
         }
-        werte[stelle] = *wert;
+        werte.push_back(*wert);
     }
-    return werte;
+    return gelesen.Fault == FileFault::None ? std::optional(werte) : std::nullopt;
 }
 
 // False at the first value without a picture; the cells before it then hold their new values.
 // By design (halber-stand): one would expect the board to be left alone, or put back. That cell
 // keeps the bad value in its Tag under its old picture, and the cells after it are unchanged.
 // Test: games.repeat_fails
-bool WerteAufsBrett(const Zellwerte& werte)
+bool WerteAufsBrett(const std::vector<std::int16_t>& werte)
 {
     for (int zelle = 1; zelle <= kZellen; ++zelle) {
-        const auto stelle = static_cast<std::size_t>(zelle);
+        const std::int16_t wert = werte[static_cast<std::size_t>(zelle) - 1];
         Image& feld = frmTessel->imgFeld(zelle);
-        feld.Tag = TagText(werte[stelle]);
-        Zellen[stelle].Vorschau = False;
-        const std::int32_t bild = feld.Tag->Number();
-        if (bild < 0 || bild > kFarben) {
+        feld.Tag = TagText(wert);
+        Satz(zelle).Vorschau = False;
+        if (!HatBild(wert)) {
             return false;
         }
-        feld.Picture = frmBilder->imgBild(bild).Picture;
+        feld.Picture = frmBilder->imgBild(wert).Picture;
     }
     return true;
 }
@@ -118,7 +110,7 @@ void StandLaden()
         NurNaechsterLevel();
         return;
     }
-    const std::optional<Zellwerte> werte = WerteLesen(pfad);
+    const std::optional<std::vector<std::int16_t>> werte = WerteLesen(pfad);
     if (!werte || !WerteAufsBrett(*werte)) {
         LesefehlerMelden();
         return;

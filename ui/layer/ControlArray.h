@@ -4,8 +4,8 @@
 
 #include <cassert>
 #include <cstddef>
-#include <initializer_list>
 #include <memory>
+#include <numeric>
 #include <utility>
 #include <vector>
 
@@ -13,12 +13,13 @@
 
 namespace malvone {
 
-// Indexes from one to another, both included.
-struct IndexRange
+// The indexes from one to another, both included.
+inline std::vector<int> Indexes(int first, int last)
 {
-    int First;
-    int Last;
-};
+    std::vector<int> indexes(static_cast<std::size_t>(last - first) + 1);
+    std::iota(indexes.begin(), indexes.end(), first);
+    return indexes;
+}
 
 template<class T>
 class ControlArray
@@ -27,18 +28,10 @@ public:
     // The designed elements from front to back, and what else their kind of control needs: the
     // parent of menu entries, for example.
     template<class... More>
-    ControlArray(const Seat& seat, std::initializer_list<int> indexes, More... more)
+    ControlArray(const Seat& seat, const std::vector<int>& indexes, More... more)
         : events_(std::make_shared<Events>()), seat_(seat)
     {
         for (const int index : indexes) {
-            Put(index, std::make_unique<T>(SeatOf(index), more...));
-        }
-    }
-    template<class... More>
-    ControlArray(const Seat& seat, IndexRange range, More... more)
-        : events_(std::make_shared<Events>()), seat_(seat)
-    {
-        for (int index = range.First; index <= range.Last; ++index) {
             Put(index, std::make_unique<T>(SeatOf(index), more...));
         }
     }

@@ -101,10 +101,9 @@ std::string OneLine(std::string_view text)
 std::string CellName(const Visual& cell)
 {
     const std::int32_t colour = cell.Tag->Number();
-    const bool known = colour >= 0 && colour <= kFarben;
     return "Spalte " + std::to_string(Spalte(cell.Index()) + 1) + ", Reihe " +
            std::to_string(Reihe(cell.Index()) + 1) + ", " +
-           std::string(kFarbnamen[known ? static_cast<std::size_t>(colour) : 0]);
+           std::string(kFarbnamen[HatBild(colour) ? static_cast<std::size_t>(colour) : 0]);
 }
 
 std::ptrdiff_t Stones(const std::array<std::int32_t, kZellen>& board)

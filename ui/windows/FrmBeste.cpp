@@ -67,7 +67,7 @@ FrmBeste::FrmBeste() : Window("frmBeste", 5130, 4845)
     for (int platz = 0; platz < kPlaetze; ++platz) {
         const int einer = platz * kZiffernJePlatz;
         Punkte.emplace_back("Punkte, Platz " + std::to_string(platz + 1), imgDiggi,
-                            IndexRange{einer, einer + kZiffernJePlatz - 1});
+                            Indexes(einer, einer + kZiffernJePlatz - 1));
     }
 
     // All rows start at the place of the first units digit; loading arranges them.

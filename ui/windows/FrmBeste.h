@@ -28,7 +28,7 @@ public:
     Image lblTessel{Named("lblTessel")};
     Shape shpTessel{Named("shpTessel")};
     Shape shpEnde{Named("shpEnde")};
-    ControlArray<Image> imgDiggi{Named("imgDiggi"), IndexRange{0, kPlaetze* kZiffernJePlatz - 1}};
+    ControlArray<Image> imgDiggi{Named("imgDiggi"), Indexes(0, kPlaetze* kZiffernJePlatz - 1)};
     Label Label2{Named("Label2")};
     Label Label1{Named("Label1")};
     Line Line2{Named("Line2")};

@@ -15,13 +15,13 @@ public:
     ~FrmBilder() override;
 
     // Index 0 to 4 is the value of a cell.
-    ControlArray<Image> imgBild{Named("imgBild"), IndexRange{0, 4}};          // the normal look
-    ControlArray<Image> imgVorschau{Named("imgVorschau"), IndexRange{0, 4}};  // stones of a group
-    ControlArray<Image> imgNeutral{Named("imgNeutral"), IndexRange{0, 4}};    // a lone stone
-    Image imgGrund{Named("imgGrund")};                                        // the empty cell
+    ControlArray<Image> imgBild{Named("imgBild"), Indexes(0, 4)};          // the normal look
+    ControlArray<Image> imgVorschau{Named("imgVorschau"), Indexes(0, 4)};  // stones of a group
+    ControlArray<Image> imgNeutral{Named("imgNeutral"), Indexes(0, 4)};    // a lone stone
+    Image imgGrund{Named("imgGrund")};                                     // the empty cell
 
     // The two looks of the arrow, and kPfeilLeer.
-    ControlArray<Image> imgPfeil{Named("imgPfeil"), IndexRange{0, 2}};
+    ControlArray<Image> imgPfeil{Named("imgPfeil"), Indexes(0, 2)};
 
     Image cmdHilfeAuswahl{Named("cmdHilfeAuswahl")};
     Image cmdHilfeGruen{Named("cmdHilfeGruen")};

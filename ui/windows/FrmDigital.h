@@ -14,7 +14,7 @@ public:
     ~FrmDigital() override;
 
     // 0 to 9 show that digit, kZifferLeer is the blank place.
-    ControlArray<Image> imgDiggi{Named("imgDiggi"), IndexRange{0, kZifferLeer}};
+    ControlArray<Image> imgDiggi{Named("imgDiggi"), Indexes(0, kZifferLeer)};
 };
 
 extern Instance<FrmDigital> frmDigital;

@@ -14,13 +14,13 @@ public:
 
     // The menu. mnuTessel and mnuInfo begin at index 1.
     MenuEntry mnuTesselMenu{Named("mnuTesselMenu"), nullptr};
-    ControlArray<MenuEntry> mnuTessel{Named("mnuTessel"), IndexRange{1, 4}, &mnuTesselMenu};
+    ControlArray<MenuEntry> mnuTessel{Named("mnuTessel"), Indexes(1, 4), &mnuTesselMenu};
     MenuEntry mnuOptionen{Named("mnuOptionen"), nullptr};
     MenuEntry mnuSound{Named("mnuSound"), &mnuOptionen};
     MenuEntry mnuSoundan{Named("mnuSoundan"), &mnuSound};
     MenuEntry mnuSoundaus{Named("mnuSoundaus"), &mnuSound};
     MenuEntry mnuMenuInfo{Named("mnuMenuInfo"), nullptr};
-    ControlArray<MenuEntry> mnuInfo{Named("mnuInfo"), IndexRange{1, 4}, &mnuMenuInfo};
+    ControlArray<MenuEntry> mnuInfo{Named("mnuInfo"), Indexes(1, 4), &mnuMenuInfo};
 
     Timer Timer1{Named("Timer1")};  // the program's only timer; it makes the arrow blink
 
@@ -33,9 +33,9 @@ public:
     Image imgNochEinmal{Named("imgNochEinmal")};
     Image lblInfo{Named("lblInfo")};
     Image lblHilfe{Named("lblHilfe")};
-    ControlArray<Image> imgDiggiLevel{Named("imgDiggiLevel"), IndexRange{0, 1}};
+    ControlArray<Image> imgDiggiLevel{Named("imgDiggiLevel"), Indexes(0, 1)};
     Image Image4{Named("Image4")};
-    ControlArray<Image> imgDiggiPunkte{Named("imgDiggiPunkte"), IndexRange{0, 4}};
+    ControlArray<Image> imgDiggiPunkte{Named("imgDiggiPunkte"), Indexes(0, 4)};
     Image Image3{Named("Image3")};
     Label lblMeldung{Named("lblMeldung")};  // what the player is to do next
     Label lblSumme{Named("lblSumme")};      // what the move under the pointer is worth
@@ -46,7 +46,7 @@ public:
     ControlArray<Label> Label1{Named("Label1"), {1, 0}};
     Label lblNeu{Named("lblNeu")};
     Label lblEnde{Named("lblEnde")};
-    ControlArray<Image> imgDiggiLevelPunkte{Named("imgDiggiLevelPunkte"), IndexRange{0, 3}};
+    ControlArray<Image> imgDiggiLevelPunkte{Named("imgDiggiLevelPunkte"), Indexes(0, 3)};
     Image Image6{Named("Image6")};
     Image Image1{Named("Image1")};
 

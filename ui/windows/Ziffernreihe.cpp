@@ -8,18 +8,14 @@ namespace {
 
 constexpr char kDunkel = ' ';
 
-bool IstZiffer(char zeichen)
-{
-    return zeichen >= '0' && zeichen <= '9';
-}
-
 }  // namespace
 
-Ziffernreihe::Ziffernreihe(std::string name, const ControlArray<Image>& stellen, IndexRange bereich)
+Ziffernreihe::Ziffernreihe(std::string name, const ControlArray<Image>& stellen,
+                           const std::vector<int>& indexes)
     : name_(std::move(name))
 {
-    for (int stelle = bereich.First; stelle <= bereich.Last; ++stelle) {
-        stellen_.push_back(&stellen(stelle));
+    for (const int index : indexes) {
+        stellen_.push_back(&stellen(index));
     }
     ziffern_.assign(stellen_.size(), kDunkel);
 }
@@ -37,7 +33,7 @@ void Ziffernreihe::Zeigen(std::string_view zahl)
 {
     for (std::size_t stelle = 0; stelle < stellen_.size(); ++stelle) {
         const char zeichen = stelle < zahl.size() ? zahl[zahl.size() - 1 - stelle] : kDunkel;
-        const bool ziffer = IstZiffer(zeichen);
+        const bool ziffer = zeichen >= '0' && zeichen <= '9';
         ziffern_[stelle] = ziffer ? zeichen : kDunkel;
         stellen_[stelle]->Picture =
             frmDigital->imgDiggi(ziffer ? zeichen - '0' : kZifferLeer).Picture;

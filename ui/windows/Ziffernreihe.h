@@ -15,12 +15,13 @@ namespace malvone {
 class Ziffernreihe
 {
 public:
-    // What the row counts, in the player's words, and its places, which have to outlive it: the
-    // lowest index is the units digit. Without a range it has all places of the array.
+    // What the row counts, in the player's words, and its places from the units upward, all of an
+    // array unless told otherwise. The array has to outlive it.
+    Ziffernreihe(std::string name, const ControlArray<Image>& stellen,
+                 const std::vector<int>& indexes);
     Ziffernreihe(std::string name, const ControlArray<Image>& stellen)
-        : Ziffernreihe(std::move(name), stellen, {0, stellen.End() - 1})
+        : Ziffernreihe(std::move(name), stellen, Indexes(0, stellen.End() - 1))
     {}
-    Ziffernreihe(std::string name, const ControlArray<Image>& stellen, IndexRange bereich);
 
     const std::string& Name() const { return name_; }
     // From the units upward.
