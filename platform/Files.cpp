@@ -185,11 +185,12 @@ std::int32_t FilePlatform::OpenFileExist(const std::string& path)
         return readable ? kFileExists : kAccessRefused;
     }
     const int error = errno;
-    const fs::path folder = place->parent_path();
-    if ((root_ && folder == *root_) || (error == ENOENT && IsFolder(folder))) {
-        return error == ENOENT || error == ENOTDIR ? kFileNotFound : kAccessRefused;
+    if (error != ENOENT && error != ENOTDIR) {
+        return kAccessRefused;
     }
-    return error == ENOENT || error == ENOTDIR ? kPathNotFound : kAccessRefused;
+    const fs::path folder = place->parent_path();
+    const bool listed = (root_ && folder == *root_) || (error == ENOENT && IsFolder(folder));
+    return listed ? kFileNotFound : kPathNotFound;
 }
 
 bool FilePlatform::HasFile(const std::string& path)
