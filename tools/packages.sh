@@ -61,7 +61,7 @@ install_missing() {
         echo "There is no apt-get here, so these packages have to be installed already (Debian's names): $*" >&2
         return 0
     fi
-    local missing names=() entry as_root=() options=()
+    local missing names=() entry as_root=() options=() output
     mapfile -t missing < <(missing_packages "$@" | sort -u)
     [ ${#missing[@]} -gt 0 ] || return 0
     if [ "$(id -u)" -ne 0 ]; then
@@ -78,13 +78,9 @@ install_missing() {
     done
     # A build server is thrown away afterwards, so dpkg need not wait for its disk.
     [ -z "${CI:-}" ] || options=(-o Dpkg::Options::=--force-unsafe-io)
-    local log
-    log=$(mktemp)
-    if ! "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
-        apt-get install -qq -y --no-install-recommends "${options[@]}" "${names[@]}" >"$log" 2>&1; then
-        cat "$log" >&2
-        rm -f "$log"
+    output=$("${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
+        apt-get install -qq -y --no-install-recommends "${options[@]}" "${names[@]}" 2>&1) || {
+        echo "$output" >&2
         return 1
-    fi
-    rm -f "$log"
+    }
 }
