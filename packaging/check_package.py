@@ -32,12 +32,12 @@ def run(*command, **options):
                                stderr=subprocess.STDOUT, errors="replace", start_new_session=True,
                                **options)
     try:
-        told = process.communicate()[0]
+        output = process.communicate()[0]
     except BaseException:
         os.killpg(process.pid, signal.SIGTERM)
         raise
-    expect(process.returncode == 0, f"{command}:\n" + "\n".join(told.splitlines()[-40:]))
-    return told
+    expect(process.returncode == 0, f"{command}:\n" + "\n".join(output.splitlines()[-40:]))
+    return output
 
 
 def first_that_runs(*prefixes):
@@ -78,10 +78,10 @@ def compare(one, other):
 def judge(release):
     """Lintian's tags, of the packages and of their source."""
     (changes,) = release.glob("*.changes")
-    told = subprocess.run(["lintian", "-I", "--pedantic", "--fail-on", "none", "--no-cfg", changes],
-                          stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True)
-    expect(told.returncode == 0, told.stderr)
-    tags = [line for line in told.stdout.splitlines() if line.split(": ")[2].split()[0] not in UPLOAD]
+    judged = subprocess.run(["lintian", "-I", "--pedantic", "--fail-on", "none", "--no-cfg", changes],
+                            capture_output=True, text=True)
+    expect(judged.returncode == 0, judged.stderr)
+    tags = [line for line in judged.stdout.splitlines() if line.split(": ")[2].split()[0] not in UPLOAD]
     expect(not tags, "\n".join(["lintian:", *tags]))
 
 

@@ -1,4 +1,4 @@
-// Control.cpp: where controls lie, whether they take input, and whom they tell of changes.
+// Control.cpp: where controls lie, whether they take input, and how they report changes.
 #include "ui/layer/Control.h"
 
 #include <utility>

@@ -109,11 +109,11 @@ bool TakenByPress(Window& window)
         return false;
     }
     PointerPressed(window, MiddleOf(*here, kLeftButton));
-    const bool told = !window.Pressed();
+    const bool ended = !window.Pressed();
     PointerReleased(window, MiddleOf(*here, kLeftButton));
     if (!LedTo(*here)) {
         Routing::SetHighlight(window, nullptr);
-    } else if (App.TakesInput(window) && !told) {
+    } else if (App.TakesInput(window) && !ended) {
         PointAt(window, *here);
     }
     return true;

@@ -20,12 +20,12 @@ enum class ShowMode { Modeless = 0, Modal = 1 };
 
 enum class Border { None, FixedSingle, Sizable };
 
-// What a window is to the program, whatever stands on it.
+// What a window is to the program, whatever it holds.
 enum class WindowRole {
     Plain,     // the player opens and closes it
     Main,      // the game itself: keys are its own while no window is modal
     Backdrop,  // lies behind the game and says nothing
-    Message,   // tells or asks something and goes again
+    Message,   // says or asks something and closes again
 };
 
 // Why a window is to close: the player or the system closes it, or the game unloads it. A question
@@ -100,7 +100,7 @@ public:
     bool Modal() const;
 
     // All controls, menu entries and timers too, in the order of their declaration; elements of
-    // control arrays made at run time stand at the end.
+    // control arrays made at run time come last.
     const std::vector<Control*>& Controls() const { return controls_; }
     // Everything that can lie on the window, from front to back: children before their container.
     const std::vector<Visual*>& FrontToBack() const;
