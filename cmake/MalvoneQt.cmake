@@ -1,6 +1,7 @@
 # The game itself: sound, the Qt binding, the pictures inside the executable.
 find_package(Threads REQUIRED)
 find_package(Qt6 6.4 REQUIRED COMPONENTS Widgets Svg)
+find_package(Fontconfig REQUIRED)
 find_package(PkgConfig REQUIRED)
 pkg_check_modules(LIBPULSE REQUIRED libpulse)
 if(MALVONE_XCB)
@@ -65,3 +66,4 @@ endfunction()
 
 add_executable(malvone "${PROJECT_SOURCE_DIR}/ui/qt/main.cpp")
 malvone_qt_program(malvone)
+target_link_libraries(malvone PRIVATE Fontconfig::Fontconfig)

@@ -4,7 +4,7 @@
 
 play_packages=(
     build-essential cmake ninja-build ccache pkg-config
-    qt6-base-dev "qt6-svg-dev|libqt6svg6-dev" libpulse-dev libxcb1-dev
+    qt6-base-dev "qt6-svg-dev|libqt6svg6-dev" libpulse-dev libxcb1-dev libfontconfig-dev
     libpulse0 fonts-liberation2\|fonts-liberation
     python3 weasyprint librsvg2-bin
 )

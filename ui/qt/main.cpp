@@ -1,9 +1,12 @@
 // main.cpp: starts the game on the desktop.
 #include "game/Main.h"
 
+#include <fontconfig/fontconfig.h>
+
 #include <QApplication>
 #include <csignal>
 #include <filesystem>
+#include <future>
 #include <optional>
 
 #include "storage/Datenordner.h"
@@ -28,7 +31,11 @@ void StartQt(std::optional<QApplication>& application, int& argc, char** argv)
     QApplication::setApplicationName(QStringLiteral("malvone"));
     QApplication::setDesktopFileName(QStringLiteral("malvone"));
     const QtMessageHandler before = qInstallMessageHandler(OnQtMessage);
-    application.emplace(argc, argv);
+    {
+        // Meanwhile the fonts are read, if there is a thread to be had; Qt would do it later.
+        const auto fonts = std::async(FcInit);
+        application.emplace(argc, argv);
+    }
     qInstallMessageHandler(before);
     const double ratio = LowestRatio();
     if (ratio < 1) {
