@@ -1,6 +1,7 @@
 // BackdropWindow.cpp: shows and paints the backdrop.
 #include "ui/qt/windows/BackdropWindow.h"
 
+#include <QBackingStore>
 #include <QGuiApplication>
 #include <QPaintEvent>
 #include <QPainter>
@@ -9,7 +10,6 @@
 #include "ui/layer/App.h"
 #include "ui/qt/drawing/Conversions.h"
 #include "ui/qt/drawing/Painting.h"
-#include "ui/qt/platform/Display.h"
 #include "ui/qt/windows/WindowManager.h"
 #include "ui/windows/FrmHintergrund.h"
 
@@ -61,23 +61,28 @@ void BackdropWindow::paintEvent(QPaintEvent* event)
     }
 }
 
+// In strips, since the pixels of a whole screen are more memory than the rest of the game. The
+// server keeps its own copy. Strips overlap, as their edges may lie between pixels of the screen.
 void BackdropWindow::Paint(const QRegion& region)
 {
-    if (store_ == nullptr) {
-        store_ = std::make_unique<QBackingStore>(this);
-    }
-    store_->resize(size());
-    store_->beginPaint(region);
-    {
-        QPainter painter(store_->paintDevice());
-        painter.setClipRegion(region);
-        PaintWindow(painter, model_, pictures_, region, QRect(QPoint(), size()));
-    }
-    store_->endPaint();
-    store_->flush(region);
-    // A Wayland compositor goes on reading these pixels; all others have their own copy.
-    if (WindowsCanBePlaced()) {
-        store_.reset();
+    constexpr int kStripHeight = 64;
+    constexpr int kOverlap = 1;
+    QBackingStore store(this);
+    store.resize(QSize(width(), kStripHeight));
+    for (int top = 0; top < height(); top += kStripHeight - kOverlap) {
+        const QRegion strip = region & QRect(0, top, width(), kStripHeight);
+        if (strip.isEmpty()) {
+            continue;
+        }
+        store.beginPaint(strip.translated(0, -top));
+        {
+            QPainter painter(store.paintDevice());
+            painter.translate(0, -top);
+            painter.setClipRegion(strip);
+            PaintWindow(painter, model_, pictures_, strip, QRect(QPoint(), size()));
+        }
+        store.endPaint();
+        store.flush(strip, this, QPoint(0, -top));
     }
 }
 

@@ -2,9 +2,7 @@
 // input.
 #pragma once
 
-#include <QBackingStore>
 #include <QWindow>
-#include <memory>
 
 #include "ui/layer/Window.h"
 
@@ -43,7 +41,6 @@ private:
     malvone::Window& model_;
     PictureStore& pictures_;
     bool pictured_ = false;
-    std::unique_ptr<QBackingStore> store_;
 
     void Paint(const QRegion& region);
 };
