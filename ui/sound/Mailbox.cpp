@@ -30,14 +30,8 @@ void Mailbox::Wake()
 std::optional<std::int32_t> Mailbox::AwaitAnswer(std::chrono::milliseconds atMost)
 {
     std::unique_lock lock(mutex_);
-    news_.wait_for(lock, atMost, [this] { return devices_.has_value(); });
+    answered_.wait_for(lock, atMost, [this] { return devices_.has_value(); });
     return devices_;
-}
-
-bool Mailbox::AwaitThreadEnd(std::chrono::milliseconds atMost)
-{
-    std::unique_lock lock(mutex_);
-    return news_.wait_for(lock, atMost, [this] { return threadEnded_; });
 }
 
 void Mailbox::SetWaker(std::function<void()> waker)
@@ -50,23 +44,14 @@ Mailbox::Mail Mailbox::Take()
 {
     const std::lock_guard lock(mutex_);
     woken_ = false;
-    Mail mail{mail_.End, std::move(mail_.Path)};
-    mail_.Path.reset();
-    return mail;
+    return {mail_.End, std::exchange(mail_.Path, {})};
 }
 
 void Mailbox::Answer(std::int32_t devices)
 {
     const std::lock_guard lock(mutex_);
     devices_ = devices;
-    news_.notify_all();
-}
-
-void Mailbox::ThreadEnds()
-{
-    const std::lock_guard lock(mutex_);
-    threadEnded_ = true;
-    news_.notify_all();
+    answered_.notify_all();
 }
 
 }  // namespace malvone

@@ -25,25 +25,22 @@ public:
     void Post(std::string path);
     void Close();
     std::optional<std::int32_t> AwaitAnswer(std::chrono::milliseconds atMost);
-    bool AwaitThreadEnd(std::chrono::milliseconds atMost);
 
     // For the thread. The waker is called on the game's side when mail arrives. After an empty one
     // has been set, no call of the old one is running or will run.
     void SetWaker(std::function<void()> waker);
     Mail Take();
     void Answer(std::int32_t devices);
-    void ThreadEnds();
 
 private:
     void Wake();
 
     std::mutex mutex_;
-    std::condition_variable news_;
+    std::condition_variable answered_;
     Mail mail_;
     bool woken_ = false;  // since the box was emptied
     std::function<void()> waker_;
     std::optional<std::int32_t> devices_;
-    bool threadEnded_ = false;
 };
 
 }  // namespace malvone

@@ -14,34 +14,18 @@ namespace {
 
 constexpr std::chrono::milliseconds kPatience{100};  // the longest that the game is ever held up
 
-void RunThread(const std::shared_ptr<Mailbox>& mailbox, const std::string& library)
+void RunThread(Mailbox& mailbox, const std::string& library)
 {
+    sigset_t all;
+    sigfillset(&all);
+    pthread_sigmask(SIG_SETMASK, &all, nullptr);  // signals are for the main thread
     PulseFunctions pulse;
     if (pulse.Load(library)) {
-        PulsePlayer(*mailbox, pulse).Run();
+        PulsePlayer(mailbox, pulse).Run();
     } else {
-        mailbox->Answer(0);
+        mailbox.Answer(0);
     }
-    mailbox->ThreadEnds();
 }
-
-// Threads started meanwhile receive no signals, which are for the main thread.
-class WithoutSignals
-{
-public:
-    WithoutSignals()
-    {
-        sigset_t all;
-        sigfillset(&all);
-        pthread_sigmask(SIG_SETMASK, &all, &before_);
-    }
-    ~WithoutSignals() { pthread_sigmask(SIG_SETMASK, &before_, nullptr); }
-    WithoutSignals(const WithoutSignals&) = delete;
-    WithoutSignals& operator=(const WithoutSignals&) = delete;
-
-private:
-    sigset_t before_{};
-};
 
 }  // namespace
 
@@ -54,14 +38,12 @@ Sound::~Sound()
 
 void Sound::Prepare()
 {
-    const std::lock_guard lock(mutex_);
-    if (mailbox_) {
-        return;
-    }
     auto mailbox = std::make_shared<Mailbox>();
     try {
-        const WithoutSignals withoutSignals;
-        thread_ = std::thread(RunThread, mailbox, library_);
+        std::packaged_task<void()> task(
+            [mailbox, library = library_] { RunThread(*mailbox, library); });
+        ended_ = task.get_future();
+        thread_ = std::thread(std::move(task));
         mailbox_ = std::move(mailbox);
     } catch (const std::system_error&) {
         // Without a thread the game has no sound.
@@ -70,31 +52,24 @@ void Sound::Prepare()
 
 std::int32_t Sound::DeviceCount()
 {
-    std::shared_ptr<Mailbox> mailbox;
-    {
-        const std::lock_guard lock(mutex_);
-        mailbox = mailbox_;
-    }
-    return mailbox ? mailbox->AwaitAnswer(kPatience).value_or(1) : 0;
+    return mailbox_ ? mailbox_->AwaitAnswer(kPatience).value_or(1) : 0;
 }
 
 void Sound::Play(std::string path)
 {
-    const std::lock_guard lock(mutex_);
-    if (mailbox_ && !path.empty()) {
+    if (mailbox_) {
         mailbox_->Post(std::move(path));
     }
 }
 
 void Sound::Finish()
 {
-    const std::lock_guard lock(mutex_);
     if (!mailbox_) {
         return;
     }
     mailbox_->Close();
     // A thread that hangs in the library is left behind; it uses only what it owns.
-    if (mailbox_->AwaitThreadEnd(kPatience)) {
+    if (ended_.wait_for(kPatience) == std::future_status::ready) {
         thread_.join();
     } else {
         thread_.detach();

@@ -1,10 +1,10 @@
 // Sound.h: sound for the game: counts the wave output devices and plays wave files, and never lets
-// the game wait for a sound server. All calls may come from any thread.
+// the game wait for a sound server.
 #pragma once
 
 #include <cstdint>
+#include <future>
 #include <memory>
-#include <mutex>
 #include <string>
 #include <thread>
 
@@ -22,7 +22,7 @@ public:
     Sound& operator=(const Sound&) = delete;
 
     // Starts the thread that loads the library, connects and counts the devices; returns at once.
-    // Before it, and after Finish(), there is no device and nothing sounds.
+    // Call it once. Before it, and after Finish(), there is no device and nothing sounds.
     void Prepare();
 
     // The number of wave output devices. Waits at most 100 ms for the answer and then assumes one
@@ -30,7 +30,7 @@ public:
     std::int32_t DeviceCount();
 
     // Plays a wave file (path in UTF-8) in place of the current one; returns at once. Does nothing
-    // if the path is empty or the file is no wave. If no server answers within some tenths of a
+    // if there is no such file or it is no wave. If no server answers within some tenths of a
     // second, the wave is not played.
     void Play(std::string path);
 
@@ -39,9 +39,9 @@ public:
 
 private:
     const std::string library_;
-    std::mutex mutex_;
     std::shared_ptr<Mailbox> mailbox_;  // shared with the thread, which may outlive this
     std::thread thread_;
+    std::future<void> ended_;  // ready once the thread has nothing more to do
 };
 
 }  // namespace malvone

@@ -31,8 +31,7 @@ std::uint32_t Number(Bytes bytes, std::size_t offset, std::size_t width)
 
 bool IsNamed(Bytes bytes, std::size_t offset, std::string_view name)
 {
-    return std::equal(name.begin(), name.end(), bytes.begin() + static_cast<std::ptrdiff_t>(offset),
-                      [](char c, std::uint8_t b) { return static_cast<std::uint8_t>(c) == b; });
+    return std::memcmp(bytes.data() + offset, name.data(), name.size()) == 0;
 }
 
 bool ReadFormat(Bytes format, Wave& wave)
