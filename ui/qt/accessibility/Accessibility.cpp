@@ -8,7 +8,6 @@
 #include "ui/qt/accessibility/AccessibleForm.h"
 #include "ui/qt/drawing/Conversions.h"
 #include "ui/qt/windows/FormWidget.h"
-#include "ui/windows/FrmTessel.h"
 
 namespace malvone::qt {
 namespace {
@@ -22,11 +21,6 @@ QAccessibleInterface* Make(const QString&, QObject* object)
 {
     auto* const form = qobject_cast<FormWidget*>(object);
     return form != nullptr ? new AccessibleForm(form) : nullptr;
-}
-
-AccessibleForm* TreeOf(FormWidget& form)
-{
-    return dynamic_cast<AccessibleForm*>(QAccessible::queryAccessibleInterface(&form));
 }
 
 }  // namespace
@@ -67,17 +61,15 @@ void ScreenReader::Tell()
     if (!QAccessible::isActive()) {
         return;
     }
-    for (const QPointer<FormWidget>& form : changed) {
-        FormWidget* const widget = form.data();
-        const Window* const window = widget == nullptr ? nullptr : widget->Model();
-        AccessibleForm* const tree = window == nullptr ? nullptr : TreeOf(*widget);
-        if (tree == nullptr) {
+    for (FormWidget* const form : changed) {
+        if (form == nullptr || form->Model() == nullptr) {
             continue;
         }
-        if (!news.isEmpty() && window->Name() == frmTessel.Name()) {
-            tree->Announce(news);
+        auto& tree = static_cast<AccessibleForm&>(*QAccessible::queryAccessibleInterface(form));
+        if (!news.isEmpty() && form->Model()->Role == WindowRole::Main) {
+            tree.Announce(news);
         }
-        if (tree->TellChanges(names)) {
+        if (tree.TellChanges(names)) {
             changed_.push_back(form);
         }
     }

@@ -9,7 +9,6 @@
 #include "ui/qt/drawing/Conversions.h"
 #include "ui/qt/drawing/Painting.h"
 #include "ui/qt/windows/FormWidget.h"
-#include "ui/windows/FrmTessel.h"
 
 namespace malvone::qt {
 namespace {
@@ -103,13 +102,7 @@ void AccessiblePart::doAction(const QString& name)
 {
     if (isValid() && Pressable() && name == pressAction()) {
         QMetaObject::invokeMethod(
-            form_,
-            [form = form_, visual = part_.Where] {
-                if (ModelOf(form) != nullptr) {
-                    Press(*visual);
-                }
-            },
-            Qt::QueuedConnection);
+            form_, [visual = part_.Where] { Press(*visual); }, Qt::QueuedConnection);
     }
 }
 
@@ -125,8 +118,6 @@ QAccessible::State AccessibleNews::state() const
     state.invisible = Words.isEmpty();
     return state;
 }
-
-AccessibleForm::AccessibleForm(FormWidget* form) : QAccessibleWidget(form) {}
 
 AccessibleForm::~AccessibleForm()
 {
@@ -161,7 +152,7 @@ std::vector<AccessibleForm::Node>& AccessibleForm::Nodes() const
         node.Seen = IsSpokenNow(node.Part);
         nodes_.push_back(std::move(node));
     }
-    if (form->Model()->Name() == frmTessel.Name()) {
+    if (form->Model()->Role == WindowRole::Main) {
         news_ = QAccessible::registerAccessibleInterface(new AccessibleNews(form));
     }
     return nodes_;
@@ -207,9 +198,9 @@ QAccessibleInterface* AccessibleForm::InterfaceOf(const Visual* visual) const
     return visual == nullptr || found == nodes.end() ? nullptr : InterfaceOf(*found);
 }
 
-std::vector<QAccessibleInterface*> AccessibleForm::Children() const
+QList<QAccessibleInterface*> AccessibleForm::Children() const
 {
-    std::vector<QAccessibleInterface*> children;
+    QList<QAccessibleInterface*> children;
     if (ModelOf(Form()) == nullptr) {
         return children;
     }
@@ -234,16 +225,12 @@ int AccessibleForm::childCount() const
 
 QAccessibleInterface* AccessibleForm::child(int index) const
 {
-    const std::vector<QAccessibleInterface*> children = Children();
-    const auto place = static_cast<std::size_t>(index);
-    return index >= 0 && place < children.size() ? children[place] : nullptr;
+    return Children().value(index);
 }
 
 int AccessibleForm::indexOfChild(const QAccessibleInterface* child) const
 {
-    const std::vector<QAccessibleInterface*> children = Children();
-    const auto found = std::find(children.begin(), children.end(), child);
-    return found == children.end() ? -1 : static_cast<int>(found - children.begin());
+    return static_cast<int>(Children().indexOf(child));
 }
 
 QAccessibleInterface* AccessibleForm::childAt(int x, int y) const

@@ -3,6 +3,7 @@
 
 #include <QAccessible>
 #include <QAccessibleWidget>
+#include <QList>
 #include <QPointer>
 #include <vector>
 
@@ -71,7 +72,7 @@ public:
 class AccessibleForm final : public QAccessibleWidget
 {
 public:
-    explicit AccessibleForm(FormWidget* form);
+    using QAccessibleWidget::QAccessibleWidget;
     ~AccessibleForm() override;
 
     QString text(QAccessible::Text kind) const override;
@@ -107,7 +108,7 @@ private:
     static bool IsReadable(const Node& node);
     QAccessibleInterface* InterfaceOf(const Node& node) const;
     QAccessibleInterface* InterfaceOf(const Visual* visual) const;
-    std::vector<QAccessibleInterface*> Children() const;
+    QList<QAccessibleInterface*> Children() const;
 };
 
 }  // namespace malvone::qt
