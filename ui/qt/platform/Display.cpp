@@ -24,17 +24,11 @@ namespace {
 constexpr const char* kPlatform = "QT_QPA_PLATFORM";
 constexpr const char* kScale = "QT_SCALE_FACTOR";
 
-std::string Environment(const char* name)
-{
-    const char* const value = std::getenv(name);
-    return value != nullptr ? value : "";
-}
-
 enum class Reached { No, WithFewColours, Yes };
 
 Reached AskX11()
 {
-    if (Environment("DISPLAY").empty()) {
+    if (qEnvironmentVariableIsEmpty("DISPLAY")) {
         return Reached::No;
     }
 #ifdef MALVONE_XCB
@@ -60,12 +54,12 @@ Reached X11()
 
 bool WaylandReachable()
 {
-    std::string path = Environment("WAYLAND_DISPLAY");
+    std::string path = qgetenv("WAYLAND_DISPLAY").toStdString();
     if (path.empty()) {
         return false;
     }
     if (path.front() != '/') {
-        path = Environment("XDG_RUNTIME_DIR") + "/" + path;
+        path = qgetenv("XDG_RUNTIME_DIR").toStdString() + "/" + path;
     }
     sockaddr_un address{};
     address.sun_family = AF_UNIX;
@@ -86,7 +80,7 @@ bool WaylandReachable()
 
 const char* WhyNoDisplay()
 {
-    if (!Environment(kPlatform).empty() || X11() == Reached::Yes || WaylandReachable()) {
+    if (!qEnvironmentVariableIsEmpty(kPlatform) || X11() == Reached::Yes || WaylandReachable()) {
         return nullptr;
     }
     return X11() == Reached::WithFewColours
@@ -115,7 +109,7 @@ void OnQtMessage(QtMsgType type, const QMessageLogContext& context, const QStrin
 void PreferX11()
 {
     // Naming both would make Qt print a warning when the first one fails.
-    if (Environment(kPlatform).empty()) {
+    if (qEnvironmentVariableIsEmpty(kPlatform)) {
         qputenv(kPlatform, X11() == Reached::Yes ? "xcb" : "wayland");
     }
 }

@@ -2,13 +2,7 @@
 #include "ui/qt/platform/Launch.h"
 
 #ifdef MALVONE_XCB
-#include <xcb/xcb.h>
-
-#include <algorithm>
-#include <cstdlib>
-#include <iterator>
-#include <string>
-#include <string_view>
+#include "ui/qt/platform/X11.h"
 #endif
 
 namespace malvone::qt {
@@ -17,36 +11,24 @@ namespace malvone::qt {
 
 namespace {
 
-xcb_atom_t Atom(xcb_connection_t* connection, std::string_view name)
-{
-    xcb_intern_atom_reply_t* const reply = xcb_intern_atom_reply(
-        connection,
-        xcb_intern_atom(connection, 0, static_cast<std::uint16_t>(name.size()), name.data()),
-        nullptr);
-    const xcb_atom_t atom = reply != nullptr ? reply->atom : xcb_atom_t{XCB_ATOM_NONE};
-    std::free(reply);
-    return atom;
-}
-
 // Sends a text to all who listen to the root window, in parts of 20 bytes; the last one holds the
 // zero at its end.
 void Broadcast(xcb_connection_t* connection, const std::string& text)
 {
-    const xcb_window_t root = xcb_setup_roots_iterator(xcb_get_setup(connection)).data->root;
+    const xcb_window_t root = x11::Root(connection);
     xcb_client_message_event_t part{};
     part.response_type = XCB_CLIENT_MESSAGE;
     part.format = 8;
-    part.type = Atom(connection, "_NET_STARTUP_INFO_BEGIN");
+    part.type = x11::Atom(connection, "_NET_STARTUP_INFO_BEGIN");
     part.window = xcb_generate_id(connection);
     xcb_create_window(connection, XCB_COPY_FROM_PARENT, part.window, root, 0, 0, 1, 1, 0,
                       XCB_WINDOW_CLASS_INPUT_ONLY, XCB_COPY_FROM_PARENT, 0, nullptr);
-    for (std::size_t i = 0; i <= text.size(); i += sizeof part.data.data8) {
-        const std::string bytes = text.substr(i, sizeof part.data.data8);
-        std::fill(std::begin(part.data.data8), std::end(part.data.data8), std::uint8_t{0});
-        std::copy(bytes.begin(), bytes.end(), std::begin(part.data.data8));
+    for (std::size_t i = 0; i <= text.size(); i += sizeof part.data) {
+        part.data = {};
+        text.copy(reinterpret_cast<char*>(part.data.data8), sizeof part.data, i);
         xcb_send_event(connection, 0, root, XCB_EVENT_MASK_PROPERTY_CHANGE,
                        reinterpret_cast<const char*>(&part));
-        part.type = Atom(connection, "_NET_STARTUP_INFO");
+        part.type = x11::Atom(connection, "_NET_STARTUP_INFO");
     }
     xcb_flush(connection);
 }

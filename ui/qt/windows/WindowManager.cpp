@@ -1,90 +1,48 @@
 // WindowManager.cpp: finds out which window manager runs, and talks to it.
 #include "ui/qt/windows/WindowManager.h"
 
-#include <QGuiApplication>
-#include <algorithm>
-#include <cstdlib>
-#include <iterator>
-#include <memory>
-#include <string>
-#include <string_view>
-
 #include "ui/qt/platform/Display.h"
 
 #ifdef MALVONE_XCB
-#include <xcb/xcb.h>
+#include <QGuiApplication>
+#include <algorithm>
+#include <cstring>
+#include <iterator>
+
+#include "ui/qt/platform/X11.h"
 #endif
 
 namespace malvone::qt {
-namespace {
-
-struct Manager
-{
-    std::string_view Word;  // a part of the name that it gives itself
-    BackdropManner Manner;
-};
-
-// Found by trying. For any other manager the backdrop is a plain window.
-constexpr Manager kManagers[] = {
-    {"Openbox", BackdropManner::FullScreen},
-    {"Xfwm4", BackdropManner::FullScreen},
-    {"Metacity", BackdropManner::FullScreen},
-    {"Mutter", BackdropManner::FullScreen},
-    {"GNOME Shell", BackdropManner::FullScreen},
-    {"Marco", BackdropManner::FullScreen},
-    {"KWin", BackdropManner::FullScreen},
-    {"IceWM", BackdropManner::FullScreen},
-    {"JWM", BackdropManner::FullScreen},
-    {"FVWM", BackdropManner::FullScreen},
-    {"i3", BackdropManner::None},
-    {"wlroots wm", BackdropManner::None},
-    {"bspwm", BackdropManner::None},
-    {"dwm", BackdropManner::None},
-    {"awesome", BackdropManner::None},
-};
 
 #ifdef MALVONE_XCB
 
-struct Freed
-{
-    void operator()(void* memory) const { std::free(memory); }
-};
-// A reply of the server; null on an error.
-template<typename Reply>
-using Answer = std::unique_ptr<Reply, Freed>;
+namespace {
 
-// Qt's own connection; null on another platform.
+// Parts of the names that managers give themselves. Found by trying.
+constexpr std::string_view kShowOthersAboveFullScreen[] = {
+    "Openbox", "Xfwm4", "Metacity", "Mutter", "GNOME Shell",
+    "Marco",   "KWin",  "IceWM",    "JWM",    "FVWM",
+};
+constexpr std::string_view kTile[] = {"i3", "wlroots wm", "bspwm", "dwm", "awesome"};
+
+// Qt's own connection; null on another platform, where the interface may exist without one.
 xcb_connection_t* Connection()
 {
     const auto* const x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-    // On other platforms the interface may exist without a connection.
     return x11 != nullptr && QGuiApplication::platformName() == QLatin1String("xcb")
                ? x11->connection()
                : nullptr;
 }
 
-xcb_atom_t Atom(xcb_connection_t* connection, std::string_view name)
-{
-    const Answer<xcb_intern_atom_reply_t> reply(xcb_intern_atom_reply(
-        connection,
-        xcb_intern_atom(connection, 0, static_cast<std::uint16_t>(name.size()), name.data()),
-        nullptr));
-    return reply ? reply->atom : xcb_atom_t{XCB_ATOM_NONE};
-}
-
-xcb_window_t Root(xcb_connection_t* connection)
-{
-    return xcb_setup_roots_iterator(xcb_get_setup(connection)).data->root;
-}
-
 // The bytes of a property, empty where there is none.
-std::string Property(xcb_connection_t* connection, xcb_window_t window, xcb_atom_t name)
+std::string Property(xcb_connection_t* connection, xcb_window_t window, std::string_view name)
 {
     constexpr std::uint32_t kLongs = 64;
-    const Answer<xcb_get_property_reply_t> reply(xcb_get_property_reply(
-        connection,
-        xcb_get_property(connection, 0, window, name, XCB_GET_PROPERTY_TYPE_ANY, 0, kLongs),
-        nullptr));
+    const x11::Answer<xcb_get_property_reply_t> reply(
+        xcb_get_property_reply(connection,
+                               xcb_get_property(connection, 0, window, x11::Atom(connection, name),
+                                                XCB_GET_PROPERTY_TYPE_ANY, 0, kLongs),
+                               nullptr));
     if (!reply) {
         return {};
     }
@@ -95,37 +53,35 @@ std::string Property(xcb_connection_t* connection, xcb_window_t window, xcb_atom
 std::string ManagerName(xcb_connection_t* connection)
 {
     const std::string window =
-        Property(connection, Root(connection), Atom(connection, "_NET_SUPPORTING_WM_CHECK"));
-    if (window.size() < sizeof(xcb_window_t)) {
+        Property(connection, x11::Root(connection), "_NET_SUPPORTING_WM_CHECK");
+    xcb_window_t id = 0;
+    if (window.size() < sizeof id) {
         return {};
     }
-    xcb_window_t id = 0;
-    std::copy_n(window.begin(), sizeof id, reinterpret_cast<char*>(&id));
-    return Property(connection, id, Atom(connection, "_NET_WM_NAME"));
+    std::memcpy(&id, window.data(), sizeof id);
+    return Property(connection, id, "_NET_WM_NAME");
 }
 
-#endif
+template<typename Words>
+bool HasOneOf(std::string_view name, const Words& words)
+{
+    return std::any_of(std::begin(words), std::end(words), [name](std::string_view word) {
+        return name.find(word) != std::string_view::npos;
+    });
+}
 
 BackdropManner AskedFor()
 {
-    // A full-screen window lies above all others there, or beside none.
+    // On Wayland a full-screen window lies above all others, or beside none.
     if (!WindowsCanBePlaced()) {
         return BackdropManner::None;
     }
-#ifdef MALVONE_XCB
     xcb_connection_t* const connection = Connection();
-    if (connection == nullptr) {
+    const std::string name = connection != nullptr ? ManagerName(connection) : std::string();
+    if (connection == nullptr || HasOneOf(name, kShowOthersAboveFullScreen)) {
         return BackdropManner::FullScreen;
     }
-    const std::string name = ManagerName(connection);
-    const auto* const found =
-        std::find_if(std::begin(kManagers), std::end(kManagers), [&name](const Manager& manager) {
-            return name.find(manager.Word) != std::string::npos;
-        });
-    return found == std::end(kManagers) ? BackdropManner::ScreenSized : found->Manner;
-#else
-    return BackdropManner::FullScreen;
-#endif
+    return HasOneOf(name, kTile) ? BackdropManner::None : BackdropManner::ScreenSized;
 }
 
 }  // namespace
@@ -138,68 +94,73 @@ BackdropManner MannerOfBackdrop()
 
 bool ManagerShowsDesktop()
 {
-#ifdef MALVONE_XCB
-    if (xcb_connection_t* const connection = Connection()) {
-        const std::string shown =
-            Property(connection, Root(connection), Atom(connection, "_NET_SHOWING_DESKTOP"));
-        return !shown.empty() && shown.front() != 0;
-    }
-#endif
-    return false;
+    xcb_connection_t* const connection = Connection();
+    const std::string shown =
+        connection != nullptr ? Property(connection, x11::Root(connection), "_NET_SHOWING_DESKTOP")
+                              : std::string();
+    return !shown.empty() && shown.front() != 0;
 }
 
 bool ManagerHides(WId window)
 {
-#ifdef MALVONE_XCB
-    if (xcb_connection_t* const connection = Connection()) {
-        const Answer<xcb_get_window_attributes_reply_t> reply(xcb_get_window_attributes_reply(
-            connection, xcb_get_window_attributes(connection, static_cast<xcb_window_t>(window)),
-            nullptr));
-        return reply && reply->map_state != XCB_MAP_STATE_VIEWABLE;
+    xcb_connection_t* const connection = Connection();
+    if (connection == nullptr) {
+        return false;
     }
-#else
-    static_cast<void>(window);
-#endif
-    return false;
+    const x11::Answer<xcb_get_window_attributes_reply_t> reply(xcb_get_window_attributes_reply(
+        connection, xcb_get_window_attributes(connection, static_cast<xcb_window_t>(window)),
+        nullptr));
+    return reply && reply->map_state != XCB_MAP_STATE_VIEWABLE;
 }
 
 void KeepOffTaskBar(WId window)
 {
-#ifdef MALVONE_XCB
-    xcb_connection_t* const connection = Connection();
-    if (connection == nullptr) {
-        return;
+    if (xcb_connection_t* const connection = Connection()) {
+        const xcb_atom_t hints[] = {x11::Atom(connection, "_NET_WM_STATE_SKIP_TASKBAR"),
+                                    x11::Atom(connection, "_NET_WM_STATE_SKIP_PAGER")};
+        xcb_change_property(connection, XCB_PROP_MODE_APPEND, static_cast<xcb_window_t>(window),
+                            x11::Atom(connection, "_NET_WM_STATE"), XCB_ATOM_ATOM, 32, 2, hints);
     }
-    const xcb_atom_t hints[] = {Atom(connection, "_NET_WM_STATE_SKIP_TASKBAR"),
-                                Atom(connection, "_NET_WM_STATE_SKIP_PAGER")};
-    xcb_change_property(connection, XCB_PROP_MODE_APPEND, static_cast<xcb_window_t>(window),
-                        Atom(connection, "_NET_WM_STATE"), XCB_ATOM_ATOM, 32, 2, hints);
-#else
-    static_cast<void>(window);
-#endif
 }
 
 void ActivateForPlayer(WId window)
 {
-#ifdef MALVONE_XCB
-    xcb_connection_t* const connection = Connection();
-    if (connection == nullptr) {
-        return;
+    if (xcb_connection_t* const connection = Connection()) {
+        constexpr std::uint32_t kFromThePlayer = 2;
+        xcb_client_message_event_t request{};
+        request.response_type = XCB_CLIENT_MESSAGE;
+        request.format = 32;
+        request.window = static_cast<xcb_window_t>(window);
+        request.type = x11::Atom(connection, "_NET_ACTIVE_WINDOW");
+        request.data.data32[0] = kFromThePlayer;
+        xcb_send_event(connection, 0, x11::Root(connection),
+                       XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY | XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT,
+                       reinterpret_cast<const char*>(&request));
+        xcb_flush(connection);
     }
-    constexpr std::uint32_t kFromThePlayer = 2;
-    xcb_client_message_event_t request{};
-    request.response_type = XCB_CLIENT_MESSAGE;
-    request.format = 32;
-    request.window = static_cast<xcb_window_t>(window);
-    request.type = Atom(connection, "_NET_ACTIVE_WINDOW");
-    request.data.data32[0] = kFromThePlayer;
-    xcb_send_event(connection, 0, Root(connection),
-                   XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY | XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT,
-                   reinterpret_cast<const char*>(&request));
-    xcb_flush(connection);
-#else
-    static_cast<void>(window);
-#endif
 }
+
+#else
+
+BackdropManner MannerOfBackdrop()
+{
+    return WindowsCanBePlaced() ? BackdropManner::FullScreen : BackdropManner::None;
+}
+
+bool ManagerShowsDesktop()
+{
+    return false;
+}
+
+bool ManagerHides(WId /*window*/)
+{
+    return false;
+}
+
+void KeepOffTaskBar(WId /*window*/) {}
+
+void ActivateForPlayer(WId /*window*/) {}
+
+#endif
 
 }  // namespace malvone::qt
