@@ -6,6 +6,7 @@
 #include <QPaintEvent>
 #include <QPainter>
 #include <QScreen>
+#include <cstring>
 
 #include "state/Beste.h"
 #include "state/Spielstand.h"
@@ -14,9 +15,16 @@
 #include "ui/qt/drawing/Conversions.h"
 #include "ui/qt/drawing/PictureStore.h"
 #include "ui/qt/windows/BackdropWindow.h"
+#include "ui/windows/FrmBilder.h"
 
 namespace malvone::qt {
 namespace {
+
+#ifdef __SANITIZE_ADDRESS__
+constexpr bool kSanitized = true;
+#else
+constexpr bool kSanitized = false;
+#endif
 
 struct Watch : QObject
 {
@@ -135,29 +143,58 @@ TEST_F(Windows, TheWholeDesignGrowsAndShrinksWithItsWindowInWholePixels)
     }
 }
 
-// A cell is a rectangle of pixels, so those along its middle show all, and a cell of each column
-// with all rows among them stands for the board.
-TEST_F(Windows, ThePixelsOfACellAnswerForIt)
+// Cells are painted in plain colours, each in another one than all around it. The pointer is asked
+// along a whole line of pixels wherever the row of cells changes.
+TEST_F(Windows, EachPixelOfTheBoardAnswersForTheCellThatIsPaintedThere)
 {
     FormWidget& form = Form(*frmTessel);
+    const auto& cells = frmTessel->imgFeld;
+    const auto stoneOf = [](const Visual* cell) {
+        const int place = cell->Index() - 1;
+        return (place + 2 * (place / kReihen)) % (kFarben + 1);
+    };
+    const auto colourOf = [](int stone) { return qRgb(0, 0, stone + 1); };
+    for (int cell = 1; cell <= kZellen; ++cell) {
+        frmTessel->imgFeld(cell).Picture = frmBilder->imgBild(stoneOf(&cells(cell))).Picture;
+    }
+    frmTessel->Picture = frmTessel->Picture1.Picture = Picture();
+    frmTessel->Picture1.BackColor = 0;
+    const QRectF board = PlaceOf(cells(1)) | PlaceOf(cells(kZellen));
     for (const double ratio : {1.0, 1.25, 1.5, 2.0, 3.0}) {
-        for (double wished = 0.5; wished < 4.31; wished += 0.19) {
+        for (double wished = 0.5; wished < 4.31; wished += kSanitized ? 1.27 : 0.19) {
             const QRectF room(0, 23, 755 * wished + 90, 463 * wished);
             const Scale scale(DesignOf(*frmTessel), room, ratio);
+            const QRect seen = OnScreen(scale.ToWindow(board), ratio).adjusted(-2, -2, 2, 2);
+            const QSize cell = OnScreen(PlaceOf(cells(1)), scale.Factor() * ratio).size();
+            PictureStore plain;
+            for (int stone = 0; stone <= kFarben; ++stone) {
+                const QImage& image = plain.Get(frmBilder->imgBild(stone).Picture, cell);
+                const_cast<QImage&>(image).fill(colourOf(stone));
+            }
+            QImage painted(seen.size(), QImage::Format_RGB32);
+            painted.setDevicePixelRatio(ratio);
+            QPainter painter(&painted);
+            painter.translate(scale.Corner() - QPointF(seen.topLeft()) / ratio);
+            painter.scale(scale.Factor(), scale.Factor());
+            PaintWindow(painter, *frmTessel, plain, board.toRect(), scale.ToDesign(room));
+            painter.end();
+
             const PointerInput pointer(form, *frmTessel, scale);
+            const auto under = [&](int x, int y) {
+                return pointer.ControlUnder(QPointF(seen.topLeft() + QPoint(x, y)) / ratio);
+            };
+            std::vector<QRgb> line;
             int wrong = 0;
-            for (int cell = 1; cell <= kZellen; cell += cell % kReihen == 0 ? 1 : 11) {
-                const Image& field = frmTessel->imgFeld(cell);
-                const QRect drawn = OnScreen(PlaceOf(field), scale.Factor() * ratio)
-                                        .translated((scale.Corner() * ratio).toPoint());
-                const auto look = [&](QPoint pixel) {
-                    const bool hit = pointer.ControlUnder(QPointF(pixel) / ratio) == &field;
-                    wrong += hit == drawn.contains(pixel) ? 0 : 1;
-                };
-                for (int step = -1; step <= drawn.width(); ++step) {
-                    look({drawn.left() + step, drawn.center().y()});
-                    look({drawn.center().x(), drawn.top() + step});
+            for (int y = 0; y < seen.height(); ++y) {
+                if (y == 0 || under(seen.width() / 2, y) != under(seen.width() / 2, y - 1)) {
+                    line.clear();
+                    for (int x = 0; x < seen.width(); ++x) {
+                        const auto* const hit = dynamic_cast<const Image*>(under(x, y));
+                        line.push_back(hit == nullptr ? qRgb(0, 0, 0) : colourOf(stoneOf(hit)));
+                    }
                 }
+                const auto* const row = painted.constScanLine(y);
+                wrong += std::memcmp(row, line.data(), line.size() * sizeof(QRgb)) == 0 ? 0 : 1;
             }
             EXPECT_EQ(wrong, 0) << "factor " << scale.Factor() << ", ratio " << ratio;
         }
