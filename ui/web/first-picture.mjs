@@ -58,15 +58,16 @@ const painter = pictures => {
 };
 
 // How far the parts of the main window move in the upright layout, in twips. A control belongs to the
-// first part that holds its upper left corner.
+// first part that holds its upper left corner. Text ends where it is `free` of the offers: where it is
+// larger than designed, it needs another line.
 const parts = [
   { right: 3200, bottom: 2700, across: 0, down: 6650 },       // title, manual, information
   { right: 3200, bottom: 6945, across: 3480, down: 3800 },    // displays, new game, end
   { right: 11325, bottom: 5250, across: -3660, down: 0 },     // the board
-  { right: 3500, bottom: 6945, across: -3240, down: 0 },      // what to do next
+  { right: 3500, bottom: 6945, across: -3240, down: 0, free: 420 },  // what to do next
   { right: 5000, bottom: 6945, across: -3660, down: 0 },      // what the move is worth
   { right: 10500, bottom: 6945, across: -3840, down: 0 },     // the offers
-  { right: Infinity, bottom: Infinity, across: -3960, down: 0 },  // their arrows
+  { right: Infinity, bottom: Infinity, across: -4000, down: 0 },  // their arrows
 ];
 const moved = element => parts.find(({ right, bottom }) => element["--left"] < right && element["--top"] < bottom);
 
@@ -95,7 +96,7 @@ export const firstPicture = async (folder, pictures) => {
   const upright = parts.map(part => {
     const own = [...controls, ...shown].filter(element => element !== shown[0] && moved(element) === part)
       .map(({ number, id }) => number ? `.first${number}` : `[id^="${id.replace(/\d+\)$/, "")}"]`);
-    return `.upright :is(${[...new Set(own)].join(", ")}) { --shift-x: ${part.across}; --shift-y: ${part.down}; }`;
+    return `.upright :is(${[...new Set(own)].join(", ")}) { --shift-x: ${part.across}; --shift-y: ${part.down}; padding-right: calc(${part.free ?? 0} * var(--u)); }`;
   });
   return {
     markup: `<div id="first" aria-hidden="true"><div class="Window first" data-bar="true"><div role="menubar">` +
