@@ -25,14 +25,6 @@ TEST(Datenordner, OnlyAFreeNameInAnExistingFolderIsAbsent)
     EXPECT_EQ(ProgrammOrdner(), "P:\\");
 }
 
-TEST(Datenordner, WithoutAWindowsFolderOnlyTheProgramsFolderIsLeft)
-{
-    Stage<> stage({{}, {}, true});
-    stage.Start("key Esc\n");
-    EXPECT_EQ(Daten.DatenOrdnerOk, False);
-    EXPECT_EQ(DatenPfad(), ProgrammOrdner());
-}
-
 // Only its name counts: whether a wave can be read shows when it is played.
 TEST(Klaenge, AWaveThatCannotBeReadIsThere)
 {

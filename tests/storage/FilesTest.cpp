@@ -250,64 +250,30 @@ TEST_F(Files, WhatLiesInThePlaceOfTheNewFileIsNotWrittenThrough)
     }
 }
 
-// Nothing is read-only for root: the test then goes on as the user nobody.
-class WithoutPrivileges
-{
-public:
-    explicit WithoutPrivileges(const fs::path& folder)
-    {
-        if (root_) {
-            for (const auto& entry : fs::recursive_directory_iterator(folder)) {
-                EXPECT_EQ(::lchown(entry.path().c_str(), kNobody, kNobody), 0);
-            }
-            EXPECT_EQ(::lchown(folder.c_str(), kNobody, kNobody), 0);
-            EXPECT_EQ(::seteuid(kNobody), 0);
-        }
-    }
-    ~WithoutPrivileges()
-    {
-        if (root_) {
-            EXPECT_EQ(::seteuid(0), 0);
-        }
-    }
-    WithoutPrivileges(const WithoutPrivileges&) = delete;
-    WithoutPrivileges& operator=(const WithoutPrivileges&) = delete;
-
-private:
-    static constexpr uid_t kNobody = 65534;
-    const bool root_ = ::geteuid() == 0;
-};
-
-TEST_F(Files, AReadOnlyFileOrFolderIsTold)
-{
-    for (const bool folder : {false, true}) {
-        fs::remove_all(Disk);
-        Make();
-        ::chmod((folder ? Disk : File).c_str(), 0555);
-        const WithoutPrivileges without(Home.Path);
-        EXPECT_EQ(System.ReplaceTextLines(kFile, kNew, OldFile::Goes), FileFault::NoPermission);
-        EXPECT_EQ(Contents(File), kOldContent);
-        EXPECT_EQ(System.CreateDirectoryA("C:\\folder"), !folder);
-        EXPECT_EQ(System.WriteTextLines("C:\\new.txt", kNew),
-                  folder ? FileFault::NoPermission : FileFault::None);
-    }
-}
-
-TEST_F(Files, AFileWithoutPermissionIsKeptBesideTheNewOneAndOverNoOther)
+TEST_F(Files, AFileWithoutPermissionIsToldOrKeptBesideTheNewOneAndOverNoOther)
 {
     Make();
-    WriteFile(Disk / kKept, "older");
     ::chmod(File.c_str(), 0000);
-    {
-        const WithoutPrivileges without(Home.Path);
-        EXPECT_EQ(System.ReadTextLines(kFile, 1).Fault, FileFault::NoPermission);
-        EXPECT_EQ(System.ReplaceTextLines(kFile, kNew, OldFile::Kept), FileFault::None);
-        EXPECT_EQ(System.ReadTextLines(kFile, 2).Lines, kNew);
+    WriteFile(Disk / kKept, "older");
+    const auto refused = [&](int nth, OldFile old) {
+        System.Fault = [nth](std::string_view call) mutable {
+            return call == "open" && --nth == 0 ? EACCES : 0;
+        };
+        return System.ReplaceTextLines(kFile, kNew, old);
+    };
+    for (const int nth : {2, 3}) {  // after their folder the old file, and the new one
+        EXPECT_EQ(refused(nth, OldFile::Goes), FileFault::NoPermission);
+        EXPECT_EQ(Contents(File), kOldContent);
     }
-    ::chmod((Disk / "file-nicht-gelesen-2.txt").c_str(), 0600);
+    EXPECT_EQ(refused(2, OldFile::Kept), FileFault::None);
+    EXPECT_EQ(fs::status(File).permissions(), fs::perms(0600));
+    EXPECT_EQ(Contents(File), kNewContent);
     EXPECT_EQ(Contents(Disk / kKept), "older");
     EXPECT_EQ(Contents(Disk / "file-nicht-gelesen-2.txt"), kOldContent);
     EXPECT_EQ(Names(Disk).size(), 3U);
+    System.Fault = Fails("open", EACCES);
+    EXPECT_EQ(System.ReadTextLines(kFile, 1).Fault, FileFault::NoPermission);
+    EXPECT_EQ(System.WriteTextLines("C:\\new.txt", kNew), FileFault::NoPermission);
 }
 
 TEST_F(Files, WhereThereAreNoSecondNamesACopyIsKept)
