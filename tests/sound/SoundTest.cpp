@@ -106,26 +106,9 @@ TEST(Wave, TakesFromADamagedFileWhatIsThere)
         const auto wave = Read(file);
         EXPECT_EQ(wave ? std::string(wave->Data.begin(), wave->Data.end()) : "", data) << what;
     }
-}
-
-// Every byte once wrong and every length: whatever is read holds whole frames, and under the
-// sanitizers nothing is read that is not there.
-TEST(Wave, NoSingleDamageBreaksTheReader)
-{
-    const std::string good = Riff(Chunk("LIST", "odd") + kFormat + kData);
-    std::vector<std::string> files;
-    for (std::size_t i = 0; i < good.size(); ++i) {
-        files.push_back(good.substr(0, i));
-        for (const char value : {'\0', '\x01', '\x7F', '\xFF'}) {
-            files.push_back(good);
-            files.back()[i] = value;
-        }
-    }
-    for (const std::string& file : files) {
-        if (const auto wave = Read(file)) {
-            ASSERT_FALSE(wave->Data.empty());
-            ASSERT_EQ(wave->Data.size() % wave->FrameBytes(), 0U);
-        }
+    // The sanitizers see what is read behind the end.
+    for (std::size_t size = 0; size < kWave.size(); ++size) {
+        EXPECT_EQ(Read(kWave.substr(0, size)).has_value(), size + 4 >= kWave.size()) << size;
     }
 }
 

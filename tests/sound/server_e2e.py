@@ -92,14 +92,6 @@ def of_many_sounds_at_once_the_last_one_sounds():
         expect(not any(whole for _, whole in server.heard()[1:-1]), "the others cut")
 
 
-def what_is_no_wave_changes_nothing():
-    with Server() as server, Player(server) as player:
-        player.plays("CHIMES")
-        server.hears("CHIMES", whole=False)
-        player.plays("", "/nowhere/TADA.WAV", __file__, "/tmp")
-        server.hears("CHIMES")
-
-
 def leaving_waits_for_nothing():
     with Server() as server:
         with Player(server) as player:
@@ -169,8 +161,8 @@ def nothing_wakes_up_in_silence():
 
 CASES = (the_waves_are_what_their_script_makes, every_wave_is_played_whole,
          a_new_sound_takes_the_place_of_the_old_one, of_many_sounds_at_once_the_last_one_sounds,
-         what_is_no_wave_changes_nothing, leaving_waits_for_nothing,
-         where_nothing_sounds_nobody_waits, without_the_library_nothing_sounds,
+         leaving_waits_for_nothing, where_nothing_sounds_nobody_waits,
+         without_the_library_nothing_sounds,
          what_was_due_while_the_server_was_away_does_not_come_later,
          a_server_that_comes_late_or_again_is_found_at_once, nothing_wakes_up_in_silence)
 
