@@ -1,14 +1,8 @@
 # Puts the sounds and the manuals beside the executable, where the game looks for them.
 malvone_glob(sounds assets/sounds/*.wav assets/sounds/*.WAV)
-set(sounds_copied "")
 foreach(sound IN LISTS sounds)
-    cmake_path(GET sound FILENAME name)
-    add_custom_command(OUTPUT "${PROJECT_BINARY_DIR}/${name}"
-        COMMAND "${CMAKE_COMMAND}" -E copy "${sound}" "${PROJECT_BINARY_DIR}/${name}"
-        DEPENDS "${sound}" VERBATIM)
-    list(APPEND sounds_copied "${PROJECT_BINARY_DIR}/${name}")
+    configure_file("${sound}" "${PROJECT_BINARY_DIR}" COPYONLY)
 endforeach()
-add_custom_target(sounds ALL DEPENDS ${sounds_copied})
 
 if(MALVONE_DATA)
     set(manual_builder "${PROJECT_SOURCE_DIR}/assets/manuals/typeset.py")

@@ -51,7 +51,7 @@ endif()
 
 if(MALVONE_QT AND MALVONE_DATA)
     # What ./play builds, so that it can be installed right afterwards.
-    add_custom_target(playable DEPENDS malvone sounds manuals icons)
+    add_custom_target(playable DEPENDS malvone manuals icons)
 endif()
 if(MALVONE_WEB)
     install(DIRECTORY "${web_folder}/" DESTINATION "${CMAKE_INSTALL_DATADIR}/malvone-web")

@@ -15,7 +15,7 @@ add_custom_command(OUTPUT "${PROJECT_BINARY_DIR}/web.stamp"
     COMMAND "${MALVONE_NODE}" "${PROJECT_SOURCE_DIR}/ui/web/build-page.mjs"
             "${PROJECT_SOURCE_DIR}" "${PROJECT_BINARY_DIR}" "${web_folder}"
     COMMAND "${CMAKE_COMMAND}" -E touch "${PROJECT_BINARY_DIR}/web.stamp"
-    DEPENDS malvone sounds manuals ${web_parts} VERBATIM)
+    DEPENDS malvone manuals ${sounds} ${web_parts} VERBATIM)
 add_custom_target(page ALL DEPENDS "${PROJECT_BINARY_DIR}/web.stamp")
 
 # The script program under Node reads and writes the real files of the machine.
