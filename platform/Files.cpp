@@ -3,12 +3,14 @@
 
 #include <fcntl.h>
 #include <pwd.h>
+#include <sys/file.h>
 #include <unistd.h>
 
 #include <algorithm>
 #include <array>
 #include <cerrno>
 #include <chrono>
+#include <cstdio>
 #include <cstdlib>
 #include <system_error>
 #include <thread>
@@ -126,11 +128,31 @@ std::optional<fs::path> FilePlatform::Translate(std::string_view path) const
     return std::nullopt;
 }
 
+bool FilePlatform::Stat(const fs::path& path, struct stat& found)
+{
+    return Call("stat", [&] { return ::stat(path.c_str(), &found); }) == 0;
+}
+
+bool FilePlatform::MakeFolder(const fs::path& folder)
+{
+    return Call("mkdir", [&] { return ::mkdir(folder.c_str(), kNewFolder); }) == 0;
+}
+
+bool FilePlatform::Sync(int file)
+{
+    return Call("sync", [&] { return ::fsync(file); }) == 0;
+}
+
+void FilePlatform::Remove(const fs::path& path)
+{
+    Call("remove", [&] { return ::remove(path.c_str()); });
+}
+
 mode_t FilePlatform::KindOf(const fs::path& path)
 {
     struct stat found
     {};
-    return Stat(path, found) == 0 ? found.st_mode & S_IFMT : 0;
+    return Stat(path, found) ? found.st_mode & S_IFMT : 0;
 }
 
 bool FilePlatform::IsFolder(const fs::path& path)
@@ -144,7 +166,7 @@ void FilePlatform::MakeFoldersAbove(const fs::path& path)
     const fs::path folder = path.parent_path();
     if (folder != path && !IsFolder(folder)) {
         MakeFoldersAbove(folder);
-        MakeFolder(folder, kNewFolder);
+        MakeFolder(folder);
     }
 }
 
@@ -169,7 +191,7 @@ bool FilePlatform::CreateDirectoryA(const std::string& path)
     }
     const std::optional<fs::path> place = PlaceToWrite(path);
     // Another run may have made it in the meantime.
-    return place && (MakeFolder(*place, kNewFolder) == 0 || (errno == EEXIST && IsFolder(*place)));
+    return place && (MakeFolder(*place) || (errno == EEXIST && IsFolder(*place)));
 }
 
 std::int32_t FilePlatform::OpenFileExist(const std::string& path)
@@ -180,8 +202,9 @@ std::int32_t FilePlatform::OpenFileExist(const std::string& path)
     }
     struct stat found
     {};
-    if (Stat(*place, found) == 0) {
-        const bool readable = S_ISREG(found.st_mode) && Access(*place, R_OK) == 0;
+    if (Stat(*place, found)) {
+        const bool readable = S_ISREG(found.st_mode) &&
+                              Call("access", [&] { return ::access(place->c_str(), R_OK); }) == 0;
         return readable ? kFileExists : kAccessRefused;
     }
     const int error = errno;
@@ -221,7 +244,7 @@ ReadLines FilePlatform::ReadTextLines(const std::string& path, std::size_t count
     LineCollector collector(count, result.Lines);
     std::array<char, kBlock> block{};
     ssize_t got = 0;
-    while (!collector.Complete() && (got = Read(file.Get(), block)) > 0) {
+    while (!collector.Complete() && (got = Read(file, block)) > 0) {
         collector.Take({block.data(), static_cast<std::size_t>(got)});
     }
     result.Fault = got < 0 ? FaultOf(errno) : collector.EndOfFile();
@@ -294,7 +317,8 @@ FileFault FilePlatform::Replace(const fs::path& target, const NewFile& next)
     if (fault == FileFault::None && mode && next.Old == OldFile::Kept) {
         fault = KeepBeside(target, kept);
     }
-    if (fault == FileFault::None && Rename(name, target) != 0) {
+    if (fault == FileFault::None &&
+        Call("rename", [&] { return ::rename(name.c_str(), target.c_str()); }) != 0) {
         fault = FaultOf(errno);
     }
     if (fault != FileFault::None) {
@@ -314,7 +338,7 @@ FileFault FilePlatform::LookAtOld(const fs::path& target, OldFile old, std::opti
     const int refused = writable ? 0 : errno;
     struct stat found
     {};
-    if (Stat(target, found) != 0) {
+    if (!Stat(target, found)) {
         const bool missing = errno == ENOENT;
         return missing && refused == ENOENT ? FileFault::None : FaultOf(missing ? refused : errno);
     }
@@ -339,9 +363,9 @@ FileFault FilePlatform::WriteNew(const fs::path& name, std::string_view content,
         return FaultOf(errno);
     }
     if (mode) {  // not every file system has permissions
-        ChangeMode(file.Get(), *mode);
+        Call("fchmod", [&] { return ::fchmod(file.Get(), *mode); });
     }
-    const bool good = WriteAll(file.Get(), content) && Sync(file.Get()) == 0 && file.Close();
+    const bool good = WriteAll(file.Get(), content) && Sync(file.Get()) && file.Close();
     return good ? FileFault::None : FaultOf(errno);
 }
 
@@ -349,7 +373,8 @@ FileFault FilePlatform::WriteNew(const fs::path& name, std::string_view content,
 bool FilePlatform::WriteAll(int file, std::string_view content)
 {
     while (!content.empty()) {
-        const ssize_t written = Write(file, content);
+        const ssize_t written =
+            Call("write", [&] { return ::write(file, content.data(), Portion(content.size())); });
         if (written <= 0) {
             errno = written < 0 ? errno : EIO;
             return false;
@@ -365,7 +390,8 @@ FileFault FilePlatform::KeepBeside(const fs::path& file, fs::path& kept)
 {
     for (int i = 1; i <= kMostKept; ++i) {
         const fs::path name = file.parent_path() / KeptName(file.filename().string(), i);
-        int error = Link(file, name) == 0 ? 0 : errno;
+        int error =
+            Call("link", [&] { return ::link(file.c_str(), name.c_str()); }) == 0 ? 0 : errno;
         if (error != 0 && error != EEXIST) {
             error = Copy(file, name);
         }
@@ -385,7 +411,7 @@ int FilePlatform::Copy(const fs::path& from, const fs::path& to)
     const Handle source = OpenFile(from, O_RDONLY);
     struct stat found
     {};
-    if (!source.Valid() || FileStat(source.Get(), found) != 0) {
+    if (!source.Valid() || !Stat(source, found)) {
         return errno;
     }
     Handle copy = OpenFile(to, O_WRONLY | O_CREAT | O_EXCL, found.st_mode & 0777U);
@@ -395,10 +421,10 @@ int FilePlatform::Copy(const fs::path& from, const fs::path& to)
     std::array<char, kBlock> block{};
     bool good = true;
     ssize_t got = 0;
-    while (good && (got = Read(source.Get(), block)) > 0) {
+    while (good && (got = Read(source, block)) > 0) {
         good = WriteAll(copy.Get(), {block.data(), static_cast<std::size_t>(got)});
     }
-    good = good && got == 0 && Sync(copy.Get()) == 0 && copy.Close();
+    good = good && got == 0 && Sync(copy.Get()) && copy.Close();
     const int error = good ? 0 : errno;
     if (!good) {
         Remove(to);
@@ -412,7 +438,8 @@ FileFault FilePlatform::FollowLinks(fs::path& path)
 {
     std::array<char, kBlock> next{};
     for (int i = 0; i < kMostLinks; ++i) {
-        const ssize_t length = ReadLink(path, next);
+        const ssize_t length =
+            Call("readlink", [&] { return ::readlink(path.c_str(), next.data(), next.size()); });
         if (length < 0) {
             const int error = errno;
             std::error_code none;
@@ -429,7 +456,8 @@ FileFault FilePlatform::FollowLinks(fs::path& path)
 bool FilePlatform::Locked(int folder)
 {
     for (int i = 0; i < kLockAttempts; ++i) {
-        if (Lock(folder) == 0 || errno != EWOULDBLOCK) {
+        const bool locked = Call("flock", [&] { return ::flock(folder, LOCK_EX | LOCK_NB); }) == 0;
+        if (locked || errno != EWOULDBLOCK) {
             return true;
         }
         std::this_thread::sleep_for(kLockWait);
@@ -446,13 +474,23 @@ FileFault FilePlatform::Opened(const Handle& file)
     }
     struct stat found
     {};
-    const bool regular = FileStat(file.Get(), found) == 0 && S_ISREG(found.st_mode);
+    const bool regular = Stat(file, found) && S_ISREG(found.st_mode);
     return regular ? FileFault::None : FileFault::PathAccess;
 }
 
 FilePlatform::Handle FilePlatform::OpenFile(const fs::path& path, int flags, mode_t mode)
 {
-    return {*this, Open(path, flags | kOpenFlags, mode)};
+    return {*this, Call("open", [&] { return ::open(path.c_str(), flags | kOpenFlags, mode); })};
+}
+
+bool FilePlatform::Stat(const Handle& file, struct stat& found)
+{
+    return Call("fstat", [&] { return ::fstat(file.Get(), &found); }) == 0;
+}
+
+ssize_t FilePlatform::Read(const Handle& file, std::span<char> block)
+{
+    return Call("read", [&] { return ::read(file.Get(), block.data(), block.size()); });
 }
 
 }  // namespace malvone

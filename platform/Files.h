@@ -2,10 +2,11 @@
 // sounds and open documents.
 #pragma once
 
-#include <sys/types.h>
+#include <sys/stat.h>
 
 #include <filesystem>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -57,6 +58,14 @@ private:
 
     std::optional<std::filesystem::path> root_;
     std::filesystem::path programFolder_;
+
+    // The calls that are made in several places; false leaves the reason in errno.
+    bool Stat(const std::filesystem::path& path, struct stat& found);
+    bool Stat(const Handle& file, struct stat& found);
+    bool MakeFolder(const std::filesystem::path& folder);
+    ssize_t Read(const Handle& file, std::span<char> block);
+    bool Sync(int file);
+    void Remove(const std::filesystem::path& path);
 
     mode_t KindOf(const std::filesystem::path& path);  // S_IFREG and its like; 0 for nothing
     bool IsFolder(const std::filesystem::path& path);
