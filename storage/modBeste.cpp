@@ -78,13 +78,12 @@ Liste ImFenster()
     return liste;
 }
 
-void InsFenster(const Liste& liste)
+void InsFenster(const std::vector<std::string>& zeilen)
 {
     frmBeste->lstName.Clear();
     frmBeste->lstPunkte.Clear();
-    for (const Eintrag& eintrag : liste) {
-        frmBeste->lstName.AddItem(eintrag.Name);
-        frmBeste->lstPunkte.AddItem(eintrag.Punkte);
+    for (std::size_t i = 0; i < zeilen.size(); ++i) {
+        (i < kPlaetze ? frmBeste->lstName : frmBeste->lstPunkte).AddItem(zeilen[i]);
     }
 }
 
@@ -134,7 +133,7 @@ std::vector<std::string> Vorgabe()
 // What saving makes of the file that it finds.
 struct Speicherung
 {
-    Liste Inhalt;  // of the file afterwards
+    std::vector<std::string> Zeilen;  // of the file afterwards
     OldFile Alte = OldFile::Goes;
     bool Eingetragen = true;                 // else the file stays as it is
     FileFault Lesefehler = FileFault::None;  // that the player is told
@@ -148,24 +147,24 @@ Speicherung WasZuSpeichernIst(const ReadLines& jetzt)
 {
     const bool ganz = jetzt.Fault == FileFault::None;
     if (jetzt == Beste.Datei) {
-        return {ImFenster(), ganz ? OldFile::Goes : OldFile::Kept};
+        return {InZeilen(ImFenster()), ganz ? OldFile::Goes : OldFile::Kept};
     }
     const bool geloescht = jetzt.Fault == FileFault::NotFound && !ExistiertDatei(BesteDatei());
     // By design (ungelesenes-bleibt): one would expect the new list in its place. A file that could
     // not be read whole is kept beside it. Test:
     // BesteSpeichern.AnEntryGoesIntoTheListThatIsThereNow
     if (!ganz && !geloescht) {
-        return {ImFenster(), OldFile::Kept, true, jetzt.Fault};
+        return {InZeilen(ImFenster()), OldFile::Kept, true, jetzt.Fault};
     }
     const Eintrag eintrag = ImFenster()[static_cast<std::size_t>(Beste.EintragPlatz)];
     const Liste andere = AusZeilen(geloescht ? Vorgabe() : jetzt.Lines);
     Liste rangliste = Rangliste(andere);
     const std::int16_t platz = PlatzFuer(Punktzahl(eintrag), rangliste);
     if (platz < 0) {
-        return {andere, OldFile::Goes, false};
+        return {InZeilen(andere), OldFile::Goes, false};
     }
     Einfuegen(eintrag, platz, rangliste);
-    return {rangliste};
+    return {InZeilen(rangliste)};
 }
 
 void LesefehlerMelden(FileFault fehler)
@@ -212,13 +211,8 @@ void BesteLoeschen()
 
 void BesteLesen()
 {
-    frmBeste->lstName.Clear();
-    frmBeste->lstPunkte.Clear();
     Beste.Datei = App.System().ReadTextLines(BesteDatei(), kZeilen);
-    for (std::size_t zeile = 0; zeile < Beste.Datei.Lines.size(); ++zeile) {
-        ListBox& liste = zeile < kPlaetze ? frmBeste->lstName : frmBeste->lstPunkte;
-        liste.AddItem(Beste.Datei.Lines[zeile]);
-    }
+    InsFenster(Beste.Datei.Lines);
     LesefehlerMelden(Beste.Datei.Fault);
 }
 
@@ -231,7 +225,7 @@ void BesteSpeichern()
             if (!neu->Eingetragen) {
                 return std::nullopt;
             }
-            return NewFile{InZeilen(neu->Inhalt), neu->Alte};
+            return NewFile{neu->Zeilen, neu->Alte};
         });
     if (fehler != FileFault::None) {
         MeldungZeigen(kNichtGespeichert);
@@ -240,8 +234,8 @@ void BesteSpeichern()
     if (!neu) {
         return;
     }
-    InsFenster(neu->Inhalt);
-    Beste.Datei = FirstLines(FileContent(InZeilen(neu->Inhalt)), kZeilen);
+    InsFenster(neu->Zeilen);
+    Beste.Datei = FirstLines(FileContent(neu->Zeilen), kZeilen);
     LesefehlerMelden(neu->Lesefehler);
     if (!neu->Eingetragen) {
         MeldungZeigen(kKeinEintrag);
@@ -252,7 +246,7 @@ void BesteEintragen(std::int16_t platz)
 {
     Liste liste = Rangliste(ImFenster());
     Einfuegen({kNeuerName, std::to_string(Beste.EndPunkte)}, platz, liste);
-    InsFenster(liste);
+    InsFenster(InZeilen(liste));
     frmBeste->Move(frmTessel->Left - kVersatz, frmTessel->Top - kVersatz);
     frmBeste->Show(ShowMode::Modal);
 }
