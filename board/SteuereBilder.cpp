@@ -13,8 +13,7 @@
 namespace malvone {
 namespace {
 
-constexpr Colour kDunkelblau = 0x00C00000;
-constexpr Colour kRot = 255;
+constexpr Colour kRot = Rgb(0xFF0000);
 
 bool HatFarbe(int zelle, std::int16_t farbe)
 {

@@ -4,7 +4,11 @@
 
 #include <cstdint>
 
+#include "ui/layer/Units.h"
+
 namespace malvone {
+
+inline constexpr Colour kDunkelblau = Rgb(0x0000C0);  // of the line that says what a move is worth
 
 // The value of a cell, 1 to 140: 0 empty, 1 to 4 a stone.
 std::int32_t Zellwert(int zelle);

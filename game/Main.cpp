@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "board/SteuereBilder.h"
 #include "board/iniTessel.h"
 #include "game/NeuesSpiel.h"
 #include "state/Beste.h"
@@ -102,7 +103,7 @@ void FrmTessel::Form_Load()
 {
     Move((Screen.Width - Width) / 2, (Screen.Height - Height) / 2);
     WiederholenAnbieten(false);
-    lblSumme.ForeColor = 0x00C00000;
+    lblSumme.ForeColor = kDunkelblau;
     Timer1.Enabled = true;
     Timer1.Interval = kBlinkenMs;
     imgNext.Picture = frmBilder->imgPfeil(kPfeilLeer).Picture;

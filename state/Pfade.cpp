@@ -5,8 +5,6 @@
 
 namespace malvone {
 
-Datenlage Daten;
-
 std::string MitBackslash(std::string pfad)
 {
     if (!pfad.ends_with('\\')) {

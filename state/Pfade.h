@@ -16,7 +16,7 @@ struct Datenlage
         False;  // True, once there is a Windows folder: DatenPfad gives DatenOrdner
 };
 
-extern Datenlage Daten;
+inline Datenlage Daten;
 
 std::string MitBackslash(std::string pfad);
 // The folder of the program file, always with a backslash at its end.

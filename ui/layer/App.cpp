@@ -12,8 +12,6 @@ Application App;
 Application::Application() : Major(kVersionMajor), Minor(kVersionMinor), Revision(kVersionRevision)
 {}
 
-Application::~Application() = default;
-
 void Application::Begin(malvone::Binding& binding, Platform& platform)
 {
     Finish();
@@ -129,7 +127,7 @@ bool RaiseClose(Window& window)
         return false;
     }
     const EventScope scope;
-    window.Close();
+    window.Unload(UnloadMode::TitleBar);
     return true;
 }
 

@@ -22,7 +22,6 @@ public:
     const std::int16_t Revision;
 
     Application();
-    ~Application();
     Application(const Application&) = delete;
     Application& operator=(const Application&) = delete;
 

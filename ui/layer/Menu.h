@@ -19,7 +19,10 @@ public:
     MenuEntry* Parent() const { return parent_; }
     bool Separator() const { return Caption.Get() == "-"; }
     // An entry works if it and all entries above it are enabled.
-    bool Reachable() const override;
+    bool Reachable() const override
+    {
+        return Control::Reachable() && (parent_ == nullptr || parent_->Reachable());
+    }
 
 private:
     MenuEntry* parent_;

@@ -91,8 +91,6 @@ public:
     void Hide();
     // Asks Form_QueryUnload, then Form_Unload, then takes the window away. False: it was refused.
     bool Unload(UnloadMode mode = UnloadMode::Code);
-    // What the close box of the title bar does.
-    bool Close() { return Unload(UnloadMode::TitleBar); }
 
     // False for a window that has been taken away and waits for its destruction.
     bool Loaded() const { return instance_ != nullptr; }

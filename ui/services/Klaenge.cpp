@@ -9,8 +9,6 @@
 
 namespace malvone {
 
-std::array<std::string, kToene> SoundDateien;
-
 namespace {
 
 constexpr const char* kDateien[kToene] = {

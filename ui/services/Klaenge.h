@@ -7,17 +7,17 @@
 namespace malvone {
 
 // The sounds by their index in the list.
-inline constexpr int kTonErfolg = 0;    // TADA.WAV
-inline constexpr int kTonEntfernt = 1;  // WHOOSH.WAV
-inline constexpr int kTonBeginn = 2;    // CHIMES.WAV
-inline constexpr int kTonFrage = 3;     // FRAGE.WAV
-inline constexpr int kTonFehler = 4;    // FEHLER.WAV
-inline constexpr int kTonPiep = 5;      // BLIP.WAV, not used
-inline constexpr int kTonHinweis = 6;   // ding.wav
+inline constexpr int kTonErfolg = 0;
+inline constexpr int kTonEntfernt = 1;
+inline constexpr int kTonBeginn = 2;
+inline constexpr int kTonFrage = 3;
+inline constexpr int kTonFehler = 4;
+inline constexpr int kTonPiep = 5;  // not used
+inline constexpr int kTonHinweis = 6;
 inline constexpr int kToene = 7;
 
 // The full paths of the sounds, as the game writes paths; empty where the file is missing.
-extern std::array<std::string, kToene> SoundDateien;
+inline std::array<std::string, kToene> SoundDateien;
 
 // Fills the list; the entry of a missing file stays empty.
 void SoundListeAnlegen();

@@ -11,8 +11,6 @@
 
 namespace malvone {
 
-std::int16_t MsgAntwort = 0;
-
 namespace {
 
 constexpr const char* kHandbuch = "Meldefenster.pdf";

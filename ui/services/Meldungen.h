@@ -14,7 +14,7 @@ inline constexpr std::int16_t kAntwortNein = 2;
 inline constexpr std::int16_t kAntwortGeschlossen = 3;  // closed without an answer
 
 // The last answer of frmMsgJa, 0 before the first. It is not reset before a question.
-extern std::int16_t MsgAntwort;
+inline std::int16_t MsgAntwort = 0;
 
 // Where a message opens, in twips from the corner of frmTessel. Without it, it opens centred.
 struct Versatz
