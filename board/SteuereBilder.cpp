@@ -15,38 +15,24 @@ namespace {
 
 constexpr Colour kRot = Rgb(0xFF0000);
 
-bool HatFarbe(int zelle, std::int16_t farbe)
+// Returns whether the cell has the colour, be it newly marked or not.
+bool MarkierenWennFarbe(int zelle, std::int16_t farbe)
 {
-    return Zellwert(zelle) == farbe;
-}
-
-void MarkierenWennFarbe(int zelle, std::int16_t farbe)
-{
-    if (HatFarbe(zelle, farbe)) {
-        Satz(zelle).Markiert = True;
-    }
-}
-
-// The tests to the sides mark the neighbour if it has the colour. They return whether it has, be it
-// newly marked or not.
-bool RechtsPruefen(int zelle, std::int16_t farbe)
-{
-    const int rechts = zelle + kReihen;
-    if (rechts > kZellen || !HatFarbe(rechts, farbe)) {
+    if (Zellwert(zelle) != farbe) {
         return false;
     }
-    Satz(rechts).Markiert = True;
+    Satz(zelle).Markiert = True;
     return true;
+}
+
+bool RechtsPruefen(int zelle, std::int16_t farbe)
+{
+    return zelle <= kZellen - kReihen && MarkierenWennFarbe(zelle + kReihen, farbe);
 }
 
 bool LinksPruefen(int zelle, std::int16_t farbe)
 {
-    const int links = zelle - kReihen;
-    if (links < 1 || !HatFarbe(links, farbe)) {
-        return false;
-    }
-    Satz(links).Markiert = True;
-    return true;
+    return zelle > kReihen && MarkierenWennFarbe(zelle - kReihen, farbe);
 }
 
 // A direction within a column: a step, and the edge at which it ends.
