@@ -1,4 +1,4 @@
-// QtBinding.cpp: windows come, go and wait.
+// QtBinding.cpp: does with widgets what the layer says of its windows.
 #include "ui/qt/QtBinding.h"
 
 #include <QApplication>

@@ -1,4 +1,4 @@
-// Accessibility.cpp: the hook into Qt's accessibility, and the moment at which changes are told.
+// Accessibility.cpp: the hook into Qt's accessibility, and when changes are announced.
 #include "ui/qt/accessibility/Accessibility.h"
 
 #include <QAccessible>
@@ -50,7 +50,7 @@ void ScreenReader::Follow(FormWidget& form, Change what)
     }
 }
 
-// The news is taken even if nobody listens, so that a later listener hears no old one. Asking for
+// The news is taken even if nobody listens, so that nobody hears it much later. Asking for
 // listeners calls the session bus, so it waits until a window has been shown.
 void ScreenReader::Tell()
 {

@@ -174,7 +174,7 @@ QAccessible::Role AccessibleForm::role() const
     return window != nullptr && window->Modal() ? QAccessible::Dialog : QAccessible::Window;
 }
 
-// A text box that no key reaches is told with its points.
+// A text box that cannot be typed into is read together with its points.
 bool AccessibleForm::IsReadable(const Node& node)
 {
     return node.Id != 0 || IsSpokenNow(node.Part);

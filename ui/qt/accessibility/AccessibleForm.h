@@ -84,9 +84,9 @@ public:
     QAccessible::Role role() const override;
 
     void Announce(const QString& words);
-    // Tells what has been renamed, has come or has gone since the last call, and where the arrow
-    // keys have led. Tells at most `names` names besides that place's; returns whether more are
-    // left.
+    // Announces what has been renamed, has come or has gone since the last call, and where the
+    // arrow keys have led. Announces at most `names` names besides that of this place; returns
+    // whether more are left.
     bool TellChanges(int names);
 
 private:

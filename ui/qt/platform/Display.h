@@ -7,7 +7,7 @@ namespace malvone::qt {
 
 constexpr int kNoDisplay = 1;  // the program's status where there is no display to play on
 
-// Why no window can be opened, in the player's words; null: nothing is known against it.
+// Why no window can be opened, in the player's words; null if nothing stands in the way.
 const char* WhyNoDisplay();
 // Says so on standard error, in one line.
 void TellNoDisplay(const char* why);

@@ -109,7 +109,7 @@ void WindowStack::HideAll()
     }
 }
 
-// A window that goes would leave the keyboard to nobody where no window manager sees to it.
+// Without a window manager nobody gives the keyboard to another window when one goes away.
 void WindowStack::HandOnKeyboard(const FormWidget& from)
 {
     if (!from.isActiveWindow()) {
@@ -155,7 +155,7 @@ void WindowStack::Activated(const FormWidget& form)
 }
 
 // A backdrop that comes to the front gives it back; without a modal window the game itself does so.
-// But it may be in front because all other windows are leaving.
+// But it may be in front only because all other windows are being minimised.
 void WindowStack::BackdropActivated()
 {
     FormWidget* const main = MainForm();
