@@ -62,17 +62,8 @@ QPalette Colours(const TextBox& model)
 
 bool IsInput(const QEvent& event)
 {
-    switch (event.type()) {
-    case QEvent::MouseButtonPress:
-    case QEvent::MouseButtonRelease:
-    case QEvent::MouseButtonDblClick:
-    case QEvent::MouseMove:
-    case QEvent::KeyPress:
-    case QEvent::InputMethod:
-    case QEvent::DragEnter:
-    case QEvent::Drop: return true;
-    default: return false;
-    }
+    return event.isInputEvent() || event.type() == QEvent::InputMethod ||
+           event.type() == QEvent::DragEnter || event.type() == QEvent::Drop;
 }
 
 // Qt would type the letter of an unknown command such as Alt+A, over a selected name if there is

@@ -47,8 +47,6 @@ FormWidget::FormWidget(Window& window, ShowMode mode, PictureStore& pictures, do
     Follow(Change::Text);
 }
 
-FormWidget::~FormWidget() = default;
-
 void FormWidget::SetFactor(double factor)
 {
     sizing_.SetFactor(factor);

@@ -21,7 +21,6 @@ class FormWidget final : public QWidget
 public:
     // `factor` is the main window's, which all windows of a fixed size share.
     FormWidget(Window& window, ShowMode mode, PictureStore& pictures, double factor);
-    ~FormWidget() override;
 
     // Null once the window has been unloaded. The widget takes no event then and waits to be
     // deleted.

@@ -45,8 +45,8 @@ void ShowShortcut(QAction& action, Key key)
     action.setShortcutContext(Qt::WidgetShortcut);
 }
 
-// The desktop's own style without that icon, and without the gap of a pixel that fine screens show
-// in the line below the menu bar at the end of each entry.
+// The desktop's own style without the icon of that button, and without the gap of a pixel that fine
+// screens show at the end of each entry in the line below the menu bar.
 class MenuStyle final : public QProxyStyle
 {
 public:
@@ -178,20 +178,7 @@ bool MenuBar::Shut() const
 
 bool MenuBar::event(QEvent* event)
 {
-    switch (event->type()) {
-    case QEvent::MouseButtonPress:
-    case QEvent::MouseButtonDblClick:
-    case QEvent::MouseButtonRelease:
-    case QEvent::MouseMove:
-    case QEvent::HoverMove:
-    case QEvent::KeyPress:
-        if (Shut()) {
-            return true;
-        }
-        break;
-    default: break;
-    }
-    return QMenuBar::event(event);
+    return (event->isInputEvent() && Shut()) || QMenuBar::event(event);
 }
 
 bool MenuBar::eventFilter(QObject* object, QEvent* event)

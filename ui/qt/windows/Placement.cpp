@@ -37,7 +37,7 @@ QPoint CornerOf(const Window& window)
 void Placement::ToScreen()
 {
     if (!telling_) {
-        widget_.move(ScreenCorner() + CornerOf(window_));
+        widget_.move(Outer().topLeft());
     }
 }
 
@@ -87,10 +87,9 @@ void Placement::KeepCentred(const QMargins& frame)
     if (std::abs(off.x()) > 1 || std::abs(off.y()) > 1) {
         return;
     }
-    const QScopedValueRollback guard(telling_, true);
     window_.Left = window_.Left - ToTwips(frame.left() + frame.right()) / 2;
     window_.Top = window_.Top - ToTwips(frame.top() + frame.bottom()) / 2;
-    widget_.move(ScreenCorner() + CornerOf(window_));
+    widget_.move(Outer().topLeft());
 }
 
 void Placement::FromScreen()
@@ -99,16 +98,13 @@ void Placement::FromScreen()
     if (handle == nullptr || !widget_.isVisible()) {
         return;
     }
+    const QScopedValueRollback guard(telling_, true);
+    const QPoint corner = handle->framePosition() - ScreenCorner();
     if (!framed_ && IsFrame(handle->frameMargins())) {
         framed_ = true;
         KeepCentred(handle->frameMargins());
-        TellSize();
-        return;
-    }
-    const QScopedValueRollback guard(telling_, true);
-    const QPoint corner = handle->framePosition() - ScreenCorner();
-    // The model may lie between two pixels; that alone is no move.
-    if (WindowsCanBePlaced() && corner != CornerOf(window_)) {
+    } else if (WindowsCanBePlaced() && corner != CornerOf(window_)) {
+        // A model that only lies between two pixels has not been moved.
         window_.Left = ToTwips(corner.x());
         window_.Top = ToTwips(corner.y());
     }
