@@ -185,6 +185,11 @@ void WindowStack::ComeForward()
         backdrop_->setWindowStates(backdrop_->windowStates() & ~Qt::WindowMinimized);
         backdrop_->raise();
     }
+    FormWidget* const key = FormOf(App.KeyWindow());
+    if (key != nullptr && !WindowsCanBePlaced()) {
+        key->ToFront();  // takes the later start's token, which is good for one window only
+        return;
+    }
     BringToFront();
     for (const FormWidget* const form : forms_) {
         if (form->isVisible()) {
