@@ -16,8 +16,10 @@ MENU_BAR = (30, -10)
 def refuses_without_display():
     env = {key: value for key, value in os.environ.items()
            if key not in ("DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM")}
-    for extra in ({}, {"DISPLAY": ":4711"}, {"DISPLAY": ":4711", "QT_QPA_PLATFORM": "xcb"}):
-        run = subprocess.run([os.path.join(BUILD, "malvone")], env={**env, **extra},
+    few_colours = ["xvfb-run", "-a", "-s", "-screen 0 640x480x8"]
+    for server, extra in (([], {}), ([], {"DISPLAY": ":4711"}), ([], {"QT_QPA_PLATFORM": "none"}),
+                          (few_colours, {}), (few_colours, {"QT_QPA_PLATFORM": "xcb"})):
+        run = subprocess.run([*server, os.path.join(BUILD, "malvone")], env={**env, **extra},
                              capture_output=True, text=True, timeout=60)
         expect(run.returncode == 1, f"exit status {run.returncode} without a display")
         expect(run.stderr.count("\n") == 1 and "Bildschirm" in run.stderr, "one line: " + run.stderr)

@@ -80,7 +80,9 @@ bool WaylandReachable()
 
 const char* WhyNoDisplay()
 {
-    if (!qEnvironmentVariableIsEmpty(kPlatform) || X11() == Reached::Yes || WaylandReachable()) {
+    const QByteArray chosen = qgetenv(kPlatform);
+    const bool any = chosen.isEmpty();
+    if ((!any && chosen != "xcb") || X11() == Reached::Yes || (any && WaylandReachable())) {
         return nullptr;
     }
     return X11() == Reached::WithFewColours
