@@ -10,7 +10,8 @@ enum class BackdropManner {
     FullScreen,   // the manager shows other windows above a full-screen one
     ScreenSized,  // a plain window of the screen's size
     // By design (kacheln-ohne-hintergrund): one would expect a backdrop everywhere. Where windows
-    // are tiled, it would take room from the game, or hide it. Test: display.qt.managers_e2e
+    // are tiled, and on Wayland itself, it would take room from the game, or hide it.
+    // Test: display.qt.managers_e2e
     None,
 };
 

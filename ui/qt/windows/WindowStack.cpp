@@ -45,11 +45,10 @@ void WindowStack::Add(FormWidget& form)
     connect(&form, &FormWidget::Activated, this, [this, &form] { Activated(form); });
 }
 
-// The window that a form stays above: for a modal one the form that was modal before it, or the
-// main window; on Wayland, where only the compositor stacks windows, the backdrop for the rest.
+// The window that a modal form stays above: the one that was modal before it, or the main window.
 QWindow* WindowStack::ParentOf(const FormWidget& form, ShowMode mode) const
 {
-    QWindow* parent = WindowsCanBePlaced() ? nullptr : backdrop_.get();
+    QWindow* parent = nullptr;
     for (const FormWidget* const other : forms_) {
         if (mode == ShowMode::Modal && other != &form && other->Model()->Shown() &&
             other->isVisible()) {
