@@ -54,6 +54,11 @@ FormWidget& QtBinding::Make(Window& window, ShowMode mode)
     auto* const form = new FormWidget(window, mode, pictures_, Factor());
     windows_.Add(*form);
     QObject::connect(form, &FormWidget::Painted, [this, form] { Painted(*form); });
+    QObject::connect(form, &FormWidget::Activated, [this, form] {
+        if (form->Model()->Role == WindowRole::Message) {
+            reader_.Follow(*form, Change::Text);
+        }
+    });
     // Runs after Qt has handled the event. A question asked inside it would leave the window
     // closing for Qt, which would let the next request destroy it.
     QObject::connect(

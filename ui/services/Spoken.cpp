@@ -47,8 +47,7 @@ std::vector<Spoken> On(FrmMsgOk& window)
 {
     using enum SpokenKind;
     return {
-        {Words, &window.lblMeldung},
-        {Words, &window.lblTitel},
+        {Words, &window.lblMeldung, {}, nullptr, &window.lblTitel},
         {Button, &window.lblOk, "OK"},
         {Button, &window.Image2, "schließen"},
     };
@@ -58,8 +57,9 @@ std::vector<Spoken> On(FrmMsgJa& window)
 {
     using enum SpokenKind;
     return {
-        {Words, &window.lblMeldung},           {Words, &window.lblTitel},
-        {Button, &window.lblNein, "Nein"},     {Button, &window.lblJa, "Ja"},
+        {Words, &window.lblMeldung, {}, nullptr, &window.lblTitel},
+        {Button, &window.lblNein, "Nein"},
+        {Button, &window.lblJa, "Ja"},
         {Button, &window.Image1, "schließen"},
     };
 }
@@ -85,17 +85,12 @@ std::string OneLine(std::string_view text)
 {
     std::string line;
     for (const char c : text) {
-        const bool blank = c == ' ' || c == '\r' || c == '\n';
-        if (!blank) {
-            line += c;
-        } else if (!line.empty() && line.back() != ' ') {
-            line += ' ';
+        const char next = c == '\r' || c == '\n' ? ' ' : c;
+        if (next != ' ' || (!line.empty() && line.back() != ' ')) {
+            line += next;
         }
     }
-    while (!line.empty() && line.back() == ' ') {
-        line.pop_back();
-    }
-    return line;
+    return line.substr(0, line.find_last_not_of(' ') + 1);
 }
 
 std::string CellName(const Visual& cell)
@@ -118,9 +113,10 @@ std::span<Image* const> Spoken::Digits() const
     return Display == nullptr ? std::span<Image* const>() : Display->Stellen();
 }
 
-bool Spoken::TellsOwner() const
+bool Spoken::TellsWith() const
 {
-    return Owner != nullptr && Owner->Locked;
+    const auto* const box = dynamic_cast<const TextBox*>(With);
+    return With != nullptr && (box == nullptr || box->Locked);
 }
 
 std::vector<Spoken> SpokenOn(const Window& window)
@@ -144,15 +140,16 @@ std::string NameOf(const Spoken& spoken)
     }
     if (const auto* const label = dynamic_cast<const Label*>(spoken.Where);
         label != nullptr && spoken.Painted.empty()) {
-        return OneLine(label->Caption.Get());
+        const auto* const more = dynamic_cast<const Label*>(spoken.With);
+        return OneLine(label->Caption.Get() + (more == nullptr ? "" : " " + more->Caption.Get()));
     }
     if (spoken.Display == nullptr) {
         const auto* const box = dynamic_cast<const TextBox*>(spoken.Where);
         return box != nullptr && box->Locked ? std::string() : spoken.Painted;
     }
     const std::string number = spoken.Display->Gezeigt();
-    if (spoken.Owner != nullptr) {
-        const std::string name = spoken.TellsOwner() ? spoken.Owner->Text.Get() : std::string();
+    if (const auto* const owner = dynamic_cast<const TextBox*>(spoken.With)) {
+        const std::string name = spoken.TellsWith() ? owner->Text.Get() : std::string();
         return spoken.Painted + ": " + (name.empty() ? "" : name + ", ") +
                (number.empty() ? "keine" : number) + (number == "1" ? " Punkt" : " Punkte");
     }

@@ -33,12 +33,12 @@ struct Spoken
     Visual* Where = nullptr;   // where it stands on the window, and what a press presses
     std::string Painted = {};  // the words in its picture; empty: it has a caption
     const Ziffernreihe* Display = nullptr;  // the row of digits that it names
-    const TextBox* Owner = nullptr;         // whose points the row shows; null where it has none
+    Visual* With = nullptr;  // the box of whose points the row shows; the rest of a message
 
     // The places of the row, from the units upward; empty where it is none.
     std::span<Image* const> Digits() const;
-    // Whether the row's name includes the owner's: a locked text box has none of its own.
-    bool TellsOwner() const;
+    // Whether that is told here alone: a text box tells itself, unless it is locked.
+    bool TellsWith() const;
 };
 
 // Everything on a window that has words, in reading order. Empty for the backdrop.

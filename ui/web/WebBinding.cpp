@@ -111,6 +111,9 @@ void WebBinding::WindowShown(Window& window, ShowMode /*mode*/)
     KeepOnScreen(window);
     for (const Spoken& spoken : SpokenOn(window)) {
         ControlChanged(*spoken.Where, Change::Geometry);
+        if (spoken.With != nullptr) {
+            ControlChanged(*spoken.With, Change::Geometry);
+        }
     }
     for (Control* const control : window.Controls()) {
         ControlChanged(*control, Change::Geometry);

@@ -1,6 +1,7 @@
 // AccessibleForm.cpp: the tree behind the painted windows.
 #include "ui/qt/accessibility/AccessibleForm.h"
 
+#include <QGuiApplication>
 #include <QMenuBar>
 #include <algorithm>
 #include <utility>
@@ -17,6 +18,13 @@ namespace {
 Window* ModelOf(const FormWidget* form)
 {
     return form != nullptr ? form->Model() : nullptr;
+}
+
+// Where the arrow keys have led; in a message, the words.
+const Visual* PlaceOn(const Window& window)
+{
+    return window.Role == WindowRole::Message ? SpokenOn(window).front().Where
+                                              : window.Highlighted();
 }
 
 void Tell(QAccessibleInterface* who, QAccessible::Event what)
@@ -56,14 +64,20 @@ QRect AccessiblePart::rect() const
     for (const Image* const digit : part_.Digits()) {
         place |= digit->Visible ? PlaceOf(*digit) : QRectF();
     }
-    place |= part_.TellsOwner() ? PlaceOf(*part_.Owner) : QRectF();
+    place |= part_.TellsWith() ? PlaceOf(*part_.With) : QRectF();
     const QRect pixels = OnScreen(form->DesignScale().ToWindow(place), 1);
     return {form->mapToGlobal(pixels.topLeft()), pixels.size()};
 }
 
+// Orca reads the labels of a window that becomes active, unless a press of the mouse has opened it.
+// So the words of a message are no label, but have the focus, and it reads what has the focus.
 QAccessible::Role AccessiblePart::role() const
 {
-    return Pressable() ? QAccessible::Button : QAccessible::StaticText;
+    const Window* const window = ModelOf(form_);
+    const bool message = window != nullptr && window->Role == WindowRole::Message;
+    return Pressable() ? QAccessible::Button
+           : message   ? QAccessible::Paragraph
+                       : QAccessible::StaticText;
 }
 
 QAccessible::State AccessiblePart::state() const
@@ -77,7 +91,7 @@ QAccessible::State AccessiblePart::state() const
     state.disabled = !part_.Where->Enabled;
     state.invisible = !IsSpokenNow(part_);
     state.focusable = part_.Where->ByArrows;
-    state.focused = part_.Where == window->Highlighted() && form_->isActiveWindow();
+    state.focused = part_.Where == PlaceOn(*window) && form_->isActiveWindow();
     return state;
 }
 
@@ -165,6 +179,16 @@ QString AccessibleForm::text(QAccessible::Text kind) const
                                                           : QAccessibleWidget::text(kind);
 }
 
+// Qt tells that a window has got the keyboard before it calls the window active. Taken at its word,
+// it would tell that the main window goes when it comes back, and Orca would stop speaking.
+QAccessible::State AccessibleForm::state() const
+{
+    QAccessible::State state = QAccessibleWidget::state();
+    const QWindow* const focus = QGuiApplication::focusWindow();
+    state.active = state.active || (focus != nullptr && focus == Form()->windowHandle());
+    return state;
+}
+
 QAccessible::Role AccessibleForm::role() const
 {
     const Window* const window = ModelOf(Form());
@@ -192,7 +216,7 @@ QAccessibleInterface* AccessibleForm::InterfaceOf(const Visual* visual) const
     const auto found = std::find_if(nodes.begin(), nodes.end(), [visual](const Node& node) {
         const std::span<Image* const> digits = node.Part.Digits();
         return (node.Part.Where == visual && IsReadable(node)) ||
-               (node.Part.TellsOwner() && node.Part.Owner == visual) ||
+               (node.Part.TellsWith() && node.Part.With == visual) ||
                std::find(digits.begin(), digits.end(), visual) != digits.end();
     });
     return visual == nullptr || found == nodes.end() ? nullptr : InterfaceOf(*found);
@@ -246,9 +270,8 @@ QAccessibleInterface* AccessibleForm::childAt(int x, int y) const
 QAccessibleInterface* AccessibleForm::focusChild() const
 {
     const Window* const window = ModelOf(Form());
-    QAccessibleInterface* const place = window != nullptr && Form()->isActiveWindow()
-                                            ? InterfaceOf(window->Highlighted())
-                                            : nullptr;
+    QAccessibleInterface* const place =
+        window != nullptr && Form()->isActiveWindow() ? InterfaceOf(PlaceOn(*window)) : nullptr;
     return place != nullptr ? place : QAccessibleWidget::focusChild();
 }
 
@@ -264,7 +287,7 @@ void AccessibleForm::Announce(const QString& words)
 bool AccessibleForm::TellChanges(int names)
 {
     bool more = false;
-    const Visual* const place = Form()->Model()->Highlighted();
+    const Visual* const place = PlaceOn(*Form()->Model());
     for (Node& node : Nodes()) {
         if (node.Id == 0) {
             continue;
@@ -281,7 +304,8 @@ bool AccessibleForm::TellChanges(int names)
             Tell(InterfaceOf(node), seen ? QAccessible::ObjectShow : QAccessible::ObjectHide);
         }
     }
-    if (std::exchange(place_, place) != place) {
+    const bool elsewhere = std::exchange(place_, place) != place;
+    if (role() == QAccessible::AlertMessage ? Form()->isActiveWindow() : elsewhere) {
         QAccessibleInterface* const part = InterfaceOf(place);
         Tell(part != nullptr ? part : this, QAccessible::Focus);
     }

@@ -82,6 +82,7 @@ public:
     int indexOfChild(const QAccessibleInterface* child) const override;
     QAccessibleInterface* focusChild() const override;
     QAccessible::Role role() const override;
+    QAccessible::State state() const override;
 
     void Announce(const QString& words);
     // Announces what has been renamed, has come or has gone since the last call, and where the
