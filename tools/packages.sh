@@ -12,7 +12,7 @@ play_packages=(
 check_packages=(
     git clang clang-format clang-tidy "libclang-rt-dev|libclang-rt-14-dev"
     libgtest-dev libbenchmark-dev
-    xvfb xauth openbox fluxbox i3-wm xdotool x11-utils imagemagick
+    xvfb xauth openbox fluxbox fvwm3 i3-wm xdotool x11-utils imagemagick
     pulseaudio pulseaudio-utils chromium firefox-esr webkit2gtk-driver
     at-spi2-core dbus python3-pyatspi
     python3-fonttools poppler-utils

@@ -49,14 +49,6 @@ def hover_and_move(game):
     expect(game.look(*BOARD) != plain, "the stones have gone")
 
 
-def centred(game):
-    box, main = game.desktop.place(game.message()), game.desktop.place(game.main)
-    frame = 24  # the title bar counts as a part of the main window
-    across = abs(2 * box[0] + box[2] - 2 * main[0] - main[2])
-    down = abs(2 * box[1] + box[3] - 2 * main[1] - main[3])
-    return across <= 6 and down <= 2 * frame
-
-
 def message_by_pointer_and_key(game):
     game.point(MARGIN)
     game.key("ctrl+e")
@@ -66,7 +58,7 @@ def message_by_pointer_and_key(game):
     board = game.look(*BOARD)
     game.click(LEAVE)
     window = game.message()
-    expect(centred(game), "the question is centred over the main window")
+    expect(game.centred(window), "the question is centred over the main window")
     # Enter and Space leave the question open, and the main window is deaf: once the question has
     # answered a press of the pointer, it has been the only one.
     game.key("Return", "space")
@@ -89,7 +81,7 @@ def move_main_window(game):
 
 def opens_centred(game):
     game.key("ctrl+e")
-    right = centred(game)
+    right = game.centred(game.message())
     game.key("Escape")
     game.no_message()
     return right

@@ -206,6 +206,13 @@ class Game:
     def open_messages(self):
         return self.desktop.windows(MESSAGE)
 
+    def centred(self, message):
+        """Whether a message lies over the middle of the main window."""
+        box, main = self.desktop.place(message), self.desktop.place(self.main)
+        across, down = (2 * box[i] + box[i + 2] - 2 * main[i] - main[i + 2] for i in (0, 1))
+        # The title bar counts as a part of the main window.
+        return abs(across) <= 6 and -30 <= down <= 6
+
     def no_message(self):
         until(lambda: not self.open_messages(), "the message window to close")
 

@@ -76,12 +76,17 @@ void FormWidget::Present(QWindow* below)
 {
     if (!isVisible()) {
         // Until its frame is known, an existing native window takes its position for that of the
-        // client area. So each show begins with a new one.
-        destroy();
+        // client area, and so does a widget that remembers a frame. So each show begins like the
+        // first, with a new window and no frame.
+        if (windowHandle() != nullptr) {
+            destroy();
+            setParent(nullptr, windowFlags());
+        }
         placement_.OntoScreen();
         placement_.ToScreen();
         winId();
         windowHandle()->setTransientParent(below);
+        windowHandle()->setBaseSize(baseSize());
         if (!window_->ShowInTaskbar) {
             KeepOffTaskBar(winId());
         }

@@ -14,6 +14,9 @@
 namespace malvone::qt {
 namespace {
 
+// Long enough for a manager's first answer, too short for a player to move the window.
+constexpr int kInsistMs = 400;
+
 QPoint ScreenCorner()
 {
     return QGuiApplication::primaryScreen()->geometry().topLeft();
@@ -37,6 +40,7 @@ QPoint CornerOf(const Window& window)
 void Placement::ToScreen()
 {
     if (!telling_) {
+        insisting_ = QDeadlineTimer(widget_.isVisible() ? 0 : kInsistMs);
         widget_.move(Outer().topLeft());
     }
 }
@@ -79,11 +83,13 @@ void Placement::OntoScreen()
     }
 }
 
-// A window is centred on the screen before its frame is known.
+// A window is centred on the screen, or over another one, before its frame is known.
 void Placement::KeepCentred(const QMargins& frame)
 {
-    const QRect screen = QGuiApplication::primaryScreen()->geometry();
-    const QPoint off = Outer().center() - screen.center();
+    const QWindow* const below = widget_.windowHandle()->transientParent();
+    const QRect around =
+        below != nullptr ? below->frameGeometry() : QGuiApplication::primaryScreen()->geometry();
+    const QPoint off = Outer().center() - around.center();
     if (std::abs(off.x()) > 1 || std::abs(off.y()) > 1) {
         return;
     }
@@ -100,9 +106,14 @@ void Placement::FromScreen()
     }
     const QScopedValueRollback guard(telling_, true);
     const QPoint corner = handle->framePosition() - ScreenCorner();
+    const bool insists = !insisting_.hasExpired() && handle->frameMargins().isNull() &&
+                         QGuiApplication::mouseButtons() == Qt::NoButton;
     if (!framed_ && IsFrame(handle->frameMargins())) {
         framed_ = true;
         KeepCentred(handle->frameMargins());
+    } else if (insists && corner != CornerOf(window_)) {
+        insisting_ = QDeadlineTimer();
+        widget_.move(Outer().topLeft());
     } else if (WindowsCanBePlaced() && corner != CornerOf(window_)) {
         // A model that only lies between two pixels has not been moved.
         window_.Left = ToTwips(corner.x());

@@ -1,6 +1,7 @@
 // Placement.h: keeps a window's place in the model and on the screen the same.
 #pragma once
 
+#include <QDeadlineTimer>
 #include <QMargins>
 #include <QRect>
 #include <QSize>
@@ -36,6 +37,9 @@ private:
     Window& window_;
     bool telling_ = false;
     bool framed_ = false;  // the frame is known
+    // A new window insists on its place, once: i3 moves one without a frame by the frame that it
+    // does not get.
+    QDeadlineTimer insisting_;
 
     QRect Outer() const;
     void KeepCentred(const QMargins& frame);

@@ -52,6 +52,8 @@ void Sizing::LayOut()
 
 void Sizing::SetFactor(double factor)
 {
+    // Between whole ratios Qt asks for sizes in steps of more than a pixel: counted from this size.
+    form_.setBaseSize(SizeAt(factor));
     if (window_.BorderStyle == Border::Sizable) {
         form_.setMinimumSize(SizeAt(kSmallestFactor));
         form_.resize(SizeAt(factor));
