@@ -74,6 +74,9 @@ function(malvone_script_tests LABEL)
     endforeach()
 endfunction()
 
+# Scripts that play with several programs at once.
+malvone_script_tests(games SOURCES tests/storage/*.py)
+
 # Scripts that drive real windows or a real sound server; each starts what it needs by itself.
 # They depend on timing, so they run alone.
 if(MALVONE_QT)

@@ -29,7 +29,7 @@ MAIN, MESSAGE, LIST, MENU = "^Malvone  Vers", "^Malvone$", "^Beste Spieler", "^m
 WIDTH, HEIGHT = 755, 463
 
 # Places in pixels of the client area, below the menu bar; YES, NO and OK in their windows.
-NEW_GAME, LEAVE = (100, 362), (60, 412)
+NEW_GAME, LEAVE, INFO = (100, 362), (60, 412), (66, 149)
 YES, NO, OK, LIST_OK = (285, 206), (105, 206), (192, 207), (137, 300)
 MARGIN = (252, 12)
 BOARD = (257, 17, 448, 320)
