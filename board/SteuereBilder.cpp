@@ -15,24 +15,46 @@ namespace {
 
 constexpr Colour kRot = Rgb(0xFF0000);
 
-// Returns whether the cell has the colour, be it newly marked or not.
-bool MarkierenWennFarbe(int zelle, std::int16_t farbe)
+// Set when a test to the side finds the colour, even if the neighbour was marked already.
+bool RechtsGefunden = false;
+bool LinksGefunden = false;
+
+bool HatFarbe(int zelle, std::int16_t farbe)
 {
-    if (Zellwert(zelle) != farbe) {
-        return false;
+    return Zellwert(zelle) == farbe;
+}
+
+bool HatRechts(int zelle)
+{
+    return zelle < ObersteZelle(kSpalten - 1);
+}
+
+bool HatLinks(int zelle)
+{
+    return zelle > kReihen;
+}
+
+void MarkierenWennFarbe(int zelle, std::int16_t farbe)
+{
+    if (HatFarbe(zelle, farbe)) {
+        Satz(zelle).Markiert = True;
     }
-    Satz(zelle).Markiert = True;
-    return true;
 }
 
-bool RechtsPruefen(int zelle, std::int16_t farbe)
+void RechtsPruefenMelden(int zelle, std::int16_t farbe)
 {
-    return zelle <= kZellen - kReihen && MarkierenWennFarbe(zelle + kReihen, farbe);
+    RechtsPruefen(zelle, farbe);
+    if (HatFarbe(zelle + kReihen, farbe)) {
+        RechtsGefunden = true;
+    }
 }
 
-bool LinksPruefen(int zelle, std::int16_t farbe)
+void LinksPruefenMelden(int zelle, std::int16_t farbe)
 {
-    return zelle > kReihen && MarkierenWennFarbe(zelle - kReihen, farbe);
+    LinksPruefen(zelle, farbe);
+    if (HatFarbe(zelle - kReihen, farbe)) {
+        LinksGefunden = true;
+    }
 }
 
 // A direction within a column: a step, and the edge at which it ends.
@@ -48,8 +70,12 @@ constexpr Richtung kAbwaerts{+1, &Zelle::UntererRand};
 void StartGang(int zelle, std::int16_t farbe, Richtung richtung)
 {
     for (int i = zelle;; i += richtung.Schritt) {
-        RechtsPruefen(i, farbe);
-        LinksPruefen(i, farbe);
+        if (HatRechts(i)) {
+            RechtsPruefenMelden(i, farbe);
+        }
+        if (HatLinks(i)) {
+            LinksPruefenMelden(i, farbe);
+        }
         if (Satz(i).*richtung.Rand != False) {
             return;
         }
@@ -60,32 +86,22 @@ void StartGang(int zelle, std::int16_t farbe, Richtung richtung)
     }
 }
 
-// A pass goes on to the edge of the column and acts on each marked cell that it meets. Returns
-// whether a test forward has found the colour.
-using Seitentest = bool (*)(int zelle, std::int16_t farbe);
-bool Durchgang(int zelle, std::int16_t farbe, Richtung richtung, Seitentest vor, Seitentest zurueck)
+// A pass goes on to the edge of the column and acts on each marked cell that it meets.
+template<class SeitenPruefen>
+void Durchgang(int zelle, std::int16_t farbe, Richtung richtung, SeitenPruefen seitenPruefen)
 {
-    bool gefunden = false;
     for (int k = zelle;; k += richtung.Schritt) {
         const bool markiert = Satz(k).Markiert != False;
         if (markiert) {
-            gefunden = vor(k, farbe) || gefunden;
-            zurueck(k, farbe);
+            seitenPruefen(k);
         }
         if (Satz(k).*richtung.Rand != False) {
-            return gefunden;
+            return;
         }
         if (markiert) {
             MarkierenWennFarbe(k + richtung.Schritt, farbe);
         }
     }
-}
-
-bool Spaltengang(int zelle, std::int16_t farbe, Seitentest vor, Seitentest zurueck)
-{
-    const bool oben = Durchgang(zelle, farbe, kAufwaerts, vor, zurueck);
-    const bool unten = Durchgang(zelle, farbe, kAbwaerts, vor, zurueck);
-    return oben || unten;
 }
 
 int HoechsteMarkierte()
@@ -172,6 +188,16 @@ void FeldLeeren()
     frmTessel->cmdSchalt(kSchaltWiederholen).Visible = true;
 }
 
+void RechtsPruefen(int zelle, std::int16_t farbe)
+{
+    MarkierenWennFarbe(zelle + kReihen, farbe);
+}
+
+void LinksPruefen(int zelle, std::int16_t farbe)
+{
+    MarkierenWennFarbe(zelle - kReihen, farbe);
+}
+
 void StartSpalteMarkieren(int zelle)
 {
     const auto farbe = static_cast<std::int16_t>(Zellwert(zelle));
@@ -182,14 +208,38 @@ void StartSpalteMarkieren(int zelle)
 
 void NachRechtsAusbreiten(std::int16_t farbe)
 {
-    while (Spaltengang(HoechsteMarkierte(), farbe, RechtsPruefen, LinksPruefen)) {
-    }
+    const auto seitenPruefen = [farbe](int k) {
+        if (HatRechts(k)) {
+            RechtsPruefenMelden(k, farbe);
+        }
+        if (HatLinks(k)) {
+            LinksPruefen(k, farbe);
+        }
+    };
+    do {
+        RechtsGefunden = false;
+        const int hoechste = HoechsteMarkierte();
+        Durchgang(hoechste, farbe, kAufwaerts, seitenPruefen);
+        Durchgang(hoechste, farbe, kAbwaerts, seitenPruefen);
+    } while (RechtsGefunden);
 }
 
 void NachLinksAusbreiten(std::int16_t farbe)
 {
-    while (Spaltengang(NiedrigsteMarkierte(), farbe, LinksPruefen, RechtsPruefen)) {
-    }
+    const auto seitenPruefen = [farbe](int k) {
+        if (HatLinks(k)) {
+            LinksPruefenMelden(k, farbe);
+        }
+        if (HatRechts(k)) {
+            RechtsPruefen(k, farbe);
+        }
+    };
+    do {
+        LinksGefunden = false;
+        const int niedrigste = NiedrigsteMarkierte();
+        Durchgang(niedrigste, farbe, kAufwaerts, seitenPruefen);
+        Durchgang(niedrigste, farbe, kAbwaerts, seitenPruefen);
+    } while (LinksGefunden);
 }
 
 void GruppeVorschauen(std::int16_t farbe)

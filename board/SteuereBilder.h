@@ -32,6 +32,11 @@ void NachRechtsAusbreiten(std::int16_t farbe);
 void NachLinksAusbreiten(std::int16_t farbe);
 // Steps four and five: Sicherheit.h.
 
+// Marks the neighbour on that side if it has the colour. The caller makes sure that it exists: on
+// the right for cells below 131, on the left for cells above 10.
+void RechtsPruefen(int zelle, std::int16_t farbe);
+void LinksPruefen(int zelle, std::int16_t farbe);
+
 // Shows the marked stones with the faces of a colour, and what the move is worth in lblSumme. With
 // colour 0 the cells look empty.
 void GruppeVorschauen(std::int16_t farbe);
